@@ -1,0 +1,33 @@
+#ifndef VENDLINGUA_MSGFILES_HEX_H_
+#define VENDLINGUA_MSGFILES_HEX_H_
+
+#include <cstddef>
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace vendlingua {
+
+/// The value of 1 to 8 hexadecimal digits of either case; nothing for any other text.
+std::optional<std::uint32_t> ParseHex(std::string_view digits);
+
+/// As ParseHex, with 0 for what is not hexadecimal.
+std::uint32_t HexOrZero(std::string_view digits);
+
+/// Upper-case digits, zero-padded on the left to `width`; a value too wide loses its high digits.
+std::string HexField(std::uint64_t value, std::size_t width);
+
+/// Upper-case digits without padding.
+std::string Hex(std::uint64_t value);
+
+/// Appends the two digits of a byte.
+void AppendHexByte(std::string& out, std::uint8_t byte);
+
+/// `text` from the 1-based column `column` on, at most `length` characters; shorter, down to empty,
+/// where the text ends before.
+std::string_view Columns(std::string_view text, std::size_t column, std::size_t length);
+
+}  // namespace vendlingua
+
+#endif  // VENDLINGUA_MSGFILES_HEX_H_

@@ -1,0 +1,45 @@
+#ifndef VENDLINGUA_MSGFILES_MESSAGE_FILE_OPENER_H_
+#define VENDLINGUA_MSGFILES_MESSAGE_FILE_OPENER_H_
+
+#include <filesystem>
+#include <string>
+
+#include "model/workspace.h"
+#include "msgfiles/message_file_reader.h"
+#include "msgfiles/message_file_writer.h"
+#include "msgfiles/source_import.h"
+#include "platform/dialogs.h"
+
+namespace vendlingua {
+
+/// How File, Open ended.
+enum class OpenOutcome {
+  kOpened,
+  kCancelled,  ///< no file was chosen, or one whose type is not known
+  kRefused,    ///< the user was told why, or stopped an import: no file is open
+};
+
+/// Menu File, Open: one door for ".MSX" files, ".MES" files and assembler sources.
+class MessageFileOpener {
+ public:
+  MessageFileOpener(Workspace& workspace, Dialogs& dialogs, MessageFileReader& reader,
+                    MessageFileWriter& writer, SourceImport& import);
+
+  /// Saves pending changes if the user wants it, asks for a file and opens it. Throws Error when
+  /// the file cannot be opened; everything is then as it was.
+  OpenOutcome Open();
+
+ private:
+  std::filesystem::path AskPath();
+  bool OpenMesFile(const std::string& title);
+
+  Workspace& workspace_;
+  Dialogs& dialogs_;
+  MessageFileReader& reader_;
+  MessageFileWriter& writer_;
+  SourceImport& import_;
+};
+
+}  // namespace vendlingua
+
+#endif  // VENDLINGUA_MSGFILES_MESSAGE_FILE_OPENER_H_

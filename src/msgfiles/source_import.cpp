@@ -1,0 +1,168 @@
+#include "msgfiles/source_import.h"
+
+#include <algorithm>
+#include <limits>
+#include <optional>
+#include <string>
+
+#include "msgfiles/answers.h"
+#include "msgfiles/mes_file.h"
+#include "platform/errors.h"
+#include "platform/files.h"
+
+namespace vendlingua {
+namespace {
+
+constexpr const char* kErrorTitle = "ERRORE";
+// The questions are asked while at most so many "ORG" or ".SECT" lines were met.
+constexpr std::size_t kLastAskedDirective = 2;
+
+std::uint64_t AtMost(std::uint64_t value, std::uint64_t limit, const std::string& what) {
+  if (value > limit) {
+    throw Error(what + ": " + std::to_string(value) + " is too large, at most " +
+                std::to_string(limit) + " is possible");
+  }
+  return value;
+}
+
+}  // namespace
+
+std::uint32_t UsedMemory(std::size_t width, std::size_t texts, std::uint32_t languages) {
+  return static_cast<std::uint16_t>(width * texts) * languages;
+}
+
+SourceImport::SourceImport(Workspace& workspace, Dialogs& dialogs, EditingView& editing_view,
+                           MessageFileReader& reader, MessageFileWriter& writer)
+    : workspace_(workspace),
+      dialogs_(dialogs),
+      editing_view_(editing_view),
+      reader_(reader),
+      writer_(writer) {}
+
+bool SourceImport::ImportSource() {
+  MessageSet& set = workspace_.set;
+  const std::filesystem::path source = set.CurrentFileName;
+  std::vector<SourceSection> sections;
+  try {
+    sections = ParseSource(ReadFile(source));
+  } catch (const FileError&) {
+    throw;
+  } catch (const Error& error) {
+    throw FileError(source, error.what());
+  }
+  for (const SourceSection& section : sections) {
+    if (!ImportSection(section)) {
+      // The source must never be taken for the binary file that was to be made of it.
+      set.CloseFile();
+      workspace_.view.status = workspace_.ui_text[56];
+      return false;
+    }
+  }
+  std::fill_n(set.DestText.begin(), set.MessageCount(), DisplayText());
+  // No destination is open: a save now starts a new language instead of emptying the last one.
+  set.DestLang = 0;
+  editing_view_.VisRef();
+  return reader_.Reload();
+}
+
+bool SourceImport::ImportSection(const SourceSection& section) {
+  MessageSet& set = workspace_.set;
+  TakeTexts(section);
+  if (section.width_error) {
+    dialogs_.MessageBox({MessageIcon::kCritical, "Lughezza messaggi\nerrata", kErrorTitle});
+    return false;
+  }
+  if (section.directives <= kLastAskedDirective && !(AskMemoryLayout() && MessagesFit())) {
+    return false;
+  }
+  --set.LastCol;
+  --set.LastMsg;
+  workspace_.menus.mnuSave.enabled = true;
+  set.DestLang = 0;
+  const SaveOutcome outcome = writer_.Save();
+  if (outcome.result == SaveOutcome::kFailed) {
+    throw Error(outcome.reason);
+  }
+  if (outcome.result == SaveOutcome::kNothingWritten) {
+    return false;
+  }
+  workspace_.view.Command1Enabled = true;
+  return true;
+}
+
+// While a section is read `LastMsg` and `LastCol` count texts and width; they become last indices
+// when it is saved.
+void SourceImport::TakeTexts(const SourceSection& section) {
+  MessageSet& set = workspace_.set;
+  for (const std::uint16_t texts_before : section.name_labels) {
+    if (set.HeaderCount == 0) {
+      set.HeaderBit0 = kTrue;
+      set.HeaderCount = texts_before;
+    }
+  }
+  if (section.has_sdata) {
+    set.HeaderBit1 = kTrue;
+  }
+  for (std::size_t i = 0; i < section.texts.size(); ++i) {
+    set.OriginText[i] = DisplayText(section.texts[i]);
+    set.DestText[i] = set.OriginText[i];
+  }
+  set.LastMsg = static_cast<std::uint16_t>(section.texts.size());
+  set.LastCol = section.width;
+}
+
+bool SourceImport::AskMemoryLayout() {
+  MessageSet& set = workspace_.set;
+  const auto ask = [this](InputPurpose purpose, const char* prompt, const char* proposal) {
+    return dialogs_.InputBox({purpose, prompt, "Configura", proposal});
+  };
+  // A first byte of 32 or more marks a source: a file with more languages could not be opened
+  // again.
+  set.LangCount = static_cast<std::uint8_t>(
+      AtMost(LeadingNumber(ask(InputPurpose::kLanguageCount, "n° Lingue?", "1")),
+             kFirstSourceByte - 1, "n° Lingue"));
+  if (set.LangCount == 0) {
+    return false;
+  }
+  if (set.HeaderCount == 0) {
+    set.HeaderCount = static_cast<std::uint16_t>(
+        AtMost(LeadingNumber(ask(InputPurpose::kLanguageMessage, "n° messaggio lingua", "1")),
+               std::numeric_limits<std::uint16_t>::max(), "n° messaggio lingua"));
+    if (set.HeaderCount == 0) {
+      return false;
+    }
+  }
+  set.MemStart = static_cast<std::uint32_t>(
+      AtMost(LeadingNumber(ask(InputPurpose::kMemoryStart, "Inizio Memoria? (Byte)",
+                               set.HeaderBit1 != kFalse ? "&HFF8000" : "&H6000")),
+             std::numeric_limits<std::uint32_t>::max(), "Inizio Memoria"));
+  if (set.MemStart == 0) {
+    return false;
+  }
+  const std::string answer =
+      ask(InputPurpose::kMemoryLength, "Lunghezza Blocco Memoria? (Byte)", "&H2000");
+  const std::optional<std::uint64_t> length = WholeNumber(answer);
+  if (!length) {
+    throw Error("Lunghezza Blocco Memoria: \"" + answer + "\" is not a number");
+  }
+  set.MemLength = static_cast<std::uint32_t>(
+      AtMost(*length, std::numeric_limits<std::int32_t>::max(), "Lunghezza Blocco Memoria"));
+  return set.MemLength != 0;
+}
+
+bool SourceImport::MessagesFit() {
+  MessageSet& set = workspace_.set;
+  const std::uint32_t used_memory = UsedMemory(set.LastCol, set.LastMsg, set.LangCount);
+  set.LangStride = MesLangStride(set.MemLength, set.LangCount, set.LastCol);
+  if (used_memory <= set.MemLength) {
+    return true;
+  }
+  dialogs_.MessageBox({MessageIcon::kCritical,
+                       "Memoria messaggi\ninsufficente\nMessaggi N° " +
+                           std::to_string(set.LastMsg) + "\nMemoria usata " +
+                           std::to_string(used_memory),
+                       kErrorTitle});
+  return false;
+}
+
+}  // namespace vendlingua
