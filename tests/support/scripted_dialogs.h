@@ -1,0 +1,65 @@
+#ifndef VENDLINGUA_TESTS_SUPPORT_SCRIPTED_DIALOGS_H_
+#define VENDLINGUA_TESTS_SUPPORT_SCRIPTED_DIALOGS_H_
+
+#include <deque>
+#include <filesystem>
+#include <stdexcept>
+#include <string>
+#include <vector>
+
+#include "platform/dialogs.h"
+
+namespace vendlingua::test {
+
+/// Answers dialogs from queues, in order, and keeps every request. A request without an answer left
+/// fails the test: message boxes with one button need none.
+class ScriptedDialogs : public Dialogs {
+ public:
+  std::deque<std::string> input_answers;
+  std::deque<std::filesystem::path> file_answers;
+  std::deque<MessageAnswer> yes_no_answers;
+
+  std::vector<MessageRequest> messages;
+  std::vector<InputRequest> inputs;
+  std::vector<FileRequest> open_requests;
+  std::vector<FileRequest> save_requests;
+  int pending_event_runs = 0;
+
+  MessageAnswer MessageBox(const MessageRequest& request) override {
+    messages.push_back(request);
+    return request.buttons == MessageButtons::kYesNo ? Take(yes_no_answers, request.text)
+                                                     : MessageAnswer::kOk;
+  }
+
+  std::string InputBox(const InputRequest& request) override {
+    inputs.push_back(request);
+    return Take(input_answers, request.prompt);
+  }
+
+  std::filesystem::path OpenFile(const FileRequest& request) override {
+    open_requests.push_back(request);
+    return Take(file_answers, request.filter);
+  }
+
+  std::filesystem::path SaveFile(const FileRequest& request) override {
+    save_requests.push_back(request);
+    return Take(file_answers, request.filter);
+  }
+
+  void LetPendingEventsRun() override { ++pending_event_runs; }
+
+ private:
+  template <typename Answer>
+  static Answer Take(std::deque<Answer>& answers, const std::string& question) {
+    if (answers.empty()) {
+      throw std::logic_error("the script has no answer to: " + question);
+    }
+    Answer answer = answers.front();
+    answers.pop_front();
+    return answer;
+  }
+};
+
+}  // namespace vendlingua::test
+
+#endif  // VENDLINGUA_TESTS_SUPPORT_SCRIPTED_DIALOGS_H_

@@ -1,0 +1,54 @@
+#include "support/temporary_folder.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <fstream>
+#include <iterator>
+#include <random>
+#include <vector>
+
+namespace vendlingua::test {
+
+namespace fs = std::filesystem;
+
+TemporaryFolder::TemporaryFolder() {
+  std::random_device random;
+  do {
+    path_ = fs::temp_directory_path() / ("vendlingua-test-" + std::to_string(random()));
+  } while (!fs::create_directory(path_));
+}
+
+TemporaryFolder::~TemporaryFolder() {
+  std::error_code ignored;
+  fs::remove_all(path_, ignored);
+}
+
+fs::path TemporaryFolder::Write(std::string_view name, std::string_view content) const {
+  const fs::path file = path_ / name;
+  std::ofstream stream(file, std::ios::binary);
+  stream.write(content.data(), static_cast<std::streamsize>(content.size()));
+  EXPECT_TRUE(stream.good()) << file;
+  return file;
+}
+
+std::string TemporaryFolder::Names() const {
+  std::vector<std::string> names;
+  for (const auto& entry : fs::directory_iterator(path_)) {
+    names.push_back(entry.path().filename().string());
+  }
+  std::sort(names.begin(), names.end());
+  std::string joined;
+  for (const std::string& name : names) {
+    joined += (joined.empty() ? "" : " ") + name;
+  }
+  return joined;
+}
+
+std::string Slurp(const fs::path& path) {
+  std::ifstream stream(path, std::ios::binary);
+  EXPECT_TRUE(stream.good()) << path;
+  return {std::istreambuf_iterator<char>(stream), std::istreambuf_iterator<char>()};
+}
+
+}  // namespace vendlingua::test
