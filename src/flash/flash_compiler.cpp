@@ -1,6 +1,5 @@
 #include "flash/flash_compiler.h"
 
-#include <algorithm>
 #include <system_error>
 
 #include "flash/identified_copy.h"
@@ -26,14 +25,6 @@ void Write(const fs::path& path, const std::string& content, CompileOutcome& out
 std::string FirstLine(const std::string& records) {
   const auto line = TextLines(records).Next();
   return line ? std::string(line->text) : std::string();
-}
-
-// The path without the dot and the three letters of its extension.
-fs::path WithoutExtension(const fs::path& flash_file) {
-  constexpr std::size_t kExtensionLength = 4;
-  std::u32string text = flash_file.u32string();
-  text.resize(text.size() - std::min(text.size(), kExtensionLength));
-  return text;
 }
 
 }  // namespace
@@ -88,7 +79,7 @@ void FlashCompiler::Run(const fs::path& flash_file, CompileOutcome& outcome) {
 fs::path FlashCompiler::AskPath(FilePurpose purpose, const std::string& extension,
                                 bool overwrite_prompt) {
   const std::string wildcard = "*." + extension;
-  const fs::path path = dialogs_.SaveFile({.purpose = purpose,
+  fs::path path = dialogs_.SaveFile({.purpose = purpose,
                                            .initial_name = wildcard,
                                            .default_extension = extension,
                                            .filter = "Flash File(" + wildcard + ")|" + wildcard,
@@ -195,7 +186,7 @@ bool FlashCompiler::WriteNamedCopy(const fs::path& flash_file, const std::string
 
 void FlashCompiler::WriteSectionFiles(const fs::path& flash_file, CompileOutcome& outcome) {
   section_files_.ReadBack(flash_file, dialogs_, workspace_.ui_text);
-  for (const fs::path& path : section_files_.WriteSections(WithoutExtension(flash_file))) {
+  for (const fs::path& path : section_files_.WriteSections(SectionBase(flash_file))) {
     outcome.written.push_back(path);
   }
 }

@@ -25,6 +25,13 @@ fs::path WithSuffix(fs::path base, const std::string& suffix) {
 
 }  // namespace
 
+fs::path SectionBase(const fs::path& flash_file) {
+  constexpr std::size_t kExtensionLength = 4;
+  std::u32string text = flash_file.u32string();
+  text.resize(text.size() - std::min(text.size(), kExtensionLength));
+  return text;
+}
+
 bool SectionFiles::ReadBack(const fs::path& flash_file, Dialogs& dialogs, const UiText& ui_text) {
   const std::string content = ReadFile(flash_file);
   TextLines lines(content);

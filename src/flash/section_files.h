@@ -14,6 +14,10 @@
 
 namespace vendlingua {
 
+/// The base path of the section files of a flash file: its path without the last four characters,
+/// which are the extension.
+std::filesystem::path SectionBase(const std::filesystem::path& flash_file);
+
 /// The board's 16-bit address space as read back from a flash file, and the raw binary files of its
 /// five sections. Lives as long as the program; nothing is cleared between runs.
 class SectionFiles {

@@ -34,8 +34,8 @@ std::uint16_t MsxLangStride(std::uint32_t mem_length) {
 }
 
 float MesBlockLength(std::uint8_t last_col, std::uint16_t lang_stride) {
-  const std::uint32_t length =
-      (std::uint32_t{last_col} + 1) * (std::uint32_t{lang_stride} + 1) + NameField::kBytes;
+  const std::size_t length =
+      (std::size_t{last_col} + 1) * (std::size_t{lang_stride} + 1) + NameField::kBytes;
   return static_cast<std::int16_t>(static_cast<std::uint16_t>(length));
 }
 

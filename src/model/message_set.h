@@ -6,6 +6,7 @@
 #include <cstdint>
 #include <filesystem>
 #include <string>
+#include <string_view>
 
 #include "model/display_text.h"
 
@@ -29,8 +30,8 @@ inline constexpr std::size_t kDefaultMessageWidth = 16;
 using DefaultMessage = std::array<DisplayCode, kDefaultMessageWidth>;
 
 /// Values of `CurrentFileType`.
-inline constexpr char kMesType[] = ".MES";
-inline constexpr char kMsxType[] = ".MSX";
+inline constexpr std::string_view kMesType = ".MES";
+inline constexpr std::string_view kMsxType = ".MSX";
 
 /// The display messages that are being edited: the dimensions of the board's message memory as the
 /// open file declares them, the origin and the destination texts, the built-in table and the state

@@ -2,6 +2,7 @@
 #define VENDLINGUA_MODEL_WORKSPACE_H_
 
 #include <filesystem>
+#include <string>
 
 #include "model/menu_state.h"
 #include "model/message_set.h"
@@ -13,8 +14,10 @@ namespace vendlingua {
 /// The folders that operations work in. They are kept here and not in the process, so that a path
 /// given on the command line keeps its meaning.
 struct Folders {
-  std::filesystem::path program;  ///< of the executable; language files and settings lie there
-  std::filesystem::path current;  ///< where dialogs start and identified copies go
+  std::filesystem::path program;   ///< of the executable; language files and settings lie there
+  std::filesystem::path current;   ///< where dialogs start and identified copies go
+  std::filesystem::path settings;  ///< the settings file, beside the program
+  std::filesystem::path user_settings;  ///< the same where that folder is read-only
 };
 
 /// Everything that one program run knows. main() owns the one instance and hands it down by
@@ -24,6 +27,8 @@ struct Workspace {
   MenuState menus;
   ViewState view;
   UiText ui_text;
+  /// Name of the interface language in use: the base name of its file.
+  std::string LanguageName;
   Folders folders;
 };
 

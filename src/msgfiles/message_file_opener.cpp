@@ -7,10 +7,8 @@
 #include "platform/files.h"
 
 namespace vendlingua {
-namespace {
 
-// From the first dot of the file's name on, in upper case: "TEST.MSX.MES" has the type ".MSX.MES".
-std::string FileType(const std::filesystem::path& path) {
+std::string MessageFileType(const std::filesystem::path& path) {
   std::string name = PathText(path.filename());
   const std::size_t dot = name.find('.');
   std::string type = dot == std::string::npos ? "" : name.substr(dot);
@@ -27,8 +25,6 @@ bool IsAssemblerSource(const std::filesystem::path& path) {
   return static_cast<std::uint8_t>(content.front()) >= kFirstSourceByte;
 }
 
-}  // namespace
-
 MessageFileOpener::MessageFileOpener(Workspace& workspace, Dialogs& dialogs,
                                      MessageFileReader& reader, MessageFileWriter& writer,
                                      SourceImport& import)
@@ -43,11 +39,23 @@ OpenOutcome MessageFileOpener::Open() {
   if (path.empty()) {
     return OpenOutcome::kCancelled;
   }
+  return OpenPath(path, MessageFileType(path));
+}
+
+OpenOutcome MessageFileOpener::Import(const std::filesystem::path& path) {
+  if (!IsAssemblerSource(path)) {
+    throw FileError(path, "is a binary message file, not an assembler source");
+  }
+  return OpenPath(path, std::string(kMesType));
+}
+
+OpenOutcome MessageFileOpener::OpenPath(const std::filesystem::path& path,
+                                        const std::string& type) {
   Rollback rollback(workspace_);
   workspace_.folders.current = path.parent_path();
   MessageSet& set = workspace_.set;
   set.CurrentFileName = path;
-  set.CurrentFileType = FileType(path);
+  set.CurrentFileType = type;
   const std::string title = PathText(path.filename());
   bool opened = false;
   if (set.IsMsx()) {

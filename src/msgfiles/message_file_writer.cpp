@@ -55,7 +55,7 @@ MessageFileWriter::MessageFileWriter(Workspace& workspace, Dialogs& dialogs,
     : workspace_(workspace), dialogs_(dialogs), editing_view_(editing_view), reader_(reader) {}
 
 SaveOutcome MessageFileWriter::Save() {
-  const SaveOutcome outcome = SaveUnderTrap();
+  SaveOutcome outcome = SaveUnderTrap();
   const UiText& ui_text = workspace_.ui_text;
   std::string& status = workspace_.view.status;
   if (outcome.result == SaveOutcome::kSaved) {
@@ -94,7 +94,7 @@ NameField MessageFileWriter::AskNewLanguageName() {
     const std::string answer =
         dialogs_.InputBox({InputPurpose::kNewLanguageName, ui_text[45], ui_text[46], ""});
     try {
-      const NameField name = NameField::FromAnswer(answer);
+      NameField name = NameField::FromAnswer(answer);
       if (name.IsBlank()) {
         dialogs_.MessageBox({MessageIcon::kCritical, ui_text[32], ""});
       } else if (NameIsTaken(name)) {
@@ -139,7 +139,7 @@ std::uint8_t MessageFileWriter::HeaderFlags() const {
 fs::path MessageFileWriter::AskSavePath() {
   const std::string& type = workspace_.set.CurrentFileType;
   const std::string wildcard = "*" + type;
-  const fs::path path = dialogs_.SaveFile({.purpose = FilePurpose::kSaveMessages,
+  fs::path path = dialogs_.SaveFile({.purpose = FilePurpose::kSaveMessages,
                                            .initial_name = wildcard,
                                            .default_extension = type.substr(1),
                                            .filter = "Message(" + wildcard + ")|" + wildcard,

@@ -1,0 +1,45 @@
+#ifndef VENDLINGUA_CLI_CLI_DIALOGS_H_
+#define VENDLINGUA_CLI_CLI_DIALOGS_H_
+
+#include <deque>
+#include <filesystem>
+#include <map>
+#include <stdexcept>
+#include <string>
+#include <vector>
+
+#include "platform/dialogs.h"
+
+namespace vendlingua::cli {
+
+/// A question of an operation that no option answers: the command stops. It is no
+/// vendlingua::Error, so that no operation takes it for a failure of its own.
+class UnansweredQuestion : public std::runtime_error {
+ public:
+  using std::runtime_error::runtime_error;
+};
+
+/// Answers the questions of the operations with the options of the command line. Message boxes are
+/// printed to stderr as "title: text" and kept for the JSON output.
+class CliDialogs : public Dialogs {
+ public:
+  /// The answers to one kind of question; the last one is given again and again, except that names
+  /// of languages are used up one by one.
+  std::map<InputPurpose, std::deque<std::string>> inputs;
+  std::map<FilePurpose, std::filesystem::path> files;
+
+  const std::vector<MessageRequest>& messages() const { return messages_; }
+
+  MessageAnswer MessageBox(const MessageRequest& request) override;
+  std::string InputBox(const InputRequest& request) override;
+  std::filesystem::path OpenFile(const FileRequest& request) override;
+  std::filesystem::path SaveFile(const FileRequest& request) override;
+  void LetPendingEventsRun() override {}
+
+ private:
+  std::vector<MessageRequest> messages_;
+};
+
+}  // namespace vendlingua::cli
+
+#endif  // VENDLINGUA_CLI_CLI_DIALOGS_H_

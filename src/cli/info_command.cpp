@@ -1,0 +1,78 @@
+#include <sstream>
+
+#include "cli/commands.h"
+#include "platform/errors.h"
+
+namespace vendlingua::cli {
+namespace {
+
+struct InfoOptions {
+  std::string file;
+};
+
+std::size_t CheckedDisplayType(const MenuState& menus) {
+  std::size_t type = 0;
+  while (type + 1 < kDisplayTypes && !menus.mnuLCD[type].checked) {
+    ++type;
+  }
+  return type;
+}
+
+Json LanguagesAsJson(const MenuState& menus) {
+  Json languages = Json::array();
+  for (std::size_t i = 0; i < menus.mnuori.size(); ++i) {
+    if (menus.mnuori[i].visible) {
+      languages.push_back({{"index", i}, {"name", menus.mnuori[i].caption}});
+    }
+  }
+  return languages;
+}
+
+std::string AsText(const Json& info) {
+  std::ostringstream text;
+  for (const auto& [key, value] : info.items()) {
+    if (key == "languages") {
+      for (const Json& language : value) {
+        text << "language " << language["index"] << ": " << language["name"].get<std::string>()
+             << '\n';
+      }
+    } else {
+      text << key << ": " << (value.is_string() ? value.get<std::string>() : value.dump()) << '\n';
+    }
+  }
+  return text.str();
+}
+
+void Run(Session& session, const InfoOptions& options) {
+  session.Open(options.file);
+  const MessageSet& set = session.set();
+  const MenuState& menus = session.engine.workspace.menus;
+  const Json info = {{"file", options.file},
+                     {"type", set.CurrentFileType},
+                     {"langCount", set.LangCount},
+                     {"lastCol", set.LastCol},
+                     {"headerBit1", set.HeaderBit1 != kFalse},
+                     {"headerBit0", set.HeaderBit0 != kFalse},
+                     {"displayType", CheckedDisplayType(menus)},
+                     {"headerCount", set.HeaderCount},
+                     {"lastMsg", set.LastMsg},
+                     {"memStart", set.MemStart},
+                     {"memLength", set.MemLength},
+                     {"langStride", set.LangStride},
+                     {"blockLength", static_cast<int>(set.BlockLength)},
+                     {"languages", LanguagesAsJson(menus)}};
+  session.Print(info, AsText(info));
+}
+
+}  // namespace
+
+void AddInfoCommand(CLI::App& app, Session& session) {
+  const auto options = std::make_shared<InfoOptions>();
+  CLI::App* command =
+      app.add_subcommand("info", "Show dimensions and languages of a message file.");
+  command->footer("Example: vendlingua-cli info FW0417AB.MES --json");
+  command->add_option("FILE", options->file, "message file (.MES or .MSX)")->required();
+  command->callback([&session, options] { Run(session, *options); });
+}
+
+}  // namespace vendlingua::cli

@@ -1,0 +1,62 @@
+#include <algorithm>
+#include <system_error>
+
+#include "cli/commands.h"
+#include "platform/errors.h"
+
+namespace vendlingua::cli {
+namespace {
+
+namespace fs = std::filesystem;
+
+struct SectionsOptions {
+  std::string file;
+  std::string output;
+};
+
+void RefuseToOverwriteInput(const fs::path& input, const fs::path& base) {
+  for (const char* suffix : {".mtx", ".SA0", ".SA1", ".SA2", ".SA3", ".SA4"}) {
+    fs::path output = base;
+    output += suffix;
+    std::error_code not_there;
+    if (fs::equivalent(input, output, not_there)) {
+      throw CommandFailed(PathText(input) + ": would be overwritten; give another --output");
+    }
+  }
+}
+
+void Run(Session& session, const SectionsOptions& options) {
+  const fs::path base =
+      options.output.empty() ? SectionBase(options.file) : fs::path(options.output);
+  RefuseToOverwriteInput(options.file, base);
+  SectionFiles& sections = session.engine.section_files;
+  if (!sections.ReadBack(options.file, session.dialogs, session.engine.workspace.ui_text)) {
+    throw CommandFailed(options.file + ": was not read to its end, no section file was written");
+  }
+  const auto& used = sections.SectionUsed();
+  if (std::all_of(used.begin(), used.end(), [](std::int32_t length) { return length == 0; })) {
+    throw CommandFailed(options.file + ": holds no S2 record of the board's sections");
+  }
+  Json written = Json::array();
+  std::string text;
+  for (const fs::path& path : sections.WriteSections(base)) {
+    written.push_back(PathText(path));
+    text += PathText(path) + "\n";
+  }
+  session.Print({{"written", written}, {"messages", session.MessagesAsJson()}}, text);
+}
+
+}  // namespace
+
+void AddSectionsCommand(CLI::App& app, Session& session) {
+  const auto options = std::make_shared<SectionsOptions>();
+  CLI::App* command =
+      app.add_subcommand("sections", "Cut a flash file into the section files of the board.");
+  command->footer("Example: vendlingua-cli sections FW0417AB.MHX --output out/FW0417AB");
+  command->add_option("FILE", options->file, "flash file (.MHX)")->required();
+  command->add_option("--output", options->output,
+                      "path of the section files without extension, that of FILE if not given");
+  command->callback([&session, options] { Run(session, *options); });
+}
+
+}  // namespace vendlingua::cli

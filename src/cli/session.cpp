@@ -1,0 +1,115 @@
+#include "cli/session.h"
+
+#include <iostream>
+
+#include "editor/interface_language.h"
+#include "platform/errors.h"
+#include "platform/executable_folder.h"
+
+namespace vendlingua::cli {
+namespace {
+
+const char* IconName(MessageIcon icon) {
+  switch (icon) {
+    case MessageIcon::kCritical:
+      return "critical";
+    case MessageIcon::kExclamation:
+      return "exclamation";
+    case MessageIcon::kInformation:
+      return "information";
+    case MessageIcon::kQuestion:
+      return "question";
+  }
+  return "";
+}
+
+}  // namespace
+
+Session::Session() : engine(dialogs) {
+  engine.workspace.folders.program = ExecutableFolder();
+  try {
+    LoadLanguageFile(engine.workspace, "english.lng");
+  } catch (const FileError&) {
+    // Without the file the few boxes that take their text from it are blank; commands work all the
+    // same.
+  }
+}
+
+void Session::Open(const std::filesystem::path& file) {
+  const std::string type = MessageFileType(file);
+  if (type != kMesType && type != kMsxType) {
+    throw CommandFailed(PathText(file) +
+                        ": is no message file; its name must end in .MES or .MSX and hold no "
+                        "other dot");
+  }
+  if (type == kMesType && IsAssemblerSource(file)) {
+    throw CommandFailed(PathText(file) +
+                        ": is no binary message file; the command \"import\" makes one of an "
+                        "assembler source");
+  }
+  dialogs.files[FilePurpose::kOpenMessages] = file;
+  if (engine.opener.Open() != OpenOutcome::kOpened) {
+    throw CommandFailed(PathText(file) + ": was not opened");
+  }
+}
+
+void Session::OpenDestination(int language, int message) {
+  LanguageName(language);
+  if (language == 0) {
+    throw CommandFailed(PathText(set().CurrentFileName) +
+                        ": language 0 is the reference and cannot be changed");
+  }
+  if (message < 0 || message > set().LastMsg) {
+    throw CommandFailed(PathText(set().CurrentFileName) + ": has no message " +
+                        std::to_string(message) + ", they run from 0 to " +
+                        std::to_string(set().LastMsg));
+  }
+  engine.languages.ChooseOrigin(0);
+  // Moving stores the message that is left, so the move comes before the texts are read.
+  engine.view.Scroll(message);
+  engine.languages.ChooseDestination(language);
+}
+
+void Session::Save() {
+  const SaveOutcome outcome = engine.writer.Save();
+  if (outcome.result != SaveOutcome::kSaved) {
+    throw CommandFailed(outcome.reason);
+  }
+}
+
+const std::string& Session::LanguageName(int language) {
+  const auto& languages = engine.workspace.menus.mnuori;
+  const auto index = static_cast<std::size_t>(language);
+  if (language < 0 || index >= languages.size() || !languages[index].visible) {
+    throw CommandFailed(PathText(set().CurrentFileName) + ": has no language " +
+                        std::to_string(language));
+  }
+  return languages[index].caption;
+}
+
+void Session::Print(const Json& json, const std::string& text) const {
+  std::cout << (json_output ? json.dump(2) + "\n" : text) << std::flush;
+  if (!std::cout) {
+    throw CommandFailed("the output cannot be written");
+  }
+}
+
+Json Session::MessagesAsJson() const {
+  Json messages = Json::array();
+  for (const MessageRequest& message : dialogs.messages()) {
+    messages.push_back(
+        {{"icon", IconName(message.icon)}, {"title", message.title}, {"text", message.text}});
+  }
+  return messages;
+}
+
+DisplayCodes DisplayCodesOf(const std::string& utf8) {
+  CodesFromUtf8 converted = ToDisplayCodes(utf8);
+  if (converted.unknown) {
+    throw CommandFailed("\"" + utf8 + "\": the display does not have the character \"" +
+                        *converted.unknown + "\"");
+  }
+  return converted.codes;
+}
+
+}  // namespace vendlingua::cli

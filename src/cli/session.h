@@ -1,0 +1,58 @@
+#ifndef VENDLINGUA_CLI_SESSION_H_
+#define VENDLINGUA_CLI_SESSION_H_
+
+#include <filesystem>
+#include <nlohmann/json.hpp>
+#include <stdexcept>
+#include <string>
+
+#include "app/engine.h"
+#include "cli/cli_dialogs.h"
+
+namespace vendlingua::cli {
+
+using Json = nlohmann::ordered_json;
+
+/// Why a command was refused or failed: exit status 1, the reason on stderr.
+class CommandFailed : public std::runtime_error {
+ public:
+  using std::runtime_error::runtime_error;
+};
+
+/// One run of the program: the engine, the dialogs that answer it, and the output.
+class Session {
+ public:
+  Session();
+
+  CliDialogs dialogs;
+  Engine engine;
+  bool json_output = false;
+
+  MessageSet& set() { return engine.workspace.set; }
+
+  /// Opens a message file. Throws CommandFailed or Error when it is none.
+  void Open(const std::filesystem::path& file);
+
+  /// Opens language `language` as destination with message `message` shown, and entry 0 as origin.
+  void OpenDestination(int language, int message);
+
+  /// Saves the open file in place.
+  void Save();
+
+  /// The name of language `language` as the menus show it. Throws CommandFailed when the file has
+  /// no such language.
+  const std::string& LanguageName(int language);
+
+  /// Prints `json` with --json, otherwise `text`.
+  void Print(const Json& json, const std::string& text) const;
+
+  /// The message boxes so far, for the JSON output.
+  Json MessagesAsJson() const;
+};
+
+/// UTF-8 text as display codes. Throws CommandFailed when a character has none.
+DisplayCodes DisplayCodesOf(const std::string& utf8);
+
+}  // namespace vendlingua::cli
+
+#endif  // VENDLINGUA_CLI_SESSION_H_

@@ -1,0 +1,35 @@
+#include "cli/staged_file.h"
+
+#include <random>
+#include <system_error>
+#include <utility>
+
+#include "platform/errors.h"
+
+namespace vendlingua::cli {
+
+namespace fs = std::filesystem;
+
+StagedFile::StagedFile(fs::path target) : target_(std::move(target)) {
+  std::random_device random;
+  do {
+    staging_ = target_;
+    staging_.replace_filename("~" + std::to_string(random()));
+    staging_ += target_.extension();
+  } while (fs::exists(staging_));
+}
+
+StagedFile::~StagedFile() {
+  std::error_code ignored;
+  fs::remove(staging_, ignored);
+}
+
+void StagedFile::Commit() {
+  std::error_code error;
+  fs::rename(staging_, target_, error);
+  if (error) {
+    throw FileError(target_, "cannot be written: " + error.message());
+  }
+}
+
+}  // namespace vendlingua::cli

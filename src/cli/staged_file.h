@@ -1,0 +1,30 @@
+#ifndef VENDLINGUA_CLI_STAGED_FILE_H_
+#define VENDLINGUA_CLI_STAGED_FILE_H_
+
+#include <filesystem>
+
+namespace vendlingua::cli {
+
+/// A new file that takes its name only when it is complete, so that a command that is refused
+/// half-way leaves neither a piece of a file nor a damaged old one.
+class StagedFile {
+ public:
+  explicit StagedFile(std::filesystem::path target);
+  StagedFile(const StagedFile&) = delete;
+  StagedFile& operator=(const StagedFile&) = delete;
+  ~StagedFile();
+
+  /// Where to write until then: beside the target, with its extension.
+  const std::filesystem::path& path() const { return staging_; }
+
+  /// Gives the file its name. Throws FileError.
+  void Commit();
+
+ private:
+  std::filesystem::path target_;
+  std::filesystem::path staging_;
+};
+
+}  // namespace vendlingua::cli
+
+#endif  // VENDLINGUA_CLI_STAGED_FILE_H_

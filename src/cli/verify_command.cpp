@@ -1,0 +1,52 @@
+#include "cli/commands.h"
+#include "msgfiles/file_check.h"
+#include "platform/errors.h"
+
+namespace vendlingua::cli {
+namespace {
+
+Findings Check(const std::string& file) {
+  try {
+    return CheckFile(file);
+  } catch (const FileError& error) {
+    return {error.what()};
+  }
+}
+
+void Run(Session& session, const std::vector<std::string>& files) {
+  Json report = Json::array();
+  std::string text;
+  std::size_t unsound = 0;
+  for (const std::string& file : files) {
+    const Findings findings = Check(file);
+    report.push_back({{"file", file}, {"findings", findings}});
+    for (const std::string& finding : findings) {
+      text.append(file).append(": ").append(finding).append("\n");
+    }
+    if (findings.empty()) {
+      text += file + ": sound\n";
+    } else {
+      ++unsound;
+    }
+  }
+  session.Print({{"files", report}}, text);
+  if (unsound != 0) {
+    throw CommandFailed(std::to_string(unsound) + " of " + std::to_string(files.size()) +
+                        " files are not sound");
+  }
+}
+
+}  // namespace
+
+void AddVerifyCommand(CLI::App& app, Session& session) {
+  const auto files = std::make_shared<std::vector<std::string>>();
+  CLI::App* command = app.add_subcommand("verify", "Say whether files are sound.");
+  command->footer(
+      "Files of S-records: syntax, count, checksum, gaps and overlaps, line by line.\n"
+      ".MES files: header, sizes, block count, names.\n"
+      "Example: vendlingua-cli verify FW0417AB.MES FW0417AB.MHX MP0417AA.MSX");
+  command->add_option("FILE", *files, "files to check")->required();
+  command->callback([&session, files] { Run(session, *files); });
+}
+
+}  // namespace vendlingua::cli
