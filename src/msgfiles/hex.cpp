@@ -1,17 +1,12 @@
 #include "msgfiles/hex.h"
 
-#include <array>
-
 namespace vendlingua {
 namespace {
 
 constexpr std::string_view kDigits = "0123456789ABCDEF";
-constexpr std::uint8_t kNoDigit = 0xFF;
-
-// The value of every character as a hexadecimal digit.
-constexpr auto kDigitValues = [] {
+constexpr std::array<std::uint8_t, 256> MakeDigitValues() {
   std::array<std::uint8_t, 256> values{};
-  values.fill(kNoDigit);
+  values.fill(kNoHexDigit);
   for (std::uint8_t value = 0; value < 16; ++value) {
     const auto digit = static_cast<unsigned char>(kDigits[value]);
     values[digit] = value;
@@ -20,9 +15,20 @@ constexpr auto kDigitValues = [] {
     }
   }
   return values;
-}();
+}
+
+constexpr std::array<HexPair, 256> MakePairs() {
+  std::array<HexPair, 256> pairs{};
+  for (std::size_t byte = 0; byte < pairs.size(); ++byte) {
+    pairs[byte] = {kDigits[byte >> 4U], kDigits[byte & 0xFU]};
+  }
+  return pairs;
+}
 
 }  // namespace
+
+constexpr std::array<HexPair, 256> kHexPairs = MakePairs();
+constexpr std::array<std::uint8_t, 256> kHexDigitValues = MakeDigitValues();
 
 std::optional<std::uint32_t> ParseHex(std::string_view digits) {
   if (digits.empty() || digits.size() > 8) {
@@ -30,8 +36,8 @@ std::optional<std::uint32_t> ParseHex(std::string_view digits) {
   }
   std::uint32_t value = 0;
   for (const char digit : digits) {
-    const std::uint8_t digit_value = kDigitValues[static_cast<unsigned char>(digit)];
-    if (digit_value == kNoDigit) {
+    const std::uint8_t digit_value = kHexDigitValues[static_cast<unsigned char>(digit)];
+    if (digit_value == kNoHexDigit) {
       return std::nullopt;
     }
     value = (value << 4U) | digit_value;
@@ -50,17 +56,18 @@ std::string HexField(std::uint64_t value, std::size_t width) {
   return field;
 }
 
-std::string Hex(std::uint64_t value) {
-  std::size_t width = 1;
-  while (width < 16 && (value >> (4 * width)) != 0) {
-    ++width;
-  }
-  return HexField(value, width);
+std::string Hex(std::uint64_t value, std::size_t least_digits) {
+  std::array<char, 16> digits;
+  std::size_t first = digits.size();
+  do {
+    digits[--first] = kDigits[value & 0xFU];
+    value >>= 4U;
+  } while (value != 0 || digits.size() - first < least_digits);
+  return {digits.data() + first, digits.size() - first};
 }
 
 void AppendHexByte(std::string& out, std::uint8_t byte) {
-  out.push_back(kDigits[byte >> 4U]);
-  out.push_back(kDigits[byte & 0xFU]);
+  out.append(kHexPairs[byte].data(), kHexPairs[byte].size());
 }
 
 std::string_view Columns(std::string_view text, std::size_t column, std::size_t length) {

@@ -1,6 +1,7 @@
 #ifndef VENDLINGUA_MSGFILES_HEX_H_
 #define VENDLINGUA_MSGFILES_HEX_H_
 
+#include <array>
 #include <cstddef>
 #include <cstdint>
 #include <optional>
@@ -18,11 +19,20 @@ std::uint32_t HexOrZero(std::string_view digits);
 /// Upper-case digits, zero-padded on the left to `width`; a value too wide loses its high digits.
 std::string HexField(std::uint64_t value, std::size_t width);
 
-/// Upper-case digits without padding.
-std::string Hex(std::uint64_t value);
+/// Upper-case digits, as many as the value has but at least `least_digits`.
+std::string Hex(std::uint64_t value, std::size_t least_digits = 1);
+
+/// The two upper-case digits of every byte.
+using HexPair = std::array<char, 2>;
+extern const std::array<HexPair, 256> kHexPairs;
 
 /// Appends the two digits of a byte.
 void AppendHexByte(std::string& out, std::uint8_t byte);
+
+/// The value of every character as a hexadecimal digit of either case, `kNoHexDigit` where it is
+/// none.
+inline constexpr std::uint8_t kNoHexDigit = 0xF0;
+extern const std::array<std::uint8_t, 256> kHexDigitValues;
 
 /// `text` from the 1-based column `column` on, at most `length` characters; shorter, down to empty,
 /// where the text ends before.

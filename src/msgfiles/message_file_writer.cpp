@@ -140,11 +140,11 @@ fs::path MessageFileWriter::AskSavePath() {
   const std::string& type = workspace_.set.CurrentFileType;
   const std::string wildcard = "*" + type;
   fs::path path = dialogs_.SaveFile({.purpose = FilePurpose::kSaveMessages,
-                                           .initial_name = wildcard,
-                                           .default_extension = type.substr(1),
-                                           .filter = "Message(" + wildcard + ")|" + wildcard,
-                                           .overwrite_prompt = true,
-                                           .folder = workspace_.folders.current});
+                                     .initial_name = wildcard,
+                                     .default_extension = type.substr(1),
+                                     .filter = "Message(" + wildcard + ")|" + wildcard,
+                                     .overwrite_prompt = true,
+                                     .folder = workspace_.folders.current});
   if (path == wildcard) {
     return {};
   }

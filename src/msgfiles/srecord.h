@@ -35,7 +35,7 @@ std::uint32_t SumOfHexPairs(std::string_view text);
 /// each ended by CR LF. The first byte has the address `start`. Addresses are written as they come,
 /// without padding: an S1 file that passes 0xFFFF gets five digits.
 std::string FormatSRecords(std::span<const std::uint8_t> image, std::uint32_t start,
-                           SRecordType type);
+                           SRecordType type, std::size_t address_digits = 1);
 
 /// Why a line is no sound S-record.
 class SRecordSyntaxError : public std::runtime_error {

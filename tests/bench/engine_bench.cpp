@@ -1,0 +1,134 @@
+#include <benchmark/benchmark.h>
+
+#include <filesystem>
+#include <random>
+#include <string>
+#include <vector>
+
+#include "app/engine.h"
+#include "flash/language_selection.h"
+#include "msgfiles/srecord.h"
+#include "msgfiles/text_lines.h"
+
+namespace vendlingua {
+namespace {
+
+namespace fs = std::filesystem;
+
+// Answers every question with the one path that was set for its purpose.
+class BenchDialogs : public Dialogs {
+ public:
+  fs::path messages;
+  fs::path flash_file;
+  fs::path copy;
+
+  MessageAnswer MessageBox(const MessageRequest& /*request*/) override {
+    return MessageAnswer::kNo;
+  }
+  std::string InputBox(const InputRequest& /*request*/) override { return "BENCH"; }
+  fs::path OpenFile(const FileRequest& /*request*/) override { return messages; }
+  fs::path SaveFile(const FileRequest& request) override {
+    return request.purpose == FilePurpose::kIdentifiedCopy ? copy : flash_file;
+  }
+  void LetPendingEventsRun() override {}
+};
+
+// A private copy of the nine-language sample, opened, with its first two languages chosen.
+class OpenSample : public benchmark::Fixture {
+ public:
+  void SetUp(benchmark::State& /*state*/) override {
+    folder_ = fs::temp_directory_path() / ("vendlingua-bench-" + std::to_string(Random()));
+    fs::create_directory(folder_);
+    dialogs_.messages = folder_ / "FW0417AB.MES";
+    dialogs_.flash_file = folder_ / "FW0417AB.MHX";
+    dialogs_.copy = folder_ / "MP0417AA.MSX";
+    fs::copy_file(fs::path(VENDLINGUA_SAMPLES_FOLDER) / "FW0417AB.MES", dialogs_.messages);
+    engine_ = std::make_unique<Engine>(dialogs_);
+    engine_->opener.Open();
+    engine_->languages.ChooseOrigin(0);
+    engine_->languages.ChooseDestination(2);
+  }
+
+  void TearDown(benchmark::State& /*state*/) override {
+    engine_.reset();
+    fs::remove_all(folder_);
+  }
+
+ protected:
+  static unsigned Random() { return std::random_device()(); }
+
+  fs::path folder_;
+  BenchDialogs dialogs_;
+  std::unique_ptr<Engine> engine_;
+};
+
+BENCHMARK_F(OpenSample, LoadSet)(benchmark::State& state) {
+  for (auto _ : state) {
+    engine_->opener.Open();
+  }
+}
+
+BENCHMARK_F(OpenSample, SwitchLanguage)(benchmark::State& state) {
+  int language = 2;
+  for (auto _ : state) {
+    language = 5 - language;
+    engine_->languages.ChooseDestination(language);
+  }
+}
+
+BENCHMARK_F(OpenSample, SaveLanguage)(benchmark::State& state) {
+  for (auto _ : state) {
+    engine_->writer.Save();
+  }
+}
+
+BENCHMARK_F(OpenSample, CompileNineLanguages)(benchmark::State& state) {
+  LoadEntries(engine_->workspace, engine_->compiler_state);
+  for (int language = 1; language <= 9; ++language) {
+    TickEntry(engine_->compiler_state, language, true, 9);
+  }
+  for (auto _ : state) {
+    engine_->compiler.Compile();
+  }
+}
+
+std::vector<std::uint8_t> RandomImage(std::size_t size) {
+  std::vector<std::uint8_t> image(size);
+  std::minstd_rand random(1);
+  for (std::uint8_t& byte : image) {
+    byte = static_cast<std::uint8_t>(random());
+  }
+  return image;
+}
+
+// The argument is the size of the image in MiB.
+std::size_t ImageSize(const benchmark::State& state) {
+  return static_cast<std::size_t>(state.range(0)) << 20U;
+}
+
+void WriteSRecords(benchmark::State& state) {
+  const auto image = RandomImage(ImageSize(state));
+  for (auto _ : state) {
+    benchmark::DoNotOptimize(FormatSRecords(image, 0, SRecordType::kS2));
+  }
+  state.SetBytesProcessed(state.iterations() * static_cast<std::int64_t>(image.size()));
+}
+BENCHMARK(WriteSRecords)->RangeMultiplier(4)->Range(1, 16)->Unit(benchmark::kMillisecond);
+
+void ReadSRecords(benchmark::State& state) {
+  const auto image = RandomImage(ImageSize(state));
+  const std::string records = FormatSRecords(image, 0, SRecordType::kS2);
+  SRecord record;
+  for (auto _ : state) {
+    TextLines lines(records);
+    while (const auto line = lines.Next()) {
+      ParseSRecord(line->text, record);
+      benchmark::DoNotOptimize(record.ChecksumIsRight());
+    }
+  }
+  state.SetBytesProcessed(state.iterations() * static_cast<std::int64_t>(image.size()));
+}
+BENCHMARK(ReadSRecords)->RangeMultiplier(4)->Range(1, 16)->Unit(benchmark::kMillisecond);
+
+}  // namespace
+}  // namespace vendlingua
