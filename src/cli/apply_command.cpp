@@ -10,12 +10,6 @@
 namespace vendlingua::cli {
 namespace {
 
-struct ApplyOptions {
-  std::string file;
-  int language = 0;
-  std::string table;
-};
-
 struct Edit {
   int message;
   DisplayCodes text;
@@ -86,7 +80,9 @@ class TableReader {
   std::string problems_;
 };
 
-void Run(Session& session, const ApplyOptions& options) {
+}  // namespace
+
+void RunApply(Session& session, const ApplyOptions& options) {
   session.Open(options.file);
   const std::vector<Edit> edits = TableReader(session.set(), options.table).Read();
   session.OpenDestination(options.language, edits.empty() ? 0 : edits.front().message);
@@ -103,21 +99,6 @@ void Run(Session& session, const ApplyOptions& options) {
                  {"applied", edits.size()},
                  {"messages", session.MessagesAsJson()}},
                 std::to_string(edits.size()) + " messages applied\n");
-}
-
-}  // namespace
-
-void AddApplyCommand(CLI::App& app, Session& session) {
-  const auto options = std::make_shared<ApplyOptions>();
-  CLI::App* command =
-      app.add_subcommand("apply", "Take the texts of a table into a language and save the file.");
-  command->footer(
-      "A text that is too long or holds a character without a display code refuses the table.\n"
-      "Example: vendlingua-cli apply FW0417AB.MES --language 2 english.csv");
-  command->add_option("FILE", options->file, "message file (.MES or .MSX)")->required();
-  command->add_option("--language", options->language, "number of the language")->required();
-  command->add_option("TABLE", options->table, "table as \"export\" writes it")->required();
-  command->callback([&session, options] { Run(session, *options); });
 }
 
 }  // namespace vendlingua::cli

@@ -10,13 +10,6 @@ namespace {
 // A copy of so many languages is a message file of its own and needs a name.
 constexpr int kLanguagesWithCopyOption = 9;
 
-struct CompileOptions {
-  std::string file;
-  std::vector<int> languages;
-  std::string output;
-  std::string copy;
-};
-
 void TickLanguages(Session& session, std::vector<int> languages) {
   MessageSet& set = session.set();
   std::sort(languages.begin(), languages.end());
@@ -58,14 +51,16 @@ Json AsJson(const Session& session, const CompileOutcome& outcome) {
           {"completed", outcome.completed}};
 }
 
-void Run(Session& session, const CompileOptions& options) {
+}  // namespace
+
+void RunCompile(Session& session, const CompileOptions& options) {
   session.Open(options.file);
   if (session.set().IsMes()) {
     if (options.languages.empty()) {
-      throw CLI::RequiredError("--languages");
+      throw WrongUsage("--languages is required for a .MES file");
     }
     if (session.set().LangCount == kLanguagesWithCopyOption && options.copy.empty()) {
-      throw CLI::RequiredError("--copy (the board has 9 language slots)");
+      throw WrongUsage("--copy is required: the board has 9 language slots");
     }
     TickLanguages(session, options.languages);
   }
@@ -76,26 +71,6 @@ void Run(Session& session, const CompileOptions& options) {
   if (!outcome.completed) {
     throw CommandFailed(options.output + ": the compilation stopped before its end");
   }
-}
-
-}  // namespace
-
-void AddCompileCommand(CLI::App& app, Session& session) {
-  const auto options = std::make_shared<CompileOptions>();
-  CLI::App* command = app.add_subcommand("compile", "Compile languages into flash files.");
-  command->footer(
-      "A board with .SDATA memory takes .MHX files, any other .hex files.\n"
-      "Example: vendlingua-cli compile FW0417AB.MES --languages 1,2,3,4,5,6,7,8,9 "
-      "--output FW0417AB.MHX --copy MP0417AA.MSX");
-  command->add_option("FILE", options->file, "message file (.MES or .MSX)")->required();
-  command
-      ->add_option("--languages", options->languages,
-                   "numbers of the languages, as many as the board has slots; not for .MSX files")
-      ->delimiter(',');
-  command->add_option("--output", options->output, "flash file to write")->required();
-  command->add_option("--copy", options->copy,
-                      "identified copy to write (.MSX), for boards with 9 slots");
-  command->callback([&session, options] { Run(session, *options); });
 }
 
 }  // namespace vendlingua::cli

@@ -6,10 +6,6 @@
 namespace vendlingua::cli {
 namespace {
 
-struct InfoOptions {
-  std::string file;
-};
-
 std::size_t CheckedDisplayType(const MenuState& menus) {
   std::size_t type = 0;
   while (type + 1 < kDisplayTypes && !menus.mnuLCD[type].checked) {
@@ -43,7 +39,9 @@ std::string AsText(const Json& info) {
   return text.str();
 }
 
-void Run(Session& session, const InfoOptions& options) {
+}  // namespace
+
+void RunInfo(Session& session, const InfoOptions& options) {
   session.Open(options.file);
   const MessageSet& set = session.set();
   const MenuState& menus = session.engine.workspace.menus;
@@ -62,17 +60,6 @@ void Run(Session& session, const InfoOptions& options) {
                      {"blockLength", static_cast<int>(set.BlockLength)},
                      {"languages", LanguagesAsJson(menus)}};
   session.Print(info, AsText(info));
-}
-
-}  // namespace
-
-void AddInfoCommand(CLI::App& app, Session& session) {
-  const auto options = std::make_shared<InfoOptions>();
-  CLI::App* command =
-      app.add_subcommand("info", "Show dimensions and languages of a message file.");
-  command->footer("Example: vendlingua-cli info FW0417AB.MES --json");
-  command->add_option("FILE", options->file, "message file (.MES or .MSX)")->required();
-  command->callback([&session, options] { Run(session, *options); });
 }
 
 }  // namespace vendlingua::cli

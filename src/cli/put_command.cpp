@@ -6,15 +6,6 @@
 namespace vendlingua::cli {
 namespace {
 
-struct PutOptions {
-  std::string file;
-  int language = 0;
-  int message = 0;
-  std::string text;
-  std::string hex;
-  bool has_hex = false;
-};
-
 DisplayCodes CodesFromHex(const std::string& hex) {
   DisplayCodes codes;
   for (std::size_t i = 0; i < hex.size(); i += 2) {
@@ -28,9 +19,11 @@ DisplayCodes CodesFromHex(const std::string& hex) {
   return codes;
 }
 
-void Run(Session& session, const PutOptions& options) {
+}  // namespace
+
+void RunPut(Session& session, const PutOptions& options) {
   const DisplayCodes codes =
-      options.has_hex ? CodesFromHex(options.hex) : DisplayCodesOf(options.text);
+      options.hex ? CodesFromHex(*options.hex) : DisplayCodesOf(options.text.value_or(""));
   session.Open(options.file);
   session.OpenDestination(options.language, options.message);
   const bool cut = session.engine.view.ChangeText(codes);
@@ -49,29 +42,6 @@ void Run(Session& session, const PutOptions& options) {
                  {"cut", cut},
                  {"messages", session.MessagesAsJson()}},
                 std::to_string(options.message) + "\t" + stored + "\n");
-}
-
-}  // namespace
-
-void AddPutCommand(CLI::App& app, Session& session) {
-  const auto options = std::make_shared<PutOptions>();
-  CLI::App* command = app.add_subcommand("put", "Change one message and save the file in place.");
-  command->footer(
-      "A text longer than the message is cut. Cells that the board fills stay as they are.\n"
-      "Example: vendlingua-cli put FW0417AB.MES --language 2 --message 45 --text \"E08 No water\"");
-  command->add_option("FILE", options->file, "message file (.MES or .MSX)")->required();
-  command->add_option("--language", options->language, "number of the language")->required();
-  command->add_option("--message", options->message, "number of the message")->required();
-  auto* text = command->add_option("--text", options->text, "new text (UTF-8)");
-  auto* hex = command->add_option("--hex", options->hex, "new text as hexadecimal display codes");
-  text->excludes(hex);
-  command->callback([&session, options, text, hex] {
-    if (text->count() == 0 && hex->count() == 0) {
-      throw CLI::RequiredError("--text or --hex");
-    }
-    options->has_hex = hex->count() != 0;
-    Run(session, *options);
-  });
 }
 
 }  // namespace vendlingua::cli

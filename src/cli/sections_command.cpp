@@ -9,11 +9,6 @@ namespace {
 
 namespace fs = std::filesystem;
 
-struct SectionsOptions {
-  std::string file;
-  std::string output;
-};
-
 void RefuseToOverwriteInput(const fs::path& input, const fs::path& base) {
   for (const char* suffix : {".mtx", ".SA0", ".SA1", ".SA2", ".SA3", ".SA4"}) {
     fs::path output = base;
@@ -25,7 +20,9 @@ void RefuseToOverwriteInput(const fs::path& input, const fs::path& base) {
   }
 }
 
-void Run(Session& session, const SectionsOptions& options) {
+}  // namespace
+
+void RunSections(Session& session, const SectionsOptions& options) {
   const fs::path base =
       options.output.empty() ? SectionBase(options.file) : fs::path(options.output);
   RefuseToOverwriteInput(options.file, base);
@@ -44,19 +41,6 @@ void Run(Session& session, const SectionsOptions& options) {
     text += PathText(path) + "\n";
   }
   session.Print({{"written", written}, {"messages", session.MessagesAsJson()}}, text);
-}
-
-}  // namespace
-
-void AddSectionsCommand(CLI::App& app, Session& session) {
-  const auto options = std::make_shared<SectionsOptions>();
-  CLI::App* command =
-      app.add_subcommand("sections", "Cut a flash file into the section files of the board.");
-  command->footer("Example: vendlingua-cli sections FW0417AB.MHX --output out/FW0417AB");
-  command->add_option("FILE", options->file, "flash file (.MHX)")->required();
-  command->add_option("--output", options->output,
-                      "path of the section files without extension, that of FILE if not given");
-  command->callback([&session, options] { Run(session, *options); });
 }
 
 }  // namespace vendlingua::cli

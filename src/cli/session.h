@@ -19,6 +19,12 @@ class CommandFailed : public std::runtime_error {
   using std::runtime_error::runtime_error;
 };
 
+/// A command line that lacks what the given file asks for: exit status 2.
+class WrongUsage : public std::runtime_error {
+ public:
+  using std::runtime_error::runtime_error;
+};
+
 /// One run of the program: the engine, the dialogs that answer it, and the output.
 class Session {
  public:

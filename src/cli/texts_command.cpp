@@ -2,14 +2,7 @@
 #include "msgfiles/hex.h"
 
 namespace vendlingua::cli {
-namespace {
-
-struct TextsOptions {
-  std::string file;
-  int language = 0;
-};
-
-void Run(Session& session, const TextsOptions& options) {
+void RunTexts(Session& session, const TextsOptions& options) {
   session.Open(options.file);
   const std::string& name = session.LanguageName(options.language);
   session.engine.languages.ChooseOrigin(options.language);
@@ -26,21 +19,6 @@ void Run(Session& session, const TextsOptions& options) {
     text += std::to_string(i) + "\t" + ToUtf8(cells) + "\n";
   }
   session.Print({{"language", options.language}, {"name", name}, {"messages", messages}}, text);
-}
-
-}  // namespace
-
-void AddTextsCommand(CLI::App& app, Session& session) {
-  const auto options = std::make_shared<TextsOptions>();
-  CLI::App* command = app.add_subcommand("texts", "Show all messages of one language.");
-  command->footer("Example: vendlingua-cli texts FW0417AB.MES --language 2");
-  command->add_option("FILE", options->file, "message file (.MES or .MSX)")->required();
-  command
-      ->add_option(
-          "--language", options->language,
-          "number of the language; 0 is the reference, or the built-in table of a .MSX file")
-      ->required();
-  command->callback([&session, options] { Run(session, *options); });
 }
 
 }  // namespace vendlingua::cli

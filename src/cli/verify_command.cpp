@@ -13,7 +13,9 @@ Findings Check(const std::string& file) {
   }
 }
 
-void Run(Session& session, const std::vector<std::string>& files) {
+}  // namespace
+
+void RunVerify(Session& session, const std::vector<std::string>& files) {
   Json report = Json::array();
   std::string text;
   std::size_t unsound = 0;
@@ -34,19 +36,6 @@ void Run(Session& session, const std::vector<std::string>& files) {
     throw CommandFailed(std::to_string(unsound) + " of " + std::to_string(files.size()) +
                         " files are not sound");
   }
-}
-
-}  // namespace
-
-void AddVerifyCommand(CLI::App& app, Session& session) {
-  const auto files = std::make_shared<std::vector<std::string>>();
-  CLI::App* command = app.add_subcommand("verify", "Say whether files are sound.");
-  command->footer(
-      "Files of S-records: syntax, count, checksum, gaps and overlaps, line by line.\n"
-      ".MES files: header, sizes, block count, names.\n"
-      "Example: vendlingua-cli verify FW0417AB.MES FW0417AB.MHX MP0417AA.MSX");
-  command->add_option("FILE", *files, "files to check")->required();
-  command->callback([&session, files] { Run(session, *files); });
 }
 
 }  // namespace vendlingua::cli

@@ -1,0 +1,17 @@
+#ifndef VENDLINGUA_CLI_COMMAND_LINE_H_
+#define VENDLINGUA_CLI_COMMAND_LINE_H_
+
+#include "cli/session.h"
+
+namespace vendlingua::cli {
+
+/// What the program tells its caller.
+enum class ExitStatus : int { kDone = 0, kFailed = 1, kWrongUsage = 2 };
+
+/// Parses the command line and runs its command on `session`. Help and wrong usage are printed
+/// here; what a command throws is passed on.
+ExitStatus RunCommandLine(Session& session, int argc, const char* const* argv);
+
+}  // namespace vendlingua::cli
+
+#endif  // VENDLINGUA_CLI_COMMAND_LINE_H_
