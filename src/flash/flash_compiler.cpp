@@ -17,8 +17,9 @@ namespace fs = std::filesystem;
 // A copy of this many languages is a ".MSX" message file, and the user says where it goes.
 constexpr int kLanguagesOfMsxFile = 9;
 
-void Write(const fs::path& path, const std::string& content, CompileOutcome& outcome) {
-  WriteFile(path, content);
+void Write(const fs::path& path, std::initializer_list<std::string_view> pieces,
+           CompileOutcome& outcome) {
+  WriteFile(path, pieces);
   outcome.written.push_back(path);
 }
 
@@ -63,11 +64,8 @@ CompileOutcome FlashCompiler::Compile() {
 void FlashCompiler::Run(const fs::path& flash_file, CompileOutcome& outcome) {
   if (workspace_.set.IsMsx()) {
     CompileMsx(flash_file, outcome);
-  } else if (workspace_.set.IsMes()) {
-    CompileMes(flash_file, outcome);
-    if (!WriteCopy(flash_file, outcome)) {
-      return;
-    }
+  } else if (workspace_.set.IsMes() && !CompileMes(flash_file, outcome)) {
+    return;
   }
   if (IsMhxFamily()) {
     WriteSectionFiles(flash_file, outcome);
@@ -80,11 +78,11 @@ fs::path FlashCompiler::AskPath(FilePurpose purpose, const std::string& extensio
                                 bool overwrite_prompt) {
   const std::string wildcard = "*." + extension;
   fs::path path = dialogs_.SaveFile({.purpose = purpose,
-                                           .initial_name = wildcard,
-                                           .default_extension = extension,
-                                           .filter = "Flash File(" + wildcard + ")|" + wildcard,
-                                           .overwrite_prompt = overwrite_prompt,
-                                           .folder = workspace_.folders.current});
+                                     .initial_name = wildcard,
+                                     .default_extension = extension,
+                                     .filter = "Flash File(" + wildcard + ")|" + wildcard,
+                                     .overwrite_prompt = overwrite_prompt,
+                                     .folder = workspace_.folders.current});
   if (path == wildcard) {
     return {};
   }
@@ -102,7 +100,8 @@ void FlashCompiler::RefuseSource(const fs::path& path) const {
   }
 }
 
-void FlashCompiler::CompileMes(const fs::path& flash_file, CompileOutcome& outcome) {
+// False when the run stops here.
+bool FlashCompiler::CompileMes(const fs::path& flash_file, CompileOutcome& outcome) {
   const MessageSet& set = workspace_.set;
   dialogs_.LetPendingEventsRun();
   FlashImage image = flash_image_;
@@ -112,8 +111,10 @@ void FlashCompiler::CompileMes(const fs::path& flash_file, CompileOutcome& outco
     image.WriteLanguageNames(set);
   }
   flash_image_ = image;
-  Write(flash_file, FormatSRecords(image.Bytes(), set.MemStart, SRecordTypeFor(set.MemStart)),
-        outcome);
+  const std::string records =
+      FormatSRecords(image.Bytes(), set.MemStart, SRecordTypeFor(set.MemStart));
+  Write(flash_file, {records}, outcome);
+  return WriteCopy(flash_file, records, outcome);
 }
 
 // The records of a ".MSX" file without its own header: always 4095 lines, empty ones behind its
@@ -138,12 +139,12 @@ void FlashCompiler::CompileMsx(const fs::path& flash_file, CompileOutcome& outco
   for (std::size_t written = lines.count() - 1; written < kLinesWritten; ++written) {
     records += kCrLf;
   }
-  Write(flash_file, records, outcome);
+  Write(flash_file, {records}, outcome);
 }
 
 // False when the run stops here.
-bool FlashCompiler::WriteCopy(const fs::path& flash_file, CompileOutcome& outcome) {
-  const std::string records = ReadFile(flash_file);
+bool FlashCompiler::WriteCopy(const fs::path& flash_file, const std::string& records,
+                              CompileOutcome& outcome) {
   return workspace_.set.LangCount == kLanguagesOfMsxFile
              ? WriteNineLanguageCopy(records, outcome)
              : WriteNamedCopy(flash_file, records, outcome);
@@ -154,9 +155,8 @@ bool FlashCompiler::WriteNineLanguageCopy(const std::string& records, CompileOut
   if (copy.empty()) {
     return false;
   }
-  std::string content = HeaderFromFirstRecord(FirstLine(records));
-  content.append(kCrLf).append(records).append(kLastCopyLine).append(kCrLf);
-  Write(copy, content, outcome);
+  const std::string header = HeaderFromFirstRecord(FirstLine(records));
+  Write(copy, {header, kCrLf, records, kLastCopyLine, kCrLf}, outcome);
   return true;
 }
 
@@ -180,7 +180,7 @@ bool FlashCompiler::WriteNamedCopy(const fs::path& flash_file, const std::string
   const std::string file_name = name->base_name + name->extension;
   const fs::path copy =
       workspace_.folders.current / fs::path(std::u8string(file_name.begin(), file_name.end()));
-  Write(copy, *header + std::string(kCrLf) + records, outcome);
+  Write(copy, {*header, kCrLf, records}, outcome);
   return true;
 }
 

@@ -37,9 +37,10 @@ class FlashCompiler {
                                 bool overwrite_prompt);
   void RefuseSource(const std::filesystem::path& path) const;
   void Run(const std::filesystem::path& flash_file, CompileOutcome& outcome);
-  void CompileMes(const std::filesystem::path& flash_file, CompileOutcome& outcome);
+  bool CompileMes(const std::filesystem::path& flash_file, CompileOutcome& outcome);
   void CompileMsx(const std::filesystem::path& flash_file, CompileOutcome& outcome);
-  bool WriteCopy(const std::filesystem::path& flash_file, CompileOutcome& outcome);
+  bool WriteCopy(const std::filesystem::path& flash_file, const std::string& records,
+                 CompileOutcome& outcome);
   bool WriteNineLanguageCopy(const std::string& records, CompileOutcome& outcome);
   bool WriteNamedCopy(const std::filesystem::path& flash_file, const std::string& records,
                       CompileOutcome& outcome);

@@ -54,7 +54,7 @@ bool SectionFiles::ReadBack(const fs::path& flash_file, Dialogs& dialogs, const 
 
 void SectionFiles::StoreRecord(std::string_view line) {
   const std::uint32_t address = HexOrZero(Columns(line, kLowAddressColumn, 4));
-  const auto record_count = static_cast<std::int16_t>(HexOrZero(Columns(line, kCountColumn, 2)));
+  const auto record_count = static_cast<std::int16_t>(HexPairOrZero(line, kCountColumn));
   const auto count = static_cast<std::int16_t>(record_count - kBytesBesideData);
   if (address >= kBounds.back() || count < 0) {
     return;
@@ -63,8 +63,7 @@ void SectionFiles::StoreRecord(std::string_view line) {
   const std::size_t stored =
       std::min<std::size_t>(static_cast<std::size_t>(count), memory_picture_.size() - address);
   for (std::size_t k = 0; k < stored; ++k) {
-    memory_picture_.at(address + k) =
-        static_cast<char>(HexOrZero(Columns(line, kDataColumn + 2 * k, 2)));
+    memory_picture_.at(address + k) = static_cast<char>(HexPairOrZero(line, kDataColumn + 2 * k));
   }
 }
 

@@ -1,6 +1,7 @@
 #ifndef VENDLINGUA_MSGFILES_HEX_H_
 #define VENDLINGUA_MSGFILES_HEX_H_
 
+#include <algorithm>
 #include <array>
 #include <cstddef>
 #include <cstdint>
@@ -33,6 +34,18 @@ void AppendHexByte(std::string& out, std::uint8_t byte);
 /// none.
 inline constexpr std::uint8_t kNoHexDigit = 0xF0;
 extern const std::array<std::uint8_t, 256> kHexDigitValues;
+
+/// The byte that the two characters from the 1-based column `column` on spell; 0 where they are not
+/// hexadecimal, or the first one alone where the text ends behind it.
+inline std::uint8_t HexPairOrZero(std::string_view text, std::size_t column) {
+  if (column >= text.size()) {
+    return static_cast<std::uint8_t>(HexOrZero(text.substr(std::min(column - 1, text.size()))));
+  }
+  const std::uint8_t high = kHexDigitValues[static_cast<unsigned char>(text[column - 1])];
+  const std::uint8_t low = kHexDigitValues[static_cast<unsigned char>(text[column])];
+  const bool is_pair = high != kNoHexDigit && low != kNoHexDigit;
+  return is_pair ? static_cast<std::uint8_t>((high << 4U) | low) : std::uint8_t{0};
+}
 
 /// `text` from the 1-based column `column` on, at most `length` characters; shorter, down to empty,
 /// where the text ends before.

@@ -59,13 +59,15 @@ std::string ReadFile(const fs::path& path, std::uint64_t limit) {
   return content;
 }
 
-void WriteFile(const fs::path& path, std::string_view content) {
+void WriteFile(const fs::path& path, std::initializer_list<std::string_view> pieces) {
   errno = 0;
   std::ofstream stream(path, std::ios::binary | std::ios::trunc);
   if (!stream) {
     ThrowFileError(path, "cannot be created", errno);
   }
-  stream.write(content.data(), static_cast<std::streamsize>(content.size()));
+  for (const std::string_view piece : pieces) {
+    stream.write(piece.data(), static_cast<std::streamsize>(piece.size()));
+  }
   stream.close();
   if (!stream) {
     ThrowFileError(path, "cannot be written", errno);

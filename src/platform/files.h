@@ -5,6 +5,7 @@
 #include <cstdint>
 #include <filesystem>
 #include <fstream>
+#include <initializer_list>
 #include <string>
 #include <string_view>
 
@@ -18,8 +19,13 @@ inline constexpr std::uint64_t kMessageFileLimit = 16U << 20U;
 /// is no regular file, cannot be read or is longer than `limit` bytes.
 std::string ReadFile(const std::filesystem::path& path, std::uint64_t limit = kMessageFileLimit);
 
+/// Creates or replaces the file `path` with `pieces`, one behind the other. Throws FileError.
+void WriteFile(const std::filesystem::path& path, std::initializer_list<std::string_view> pieces);
+
 /// Creates or replaces the file `path` with `content`. Throws FileError.
-void WriteFile(const std::filesystem::path& path, std::string_view content);
+inline void WriteFile(const std::filesystem::path& path, std::string_view content) {
+  WriteFile(path, {content});
+}
 
 /// A file that is changed in place: opened without truncation, bytes that are not written keep
 /// their values. Every operation throws FileError when it fails, FolderNotReadyError when the

@@ -101,6 +101,8 @@ std::vector<std::uint8_t> RandomImage(std::size_t size) {
   return image;
 }
 
+constexpr std::size_t kAddressDigits = 6;
+
 // The argument is the size of the image in MiB.
 std::size_t ImageSize(const benchmark::State& state) {
   return static_cast<std::size_t>(state.range(0)) << 20U;
@@ -109,7 +111,7 @@ std::size_t ImageSize(const benchmark::State& state) {
 void WriteSRecords(benchmark::State& state) {
   const auto image = RandomImage(ImageSize(state));
   for (auto _ : state) {
-    benchmark::DoNotOptimize(FormatSRecords(image, 0, SRecordType::kS2));
+    benchmark::DoNotOptimize(FormatSRecords(image, 0, SRecordType::kS2, kAddressDigits));
   }
   state.SetBytesProcessed(state.iterations() * static_cast<std::int64_t>(image.size()));
 }
@@ -117,7 +119,7 @@ BENCHMARK(WriteSRecords)->RangeMultiplier(4)->Range(1, 16)->Unit(benchmark::kMil
 
 void ReadSRecords(benchmark::State& state) {
   const auto image = RandomImage(ImageSize(state));
-  const std::string records = FormatSRecords(image, 0, SRecordType::kS2);
+  const std::string records = FormatSRecords(image, 0, SRecordType::kS2, kAddressDigits);
   SRecord record;
   for (auto _ : state) {
     TextLines lines(records);

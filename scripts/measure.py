@@ -1,0 +1,162 @@
+#!/usr/bin/env python3
+"""Measures Vendlingua beside srec_cat and objcopy on the same bytes and writes docs/performance.md.
+
+Every figure is of whole processes: the median of their user + system time and the largest peak memory
+over several runs, the programs taking turns. Build the presets "bench" and "release" first, or let
+scripts/measure.sh do it.
+"""
+
+from __future__ import annotations
+
+import json
+import os
+import platform
+import random
+import statistics
+import subprocess
+import sys
+import tempfile
+from dataclasses import dataclass
+from pathlib import Path
+
+ROOT = Path(__file__).resolve().parent.parent
+RELEASE = ROOT / "build/release/bin"
+BENCH = ROOT / "build/bench/bin"
+MIB = 1 << 20
+
+
+@dataclass
+class Figure:
+    cpu_ms: float
+    peak_kib: int
+
+
+def peak_kib(command: list[str]) -> int:
+    """A process starts with the peak of the one that forked it, so a small one has to."""
+    timed = ["/usr/bin/time", "-f", "%M", *command]
+    result = subprocess.run(timed, stdout=subprocess.DEVNULL, stderr=subprocess.PIPE, text=True)
+    return int(result.stderr.split()[-1])
+
+
+def run_once(command: list[str], outputs: list[Path]) -> float:
+    """User + system time of the process in milliseconds; it finds none of its output files."""
+    for output in outputs:
+        output.unlink(missing_ok=True)
+    process = subprocess.Popen(command, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
+    _, status, usage = os.wait4(process.pid, 0)
+    process.returncode = os.waitstatus_to_exitcode(status)
+    if process.returncode != 0:
+        sys.exit(f"failed: {' '.join(command)}")
+    return 1000 * (usage.ru_utime + usage.ru_stime)
+
+
+def compare(commands: dict[str, tuple[list[str], list[Path]]], runs: int) -> dict[str, Figure]:
+    cpu_ms: dict[str, list[float]] = {name: [] for name in commands}
+    for _ in range(runs):
+        for name, (command, outputs) in commands.items():
+            cpu_ms[name].append(run_once(command, outputs))
+    return {
+        name: Figure(statistics.median(many), peak_kib(commands[name][0]))
+        for name, many in cpu_ms.items()
+    }
+
+
+def table(title: str, figures: dict[str, Figure]) -> str:
+    base = figures["vendlingua"].cpu_ms
+    rows = [f"| {title} | user + system | x Vendlingua | peak memory |", "|---|---|---|---|"]
+    for name, figure in figures.items():
+        rows.append(
+            f"| {name} | {figure.cpu_ms:.1f} ms | {figure.cpu_ms / base:.2f} "
+            f"| {figure.peak_kib / 1024:.1f} MiB |"
+        )
+    return "\n".join(rows) + "\n"
+
+
+def measure_records(folder: Path) -> str:
+    image = folder / "image.bin"
+    image.write_bytes(random.Random(1).randbytes(16 * MIB))
+    ours, theirs, third, back = (folder / n for n in ("a.srec", "b.srec", "c.srec", "back.bin"))
+    tool = str(BENCH / "srecord_tool")
+    written = compare(
+        {
+            "vendlingua": ([tool, "write", str(image), str(ours)], [ours]),
+            "objcopy": (["objcopy", "-I", "binary", "-O", "srec", str(image), str(theirs)], [theirs]),
+            "srec_cat": (
+                ["srec_cat", str(image), "-binary", "-o", str(third), "-motorola"],
+                [third],
+            ),
+        },
+        11,
+    )
+    read = compare(
+        {
+            "vendlingua": ([tool, "read", str(ours), str(back)], [back]),
+            "objcopy": (["objcopy", "-I", "srec", "-O", "binary", str(ours), str(back)], [back]),
+            "srec_cat": (["srec_cat", str(ours), "-o", str(back), "-binary"], [back]),
+        },
+        11,
+    )
+    if back.read_bytes() != image.read_bytes():
+        sys.exit("the image did not survive")
+    text = table("Writing S-records of a 16 MiB image", written)
+    return text + "\n" + table("Reading them back, checksums checked", read)
+
+
+def measure_compile(folder: Path) -> str:
+    flash, copy, image, theirs = (
+        folder / n for n in ("FW0417AB.MHX", "MP0417AA.MSX", "flash.bin", "theirs.srec")
+    )
+    command = [str(RELEASE / "vendlingua-cli"), "compile", str(ROOT / "data/samples/FW0417AB.MES")]
+    command += ["--languages", "1,2,3,4,5,6,7,8,9", "--output", str(flash), "--copy", str(copy)]
+    run_once(command, [])
+    offset = ["-offset", "-0xFF0000"]
+    to_image = ["srec_cat", str(flash), *offset, "-o", str(image), "-binary"]
+    subprocess.run(to_image, check=True, stderr=subprocess.DEVNULL)
+    figures = compare(
+        {
+            "vendlingua": (command, [flash, copy]),
+            "objcopy": (["objcopy", "-I", "binary", "-O", "srec", str(image), str(theirs)], [theirs]),
+            "srec_cat": (
+                ["srec_cat", str(image), "-binary", "-o", str(theirs), "-motorola"],
+                [theirs],
+            ),
+        },
+        101,
+    )
+    size = f"{image.stat().st_size:,} bytes"
+    return table(f"Compiling nine languages; the others convert its {size}", figures)
+
+
+def measure_engine() -> str:
+    result = subprocess.run(
+        [str(BENCH / "engine_bench"), "--benchmark_format=json"],
+        capture_output=True,
+        check=True,
+        text=True,
+    )
+    rows = ["| In one process | time | rate |", "|---|---|---|"]
+    for bench in json.loads(result.stdout)["benchmarks"]:
+        rate = bench.get("bytes_per_second")
+        name = bench["name"].replace("OpenSample/", "")
+        rows.append(
+            f"| {name} | {bench['cpu_time']:.1f} {bench['time_unit']} "
+            f"| {f'{rate / MIB:.0f} MiB/s' if rate else ''} |"
+        )
+    return "\n".join(rows) + "\n"
+
+
+def main() -> None:
+    with tempfile.TemporaryDirectory() as name:
+        parts = [measure_records(Path(name)), measure_compile(Path(name)), measure_engine()]
+    head = f"""# Performance
+
+Made by `scripts/measure.sh` in one run on {platform.machine()}, {os.cpu_count()} processors. User + system time of
+whole processes is the median of many runs, the programs taking turns; peak memory is the largest. In the last table the number
+behind WriteSRecords and ReadSRecords is the size of the image in MiB: the time is linear in it.
+
+"""
+    (ROOT / "docs/performance.md").write_text(head + "\n".join(parts), encoding="utf-8")
+
+
+if __name__ == "__main__":
+    main()
