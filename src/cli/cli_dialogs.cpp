@@ -24,6 +24,14 @@ const char* OptionFor(InputPurpose purpose) {
 
 }  // namespace
 
+std::filesystem::path WithDefaultExtension(std::filesystem::path path,
+                                           const std::string& extension) {
+  if (!path.empty() && !path.has_extension()) {
+    path += "." + extension;
+  }
+  return path;
+}
+
 MessageAnswer CliDialogs::MessageBox(const MessageRequest& request) {
   messages_.push_back(request);
   std::cerr << request.title << ": " << request.text << '\n';
@@ -48,11 +56,7 @@ std::filesystem::path CliDialogs::OpenFile(const FileRequest& request) {
 }
 
 std::filesystem::path CliDialogs::SaveFile(const FileRequest& request) {
-  std::filesystem::path path = files[request.purpose];
-  if (!path.empty() && !path.has_extension()) {
-    path += "." + request.default_extension;
-  }
-  return path;
+  return WithDefaultExtension(files[request.purpose], request.default_extension);
 }
 
 }  // namespace vendlingua::cli

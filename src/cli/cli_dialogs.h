@@ -19,6 +19,10 @@ class UnansweredQuestion : public std::runtime_error {
   using std::runtime_error::runtime_error;
 };
 
+/// A path as a file dialog returns it: with the default extension where it has none.
+std::filesystem::path WithDefaultExtension(std::filesystem::path path,
+                                           const std::string& extension);
+
 /// Answers the questions of the operations with the options of the command line. Message boxes are
 /// printed to stderr as "title: text" and kept for the JSON output.
 class CliDialogs : public Dialogs {

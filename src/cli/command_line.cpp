@@ -123,7 +123,8 @@ void AddImport(CLI::App& app, Session& session) {
       ->required()
       ->transform(NumberAnswer());
   command->add_option("--name", options->names, "name of a language, one for each section")
-      ->required();
+      ->required()
+      ->allow_extra_args(false);
   command->add_option("--output", options->output, "file to make (.MES)")->required();
   command->callback([&session, options] { RunImport(session, *options); });
 }
@@ -139,7 +140,8 @@ void AddCompile(CLI::App& app, Session& session) {
   command
       ->add_option("--languages", options->languages,
                    "numbers of the languages, as many as the board has slots; not for .MSX files")
-      ->delimiter(',');
+      ->delimiter(',')
+      ->allow_extra_args(false);
   command->add_option("--output", options->output, "flash file to write")->required();
   command->add_option("--copy", options->copy,
                       "identified copy to write (.MSX), for boards with 9 slots");

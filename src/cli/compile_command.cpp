@@ -1,11 +1,18 @@
 #include <algorithm>
+#include <system_error>
 
 #include "cli/commands.h"
 #include "flash/language_selection.h"
+#include "msgfiles/copy_header.h"
+#include "msgfiles/srecord.h"
+#include "msgfiles/text_lines.h"
 #include "platform/errors.h"
+#include "platform/files.h"
 
 namespace vendlingua::cli {
 namespace {
+
+namespace fs = std::filesystem;
 
 // A copy of so many languages is a message file of its own and needs a name.
 constexpr int kLanguagesWithCopyOption = 9;
@@ -30,6 +37,40 @@ void TickLanguages(Session& session, std::vector<int> languages) {
     throw CommandFailed("--languages: the board has " + std::to_string(set.LangCount) +
                         " language slots, " + std::to_string(languages.size()) +
                         " languages are chosen");
+  }
+}
+
+// The copy is asked for when the flash file is written already; what cannot be is refused before.
+void CheckCopy(const CompileOptions& options) {
+  const fs::path copy = WithDefaultExtension(options.copy, "MSX");
+  RefuseToOverwrite(options.file, copy);
+  std::error_code not_there;
+  const fs::path folder = copy.has_parent_path() ? copy.parent_path() : fs::path(".");
+  if (!fs::is_directory(folder, not_there) || fs::is_directory(copy, not_there)) {
+    throw CommandFailed(PathText(copy) + ": cannot be created there");
+  }
+  const fs::path flash_file = WithDefaultExtension(options.output, "MHX");
+  if (fs::weakly_canonical(fs::absolute(copy), not_there) ==
+      fs::weakly_canonical(fs::absolute(flash_file), not_there)) {
+    throw CommandFailed(PathText(copy) + ": is the flash file; give another --copy");
+  }
+}
+
+// Lines of a .MSX file reach the board as they are: a damaged one must not.
+void CheckRecords(const std::string& file) {
+  const std::string content = ReadFile(file);
+  TextLines lines(content);
+  lines.Next();
+  SRecord record;
+  while (const auto line = lines.Next()) {
+    try {
+      if (!line->text.empty() && line->text != kLastCopyLine) {
+        ParseSRecord(line->text, record);
+      }
+    } catch (const SRecordSyntaxError& error) {
+      throw CommandFailed(file + ": line " + std::to_string(lines.count()) + ": " + error.what() +
+                          "; nothing was written");
+    }
   }
 }
 
@@ -63,6 +104,11 @@ void RunCompile(Session& session, const CompileOptions& options) {
       throw WrongUsage("--copy is required: the board has 9 language slots");
     }
     TickLanguages(session, options.languages);
+    if (session.set().LangCount == kLanguagesWithCopyOption) {
+      CheckCopy(options);
+    }
+  } else {
+    CheckRecords(options.file);
   }
   session.dialogs.files[FilePurpose::kFlashFile] = options.output;
   session.dialogs.files[FilePurpose::kIdentifiedCopy] = options.copy;

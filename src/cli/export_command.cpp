@@ -5,6 +5,7 @@
 namespace vendlingua::cli {
 void RunExport(Session& session, const ExportOptions& options) {
   session.Open(options.file);
+  RefuseToOverwrite(options.file, options.output);
   session.LanguageName(options.language);
   session.LanguageName(options.origin);
   const MessageSet& set = session.set();

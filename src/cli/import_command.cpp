@@ -6,10 +6,7 @@ namespace vendlingua::cli {
 namespace {
 
 std::filesystem::path OutputPath(const ImportOptions& options) {
-  std::filesystem::path output = options.output;
-  if (!output.has_extension()) {
-    output += kMesType;
-  }
+  std::filesystem::path output = WithDefaultExtension(options.output, "MES");
   if (MessageFileType(output) != kMesType) {
     throw CommandFailed(PathText(output) +
                         ": the file could not be opened again; its name must end in .MES and hold "
@@ -22,6 +19,7 @@ std::filesystem::path OutputPath(const ImportOptions& options) {
 
 void RunImport(Session& session, const ImportOptions& options) {
   const std::filesystem::path output = OutputPath(options);
+  RefuseToOverwrite(options.source, output);
   StagedFile staged(output);
   auto& inputs = session.dialogs.inputs;
   inputs[InputPurpose::kLanguageCount] = {options.languages};

@@ -6,9 +6,10 @@ namespace {
 
 // Entry 0 of the menu starts blank; its texts as a start are copied message by message.
 void CopyReference(Session& session) {
-  for (int message = 0; message <= session.set().LastMsg; ++message) {
-    session.engine.view.Scroll(message);
-    session.engine.view.CopyOrigin();
+  const MessageSet& set = session.set();
+  for (std::size_t message = 0; message < set.MessageCount(); ++message) {
+    session.engine.view.Scroll(static_cast<int>(message));
+    session.engine.view.ChangeText(set.OriginText[message].First(set.Width()));
   }
 }
 

@@ -1,5 +1,4 @@
 #include <algorithm>
-#include <system_error>
 
 #include "cli/commands.h"
 #include "platform/errors.h"
@@ -13,10 +12,7 @@ void RefuseToOverwriteInput(const fs::path& input, const fs::path& base) {
   for (const char* suffix : {".mtx", ".SA0", ".SA1", ".SA2", ".SA3", ".SA4"}) {
     fs::path output = base;
     output += suffix;
-    std::error_code not_there;
-    if (fs::equivalent(input, output, not_there)) {
-      throw CommandFailed(PathText(input) + ": would be overwritten; give another --output");
-    }
+    RefuseToOverwrite(input, output);
   }
 }
 

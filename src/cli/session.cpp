@@ -1,6 +1,7 @@
 #include "cli/session.h"
 
 #include <iostream>
+#include <system_error>
 
 #include "editor/interface_language.h"
 #include "platform/errors.h"
@@ -88,7 +89,9 @@ const std::string& Session::LanguageName(int language) {
 }
 
 void Session::Print(const Json& json, const std::string& text) const {
-  std::cout << (json_output ? json.dump(2) + "\n" : text) << std::flush;
+  std::cout << (json_output ? json.dump(2, ' ', false, Json::error_handler_t::replace) + "\n"
+                            : text)
+            << std::flush;
   if (!std::cout) {
     throw CommandFailed("the output cannot be written");
   }
@@ -101,6 +104,13 @@ Json Session::MessagesAsJson() const {
         {{"icon", IconName(message.icon)}, {"title", message.title}, {"text", message.text}});
   }
   return messages;
+}
+
+void RefuseToOverwrite(const std::filesystem::path& input, const std::filesystem::path& output) {
+  std::error_code not_there;
+  if (std::filesystem::equivalent(input, output, not_there)) {
+    throw CommandFailed(PathText(output) + ": is read by this command; give another --output");
+  }
 }
 
 DisplayCodes DisplayCodesOf(const std::string& utf8) {

@@ -56,6 +56,9 @@ class Session {
   Json MessagesAsJson() const;
 };
 
+/// Throws CommandFailed when `output` is the file `input`, which it would overwrite.
+void RefuseToOverwrite(const std::filesystem::path& input, const std::filesystem::path& output);
+
 /// UTF-8 text as display codes. Throws CommandFailed when a character has none.
 DisplayCodes DisplayCodesOf(const std::string& utf8);
 

@@ -11,6 +11,11 @@ namespace vendlingua::cli {
 namespace fs = std::filesystem;
 
 StagedFile::StagedFile(fs::path target) : target_(std::move(target)) {
+  std::error_code not_there;
+  const fs::path folder = target_.has_parent_path() ? target_.parent_path() : fs::path(".");
+  if (!fs::is_directory(folder, not_there)) {
+    throw FileError(target_, "cannot be created: its folder is not there");
+  }
   std::random_device random;
   do {
     staging_ = target_;

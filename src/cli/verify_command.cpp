@@ -9,7 +9,7 @@ Findings Check(const std::string& file) {
   try {
     return CheckFile(file);
   } catch (const FileError& error) {
-    return {error.what()};
+    return {error.reason()};
   }
 }
 
@@ -18,7 +18,7 @@ Findings Check(const std::string& file) {
 void RunVerify(Session& session, const std::vector<std::string>& files) {
   Json report = Json::array();
   std::string text;
-  std::size_t unsound = 0;
+  std::string unsound;
   for (const std::string& file : files) {
     const Findings findings = Check(file);
     report.push_back({{"file", file}, {"findings", findings}});
@@ -28,13 +28,12 @@ void RunVerify(Session& session, const std::vector<std::string>& files) {
     if (findings.empty()) {
       text += file + ": sound\n";
     } else {
-      ++unsound;
+      unsound += (unsound.empty() ? "" : ", ") + file;
     }
   }
   session.Print({{"files", report}}, text);
-  if (unsound != 0) {
-    throw CommandFailed(std::to_string(unsound) + " of " + std::to_string(files.size()) +
-                        " files are not sound");
+  if (!unsound.empty()) {
+    throw CommandFailed("not sound: " + unsound);
   }
 }
 

@@ -64,7 +64,15 @@ void EditorView::StoreCurrentMessage() {
       text[i] = kPlaceholder;
     }
   }
-  workspace_.set.DestText.at(static_cast<std::size_t>(workspace_.view.Label6)) = DisplayText(text);
+  MessageSet& set = workspace_.set;
+  const auto message = static_cast<std::size_t>(workspace_.view.Label6);
+  // Cells of a wide message that have no label.
+  for (std::size_t i = kOriginCells; set.IsMes() && i < text.size(); ++i) {
+    if (set.OriginText.at(message)[i] == kPlaceholder) {
+      text[i] = kPlaceholder;
+    }
+  }
+  set.DestText.at(message) = DisplayText(text);
 }
 
 void EditorView::Scroll(int value) {

@@ -27,7 +27,7 @@ fs::path WithSuffix(fs::path base, const std::string& suffix) {
 
 fs::path SectionBase(const fs::path& flash_file) {
   constexpr std::size_t kExtensionLength = 4;
-  std::u32string text = flash_file.u32string();
+  fs::path::string_type text = flash_file.native();
   text.resize(text.size() - std::min(text.size(), kExtensionLength));
   return text;
 }
@@ -41,6 +41,10 @@ bool SectionFiles::ReadBack(const fs::path& flash_file, Dialogs& dialogs, const 
       dialogs.MessageBox(
           {MessageIcon::kExclamation, PathText(flash_file) + "\r" + ui_text[38], ui_text[29]});
       return false;
+    }
+    if (line->HasLoneCarriageReturn()) {
+      throw FileError(flash_file, "line " + std::to_string(lines.count()) +
+                                      " holds a carriage return that does not end it");
     }
     if (line->text.starts_with("S2")) {
       StoreRecord(line->text);

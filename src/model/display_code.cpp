@@ -55,6 +55,10 @@ Utf8Character FirstCharacter(std::string_view text) {
     }
     value = (value << 6) | (byte(i) & 0x3F);
   }
+  constexpr std::array<char32_t, 5> kSmallest = {0, 0, 0x80, 0x800, 0x10000};
+  if (value < kSmallest[length]) {
+    return {std::nullopt, 1};
+  }
   return {value, length};
 }
 

@@ -25,7 +25,7 @@ bool IsAssemblerSource(const std::filesystem::path& path);
 enum class OpenOutcome {
   kOpened,
   kCancelled,  ///< no file was chosen, or one whose type is not known
-  kRefused,    ///< the user was told why, or stopped an import: no file is open
+  kRefused,    ///< the user was told why, or stopped an import: no language can be chosen
 };
 
 /// Menu File, Open: one door for ".MSX" files, ".MES" files and assembler sources.

@@ -40,9 +40,12 @@ bool NamesManagedFirmware(std::string_view header_record) {
 DisplayCodes DecodeMessage(const MessageSet& set, std::string_view line, std::size_t line_number) {
   const auto codes = DecodePairs(Columns(line, kMsxDataColumn, 2 * kMessageBytes));
   if (!codes || codes->size() < kMessageBytes) {
-    throw FileError(set.CurrentFileName, "line " + std::to_string(line_number) +
-                                             " holds no message of 16 hexadecimal pairs from "
-                                             "column 11 on");
+    throw FileError(set.CurrentFileName,
+                    "line " + std::to_string(line_number) +
+                        " holds no message of 16 hexadecimal pairs from "
+                        "column 11 on: \"" +
+                        ToUtf8(CodesFromBytes(Columns(line, kMsxDataColumn, 2 * kMessageBytes))) +
+                        "\"");
   }
   return *codes;
 }
@@ -58,6 +61,10 @@ std::optional<std::vector<std::string>> ReadMsxNames(const MessageSet& set,
   TextLines lines(content);
   std::size_t name_line = 1 + MsxLinesBefore(set, 1) + static_cast<std::size_t>(set.NameMessage());
   while (const auto line = lines.Next()) {
+    if (line->HasLoneCarriageReturn()) {
+      throw FileError(set.CurrentFileName, "line " + std::to_string(lines.count()) +
+                                               " holds a carriage return that does not end it");
+    }
     if (lines.count() == name_line) {
       names.push_back(ToUtf8(Trim(DecodeMessage(set, line->text, lines.count()))));
       if (names.size() == kMsxLanguages) {

@@ -17,6 +17,16 @@ constexpr const char* kErrorTitle = "ERRORE";
 // The questions are asked while at most so many "ORG" or ".SECT" lines were met.
 constexpr std::size_t kLastAskedDirective = 2;
 
+// All sections share the dimensions of one file.
+void RequireOneWidth(const std::vector<SourceSection>& sections) {
+  for (const SourceSection& section : sections) {
+    if (!section.width_error && section.width != sections.front().width) {
+      throw Error("the texts of a later section are " + std::to_string(section.width) +
+                  " cells wide, those of the first " + std::to_string(sections.front().width));
+    }
+  }
+}
+
 std::uint64_t AtMost(std::uint64_t value, std::uint64_t limit, const std::string& what) {
   if (value > limit) {
     throw Error(what + ": " + std::to_string(value) + " is too large, at most " +
@@ -45,6 +55,7 @@ bool SourceImport::ImportSource() {
   std::vector<SourceSection> sections;
   try {
     sections = ParseSource(ReadFile(source));
+    RequireOneWidth(sections);
   } catch (const FileError&) {
     throw;
   } catch (const Error& error) {
@@ -74,6 +85,10 @@ bool SourceImport::ImportSection(const SourceSection& section) {
   }
   if (section.directives <= kLastAskedDirective && !(AskMemoryLayout() && MessagesFit())) {
     return false;
+  }
+  if (section.texts.size() > std::size_t{set.LangStride} + 1) {
+    throw Error("a section has " + std::to_string(section.texts.size()) +
+                " texts, a language has room for " + std::to_string(set.LangStride + 1));
   }
   --set.LastCol;
   --set.LastMsg;

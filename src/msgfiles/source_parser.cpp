@@ -24,6 +24,9 @@ class SourceParser {
 
   std::vector<SourceSection> Parse() {
     while (const auto line = lines_.Next()) {
+      if (line->HasLoneCarriageReturn()) {
+        FailAt(lines_.count(), "it holds a carriage return that does not end it");
+      }
       if (Contains(line->text, "ORG") || Contains(line->text, ".SECT")) {
         if (++directives_ > 1) {
           EndSection();
@@ -79,7 +82,7 @@ class SourceParser {
   }
 
   void EndSection() {
-    if (section_.texts.empty()) {
+    if (section_.texts.empty() && !section_.width_error) {
       FailAt(lines_.count(), "the section that ends here holds no quoted text");
     }
     section_.width = width_;

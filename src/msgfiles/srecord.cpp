@@ -75,11 +75,13 @@ std::size_t AddressBytesOf(char type) {
 }
 
 [[noreturn]] void ThrowForDigits(std::string_view line) {
-  for (std::size_t i = 2;; ++i) {
-    if (i >= line.size() || !ParseHex(line.substr(i, 1))) {
-      throw SRecordSyntaxError("column " + std::to_string(i + 1) + " holds no hexadecimal digit");
-    }
+  std::size_t pair = 2;
+  while (pair < line.size() && ParseHex(line.substr(pair, 1)) &&
+         ParseHex(line.substr(pair + 1, 1))) {
+    pair += 2;
   }
+  throw SRecordSyntaxError("column " + std::to_string(pair + 1) + ": \"" +
+                           std::string(Columns(line, pair + 1, 2)) + "\" is no hexadecimal pair");
 }
 
 }  // namespace

@@ -11,6 +11,9 @@ struct TextLine {
   std::string_view text;  ///< without its line end
   std::size_t offset;     ///< of its first byte in the file, from 0
   bool ends_in_crlf;      ///< otherwise it ends in LF, or with the file
+
+  /// A carriage return that ends no line: the file has line ends that are not read as such.
+  bool HasLoneCarriageReturn() const { return text.find('\r') != std::string_view::npos; }
 };
 
 /// The lines of a text file. A line ends in CR LF or LF; a last line without its end counts.

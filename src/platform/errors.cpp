@@ -3,7 +3,7 @@
 namespace vendlingua {
 
 FileError::FileError(const std::filesystem::path& file, const std::string& reason)
-    : Error(PathText(file) + ": " + reason) {}
+    : Error(PathText(file) + ": " + reason), reason_(reason) {}
 
 std::string PathText(const std::filesystem::path& path) {
   const std::u8string text = path.u8string();

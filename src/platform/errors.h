@@ -18,6 +18,12 @@ class Error : public std::runtime_error {
 class FileError : public Error {
  public:
   FileError(const std::filesystem::path& file, const std::string& reason);
+
+  /// What is wrong, without the path.
+  const std::string& reason() const { return reason_; }
+
+ private:
+  std::string reason_;
 };
 
 /// A file error of a disk or folder that is not there: no medium, a folder that was removed.
