@@ -2,8 +2,10 @@
 
 #include <string_view>
 
+#include "editor/settings.h"
 #include "model/display_code.h"
 #include "msgfiles/text_lines.h"
+#include "platform/errors.h"
 #include "platform/files.h"
 
 namespace vendlingua {
@@ -12,6 +14,31 @@ namespace {
 constexpr std::string_view kSectionMark = ";--";
 
 std::string FromFile(std::string_view line) { return ToUtf8(CodesFromBytes(line)); }
+
+std::string FileOf(const MenuEntry& language) {
+  return language.caption + std::string(kLanguageFileExtension);
+}
+
+std::size_t CheckedLanguage(const MenuState& menus) {
+  std::size_t checked = 0;
+  for (std::size_t i = 0; i < menus.smnuLingue.size(); ++i) {
+    if (menus.smnuLingue[i].checked) {
+      checked = i;
+    }
+  }
+  return checked;
+}
+
+// As CheckLanguageFile, but a file that cannot be read leaves the texts as they were.
+bool LoadIfItFits(Workspace& workspace, const std::string& current, const std::string& candidate) {
+  const UiText texts_before = workspace.ui_text;
+  try {
+    return CheckLanguageFile(workspace, current, candidate);
+  } catch (const FileError&) {
+    workspace.ui_text = texts_before;
+    throw;
+  }
+}
 
 }  // namespace
 
@@ -60,6 +87,25 @@ void InitMenu(Workspace& workspace) {
   menus.mnuAbor.caption = ui_text[15];
   menus.mnuCopy.caption = ui_text[16];
   menus.mnuLCD[3].caption = ui_text[17];
+}
+
+void ChooseInterfaceLanguage(Workspace& workspace, Dialogs& dialogs, std::size_t index) {
+  auto& entries = workspace.menus.smnuLingue;
+  const std::size_t previous = CheckedLanguage(workspace.menus);
+  const bool fits = LoadIfItFits(workspace, FileOf(entries[previous]), FileOf(entries.at(index)));
+  const std::size_t chosen = fits ? index : previous;
+  for (MenuEntry& entry : entries) {
+    entry.checked = false;
+  }
+  entries[chosen].checked = true;
+  workspace.LanguageName = entries[chosen].caption;
+  if (!fits) {
+    LoadLanguageFile(workspace, FileOf(entries[previous]));
+    const UiText& ui_text = workspace.ui_text;
+    dialogs.MessageBox({MessageIcon::kExclamation, ui_text[37], ui_text[36]});
+  }
+  InitMenu(workspace);
+  WriteSettings(workspace);
 }
 
 }  // namespace vendlingua

@@ -1,14 +1,19 @@
 #ifndef VENDLINGUA_EDITOR_INTERFACE_LANGUAGE_H_
 #define VENDLINGUA_EDITOR_INTERFACE_LANGUAGE_H_
 
+#include <cstddef>
 #include <string>
+#include <string_view>
 
 #include "model/workspace.h"
+#include "platform/dialogs.h"
 
 namespace vendlingua {
 
 /// The extension of interface language files: text in Windows-1252, one entry a line.
-inline constexpr char kLanguageFileExtension[] = ".lng";
+inline constexpr std::string_view kLanguageFileExtension = ".lng";
+/// The language file that all others follow.
+inline constexpr std::string_view kReferenceLanguageFile = "italiano.lng";
 
 /// Reads the language file `file_name` of the program's folder into the interface texts, from entry
 /// 1 on. Entries behind its last line keep their texts. Throws FileError.
@@ -23,6 +28,11 @@ bool CheckLanguageFile(Workspace& workspace, const std::string& current,
 
 /// Captions all menus in the interface language.
 void InitMenu(Workspace& workspace);
+
+/// `smnuLingue`(index): changes to another interface language, captions the menus and writes the
+/// settings. A file that does not fit the one in use is refused with a warning. Throws FileError;
+/// when a language file cannot be read, the language in use stays.
+void ChooseInterfaceLanguage(Workspace& workspace, Dialogs& dialogs, std::size_t index);
 
 }  // namespace vendlingua
 

@@ -4,6 +4,8 @@
 #include <filesystem>
 #include <string>
 
+#include "model/workspace.h"
+
 namespace vendlingua {
 
 /// The settings file: one line, "Lingua=" followed by the name of the interface language.
@@ -14,6 +16,14 @@ void ReadSettings(const std::filesystem::path& file, std::string& language_name)
 
 /// Writes the settings file anew. Throws FileError.
 void WriteSettings(const std::filesystem::path& file, const std::string& language_name);
+
+/// Reads `LanguageName`. The user's own file, which exists where the program's folder is read-only,
+/// goes before the one beside the program.
+void ReadSettings(Workspace& workspace);
+
+/// Writes the checked entry of the interface language menu beside the program or, where that folder
+/// is read-only, into the user's own file. Throws FileError when neither can be written.
+void WriteSettings(const Workspace& workspace);
 
 }  // namespace vendlingua
 
