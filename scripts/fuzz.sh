@@ -1,0 +1,38 @@
+#!/bin/sh
+# Feeds every reader made-up files: "scripts/fuzz.sh [SECONDS]", by default 30 seconds a target. Ends
+# non-zero when one of them crashes, hangs, leaks or takes too much memory; the inputs that did it are
+# then in build/fuzz/findings.
+set -eu
+cd "$(dirname "$0")/.."
+. scripts/packages.sh
+# shellcheck disable=SC2086 # lists of package names
+scripts/install-dependencies.sh $build_packages $fuzz_packages
+
+seconds=${1:-30}
+build=build/fuzz
+corpus=$build/corpus
+findings=$build/findings
+
+echo "== fuzz: build"
+cmake --preset fuzz -DVENDLINGUA_GUI=OFF >/dev/null
+cmake --build --preset fuzz --target fuzz_targets
+"$build/bin/make_fuzz_corpus" "$corpus"
+mkdir -p "$findings"
+
+failed=
+for program in "$build"/bin/fuzz_*; do
+  target=${program##*/fuzz_}
+  log=$build/$target.log
+  echo "== fuzz: $target, $seconds seconds"
+  if "$program" -max_total_time="$seconds" -timeout=10 -malloc_limit_mb=256 -print_final_stats=1 \
+    -artifact_prefix="$findings/$target-" "$corpus/$target" >"$log" 2>&1; then
+    grep number_of_executed_units "$log"
+  else
+    failed="$failed $target"
+    grep -v '^#' "$log" | tail -n 60
+  fi
+done
+if [ -n "$failed" ]; then
+  echo "Findings in:$failed. The inputs are in $findings, the logs in $build" >&2
+  exit 1
+fi

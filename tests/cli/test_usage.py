@@ -1,0 +1,174 @@
+"""What the program does with its command line: help, wrong usage, exit status."""
+
+from __future__ import annotations
+
+import subprocess
+import unittest
+
+from support import COMMANDS, PROGRAM, REFUSED, CliTest, MesFile
+
+# Every option and argument that a command cannot do without.
+COMPLETE = {
+    "info": ["A.MES"],
+    "texts": ["A.MES", "--language=1"],
+    "put": ["A.MES", "--language=1", "--message=1", "--text=x"],
+    "new-language": ["A.MES", "--name=NEW"],
+    "export": ["A.MES", "--language=1", "--output=new.csv"],
+    "apply": ["A.MES", "a.csv", "--language=1"],
+    "import": [
+        "a.src",
+        "--languages=1",
+        "--memory-start=1",
+        "--memory-length=64",
+        "--name=NEW",
+        "--output=NEW.MES",
+    ],
+    "compile": ["A.MES", "--languages=1,2", "--output=FW0417AB.HEX"],
+    "sections": ["A.MHX"],
+    "verify": ["A.MES"],
+}
+
+
+class HelpTest(CliTest):
+    def test_the_help_names_every_command(self) -> None:
+        help_text = self.done("--help").out
+        for command in COMMANDS:
+            self.assertRegex(help_text, rf"(?m)^  {command} ")
+
+    def test_every_command_has_help_with_an_example(self) -> None:
+        for command in COMMANDS:
+            with self.subTest(command):
+                help_text = self.done(command, "--help").out
+                self.assertIn(f"\nExample: vendlingua-cli {command} ", help_text)
+
+    def test_help_names_every_required_option(self) -> None:
+        for command, arguments in COMPLETE.items():
+            help_text = self.done(command, "--help").out
+            for option in (a.split("=")[0] for a in arguments if a.startswith("--")):
+                self.assertIn(f"  {option} ", help_text, command)
+
+    def test_help_needs_nothing_else_and_changes_nothing(self) -> None:
+        self.write("A.MES", MesFile().content())
+        with self.unchanged():
+            self.done("put", "A.MES", "--help")
+            self.done("put", "A.MES", "--language=1", "--message=1", "--text=x", "-h")
+
+    def test_the_version_is_told(self) -> None:
+        self.assertRegex(self.done("--version").out, r"\Avendlingua-cli \d+\.\d+\.\d+\n\Z")
+
+
+class WrongUsageTest(CliTest):
+    def setUp(self) -> None:
+        super().setUp()
+        self.write("A.MES", MesFile().content())
+        self.write("a.csv", b"message,origin,text\r\n1,,new\r\n")
+        self.write("a.src", b" DC.B 'ABCD'\r\n")
+        self.write("A.MHX", b"S20580000001F9\r\n")
+
+    def test_a_command_is_needed(self) -> None:
+        self.wrong_usage()
+        self.wrong_usage("--json")
+
+    def test_an_unknown_command(self) -> None:
+        self.wrong_usage("translate", "A.MES")
+
+    def test_an_unknown_option(self) -> None:
+        for command, arguments in COMPLETE.items():
+            self.wrong_usage(command, *arguments, "--colour")
+
+    def test_an_argument_too_many(self) -> None:
+        for command, arguments in COMPLETE.items():
+            if command != "verify":
+                self.wrong_usage(command, *arguments, "one-more")
+
+    def test_anything_that_is_required_and_missing(self) -> None:
+        for command, arguments in COMPLETE.items():
+            self.wrong_usage(command)
+            for missing in range(len(arguments)):
+                self.wrong_usage(command, *arguments[:missing], *arguments[missing + 1 :])
+
+    def test_an_option_without_its_value(self) -> None:
+        self.wrong_usage("texts", "A.MES", "--language")
+        self.wrong_usage("export", "A.MES", "--language", "1", "--output")
+
+    def test_an_option_given_twice(self) -> None:
+        self.wrong_usage("texts", "A.MES", "--language=1", "--language=2")
+        self.wrong_usage(*("put", "A.MES", "--language=1", "--message=1", "--text=a", "--text=b"))
+
+    def test_a_number_that_is_none(self) -> None:
+        for number in ("", "one", "1.5", "1x", "99999999999999999999"):
+            with self.subTest(number):
+                self.wrong_usage("texts", "A.MES", f"--language={number}")
+                self.wrong_usage("put", "A.MES", "--language=1", f"--message={number}", "--text=x")
+                self.wrong_usage("new-language", "A.MES", f"--from={number}", "--name=NEW")
+                self.wrong_usage(
+                    "export", "A.MES", "--language=1", f"--origin={number}", "--output=o"
+                )
+                self.wrong_usage("apply", "A.MES", "a.csv", f"--language={number}")
+                self.wrong_usage("compile", "A.MES", f"--languages=1,{number}x", "--output=P.HEX")
+
+    def test_a_memory_number_that_is_none(self) -> None:
+        for option in ("--languages", "--memory-start", "--memory-length"):
+            for number in ("", "one", "1x", "0x", "&H", "0xG", "-1", "1.5", "&HFF8000Z"):
+                with self.subTest(option=option, number=number):
+                    arguments = [a for a in COMPLETE["import"] if not a.startswith(option + "=")]
+                    self.wrong_usage("import", *arguments, f"{option}={number}")
+
+    def test_text_and_hexadecimal_text_together(self) -> None:
+        self.wrong_usage("put", "A.MES", "--language=1", "--message=1", "--text=a", "--hex=41")
+
+    def test_neither_text_nor_hexadecimal_text(self) -> None:
+        result = self.wrong_usage("put", "A.MES", "--language=1", "--message=1")
+        self.assertRegex(result.err, "--text.*--hex")
+
+    def test_compiling_a_mes_file_needs_languages(self) -> None:
+        result = self.wrong_usage("compile", "A.MES", "--output=FW0417AB.HEX")
+        self.assertIn("--languages", result.err)
+
+
+class OutputTest(CliTest):
+    def setUp(self) -> None:
+        super().setUp()
+        self.write("A.MES", MesFile().content())
+
+    def test_json_may_stand_before_or_behind_the_command(self) -> None:
+        for arguments in (
+            ("--json", "info", "A.MES"),
+            ("info", "--json", "A.MES"),
+            ("info", "A.MES", "--json"),
+        ):
+            self.assertEqual(self.done(*arguments).json["type"], ".MES")
+
+    def test_options_may_stand_around_the_file(self) -> None:
+        self.done("texts", "--language", "1", "A.MES")
+        self.done("compile", "--output", "FW0417AB.HEX", "A.MES", "--languages", "1,2")
+        self.done("compile", "--languages", "1,2", "A.MES", "--output", "FW0417AB.HEX")
+
+    def test_a_name_may_stand_before_the_source(self) -> None:
+        self.write("a.src", b" MNLING DC.B 'ABCD'\r\n")
+        memory = ("--languages=1", "--language-message=1", "--memory-start=1", "--memory-length=64")
+        self.done("import", *memory, "--name", "NEW", "a.src", "--output", "B.MES")
+
+    def test_output_that_cannot_be_written_fails(self) -> None:
+        with open("/dev/full", "wb") as full:
+            done = subprocess.run(
+                [PROGRAM, "info", self.folder / "A.MES"], stdout=full, stderr=subprocess.PIPE
+            )
+        self.assertEqual(done.returncode, REFUSED)
+        self.assertNotEqual(done.stderr, b"")
+
+    def test_a_failed_command_prints_no_json(self) -> None:
+        self.refused("--json", "info", "missing.MES")
+        self.refused("--json", "texts", "A.MES", "--language=9")
+
+    def test_the_interface_language_file_is_not_needed(self) -> None:
+        alone = self.folder / "alone" / "vendlingua-cli"
+        alone.parent.mkdir()
+        alone.write_bytes(PROGRAM.read_bytes())
+        alone.chmod(0o755)
+        done = subprocess.run([alone, "info", self.folder / "A.MES"], capture_output=True)
+        self.assertEqual((done.returncode, done.stderr), (0, b""))
+
+
+if __name__ == "__main__":
+    unittest.main()

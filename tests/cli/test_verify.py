@@ -1,0 +1,286 @@
+"""vendlingua-cli verify: is a file sound?"""
+
+from __future__ import annotations
+
+import unittest
+
+from support import (
+    LAST_LINE_OF_NINE,
+    REFUSED,
+    CliTest,
+    MesFile,
+    Result,
+    header,
+    msx_at,
+    msx_file,
+    s_record,
+    s_records,
+)
+
+
+class VerifyCase(CliTest):
+    def assert_sound(self, content: bytes) -> None:
+        self.write("file", content)
+        self.assertEqual(self.done("verify", "file").out, "file: sound\n")
+
+    def findings(self, content: bytes) -> list[str]:
+        """What is found in a file that is not sound, one line each, without the file's name."""
+        self.write("file", content)
+        result = self.unsound("file")
+        lines = result.out.splitlines()
+        for line in lines:
+            self.assertTrue(line.startswith("file: "), line)
+        return [line.removeprefix("file: ") for line in lines]
+
+    def unsound(self, *arguments: str) -> Result:
+        with self.unchanged():
+            result = self.cli.run("verify", *arguments)
+        self.assertEqual(result.status, REFUSED, result)
+        self.assertNotEqual(result.err, "")
+        return result
+
+
+class VerifyTest(VerifyCase):
+    def test_every_file_is_reported(self) -> None:
+        self.write("A.MES", MesFile().content())
+        self.write("B.MES", b"")
+        self.write("C.MSX", msx_file(1))
+        lines = self.unsound("A.MES", "B.MES", "C.MSX").out.splitlines()
+        self.assertEqual(len(lines), 3)
+        self.assertEqual((lines[0], lines[2]), ("A.MES: sound", "C.MSX: sound"))
+        self.assertTrue(lines[1].startswith("B.MES: "))
+
+    def test_json_lists_the_findings(self) -> None:
+        self.write("A.MES", MesFile().content())
+        self.write("B.MES", b"\x01")
+        printed = self.unsound("A.MES", "B.MES", "--json").json
+        self.assertEqual([file["file"] for file in printed["files"]], ["A.MES", "B.MES"])
+        self.assertEqual([len(file["findings"]) for file in printed["files"]], [0, 1])
+
+    def test_unsound_files_are_named_on_stderr(self) -> None:
+        self.write("A.MES", MesFile().content())
+        self.write("B.MES", b"")
+        err = self.unsound("A.MES", "B.MES").err
+        self.assertIn("B.MES", err)
+        self.assertNotIn("A.MES", err)
+
+    def test_a_file_that_cannot_be_read_is_named_once_a_line(self) -> None:
+        for name in ("missing.MES", "."):
+            for line in self.unsound(name).out.splitlines():
+                self.assertEqual(line.count(f"{name}: "), 1, line)
+
+    def test_the_content_decides_what_a_file_is(self) -> None:
+        self.assert_sound(MesFile().content())
+        self.assert_sound(msx_file(1))
+
+
+class VerifySRecordsTest(VerifyCase):
+    def test_records_of_every_width_are_sound(self) -> None:
+        for kind in ("1", "2", "3"):
+            self.assert_sound(s_records(kind, 0x6000, bytes(range(100))))
+
+    def test_headers_and_terminators_of_other_programs_are_sound(self) -> None:
+        # 04 and 03 + 03 complemented: the end of the file, and a count of three records before it.
+        data = s_record("0", 0, b"HDR") + b"\r\n" + s_records("2", 0xFF0000, bytes(40))
+        self.assert_sound(data + b"S804000000FB\r\n")
+        self.assert_sound(data + b"S5030003F9\r\n" + b"S804000000FB\r\n")
+
+    def test_line_feeds_alone_and_a_missing_last_line_end_are_sound(self) -> None:
+        data = s_records("2", 0xFF0000, bytes(40))
+        self.assert_sound(data.replace(b"\r\n", b"\n"))
+        self.assert_sound(data.rstrip())
+
+    def test_an_identified_copy_is_sound(self) -> None:
+        records = s_records("2", 0xFF0000, bytes(40))
+        self.assert_sound(b"S013000044543032363741412020202020202020E9\r\n" + records)
+        self.assert_sound(b"S0130000445430303030545420202020202020" + b"2000\r\n" + records)
+
+    def test_a_copy_of_nine_languages_is_sound(self) -> None:
+        records = s_records("2", 0xFF0000, bytes(40))
+        for copy_header in (
+            b"S013000044543034313741412020202020202020E6\r\n",
+            b"S01300004454" b"3C3C3C3C3C3C" b"2020202020202020" b"0\r\n",
+        ):
+            self.assert_sound(copy_header + records + LAST_LINE_OF_NINE)
+            self.assert_sound(copy_header + records + LAST_LINE_OF_NINE.rstrip())
+
+    def test_a_wrong_checksum_is_found_in_its_line(self) -> None:
+        content = bytearray(msx_file(1))
+        content[msx_at(1, 9) - 4 : msx_at(1, 9) - 2] = b"00"
+        found = self.findings(bytes(content))
+        self.assertEqual(len(found), 1)
+        self.assertRegex(found[0], r"line 10: .*checksum")  # the header and messages 0 to 8
+
+    def test_a_wrong_checksum_of_a_copy_header_is_found(self) -> None:
+        records = s_records("2", 0xFF0000, bytes(40))
+        found = self.findings(b"S013000044543034313741412020202020202020E5\r\n" + records)
+        self.assertEqual(len(found), 1)
+        self.assertRegex(found[0], "line 1: .*checksum")
+
+    def test_a_flipped_bit_anywhere_is_found(self) -> None:
+        content = s_records("2", 0xFF0000, b"0123456789abcdef" * 2)
+        for position in range(len(content)):
+            if content[position] not in b"\r\n":
+                broken = bytearray(content)
+                broken[position] ^= 1
+                self.assertNotEqual(self.findings(bytes(broken)), [])
+
+    def test_a_wrong_count_is_found(self) -> None:
+        good = s_records("2", 0xFF0000, bytes(32))
+        line = good.split(b"\r\n")[1]
+        for bad in (
+            line + b"00",
+            line[:-2],
+            line[:-1],
+            line + b" ",
+            b"S2",
+            b"S2030000",
+            b"S",
+            b"S21",
+        ):
+            found = self.findings(good.replace(line, bad))
+            self.assertRegex(found[0], "^line 2: ")
+
+    def test_what_is_no_record_is_found(self) -> None:
+        good = s_records("2", 0xFF0000, bytes(16))
+        for bad in (
+            b"",
+            b"text",
+            b"s2",
+            b"S4030000FC",
+            b"SA030000FC",
+            b" S9030000FC",
+            b"S9030G00FC",
+        ):
+            found = self.findings(good + bad + b"\r\n")
+            self.assertEqual(len(found), 1)
+            self.assertRegex(found[0], "^line 2: ")
+
+    def test_a_lone_carriage_return_is_found(self) -> None:
+        good = s_records("2", 0xFF0000, bytes(32))
+        self.assertRegex(self.findings(good.replace(b"\r\n", b"\r"))[0], "^line 1: ")
+
+    def test_lower_case_hexadecimal_is_found(self) -> None:
+        good = s_records("2", 0xFF0000, bytes(32))
+        found = self.findings(good.replace(b"FF", b"ff", 1))
+        self.assertEqual(len(found), 1)
+        self.assertRegex(found[0], "^line 1: ")
+
+    def test_a_gap_is_found(self) -> None:
+        found = self.findings(
+            s_records("2", 0xFF0000, bytes(32)) + s_records("2", 0xFF0021, bytes(32))
+        )
+        self.assertEqual(len(found), 1)
+        self.assertRegex(found[0], "line 3: .*gap.* FF0021 .*FF001F")
+
+    def test_an_overlap_is_found(self) -> None:
+        found = self.findings(
+            s_records("2", 0xFF0000, bytes(32)) + s_records("2", 0xFF001F, bytes(32))
+        )
+        self.assertRegex("\n".join(found), "line 3: .*overlap.*FF001F")
+        self.assertFalse([line for line in found if not line.startswith("line 3: ")])
+
+    def test_lines_out_of_order_are_found(self) -> None:
+        found = self.findings(
+            s_records("2", 0xFF0010, bytes(16)) + s_records("2", 0xFF0000, bytes(16))
+        )
+        self.assertEqual(len(found), 1)
+        self.assertRegex(found[0], "^line 2: .*FF0000")
+
+    def test_every_unsound_line_is_found(self) -> None:
+        lines = msx_file(1).splitlines(keepends=True)
+        for number in (3, 200, 456):
+            lines[number - 1] = lines[number - 1][:-4] + b"XX\r\n"
+        found = self.findings(b"".join(lines))
+        reported = {line.split(":")[0] for line in found}
+        self.assertLessEqual({"line 3", "line 200", "line 456"}, reported)
+
+    def test_a_file_without_data_is_found(self) -> None:
+        for content in (s_record("0", 0, b"HDR"), b"S9030000FC", b"\r\n"):
+            self.assertNotEqual(self.findings(content), [])
+
+    def test_the_fixed_last_line_is_known_at_the_end_of_a_copy_only(self) -> None:
+        copy_header = b"S013000044543034313741412020202020202020E6\r\n"
+        records = s_records("2", 0xFF0000, bytes(40))
+        for content in (
+            records + LAST_LINE_OF_NINE,
+            copy_header + LAST_LINE_OF_NINE + records,
+            copy_header + records + LAST_LINE_OF_NINE + LAST_LINE_OF_NINE,
+            copy_header + records + LAST_LINE_OF_NINE.replace(b"FC", b"FFC"),
+        ):
+            self.assertNotEqual(self.findings(content), [])
+
+
+class VerifyMesTest(VerifyCase):
+    def test_files_of_any_number_of_blocks_are_sound(self) -> None:
+        for count in (1, 2, 101):
+            names = [b"Default"] + [b"N%d" % k for k in range(1, count)]
+            self.assert_sound(MesFile(names=names).content())
+
+    def test_a_last_block_that_ends_with_its_last_message_is_sound(self) -> None:
+        file = MesFile()
+        self.assert_sound(file.content()[: file.at(2, 3)])
+
+    def test_a_header_that_is_cut_is_found(self) -> None:
+        for size in (1, 23):
+            self.assertEqual(len(self.findings(MesFile().content()[:size])), 1)
+
+    def test_a_header_without_a_block_is_found(self) -> None:
+        self.assertEqual(len(self.findings(MesFile().header())), 1)
+
+    def test_header_fields_that_are_not_hexadecimal_are_found_by_name(self) -> None:
+        fields = {2: "flags", 4: "HeaderCount", 8: "LastMsg", 12: "MemStart", 20: "MemLength"}
+        for offset, name in fields.items():
+            content = bytearray(MesFile().content())
+            content[offset] = ord("x")
+            self.assertRegex(self.findings(bytes(content))[0], name)
+
+    def test_no_languages_are_found(self) -> None:
+        self.assertNotEqual(self.findings(MesFile(lang_count=0, mem_length=24).content()), [])
+
+    def test_a_last_message_behind_the_slots_is_found(self) -> None:
+        self.assertRegex("\n".join(self.findings(MesFile(last_msg=4).content())), "LastMsg is 4")
+
+    def test_messages_that_do_not_fit_the_memory_are_found(self) -> None:
+        self.assert_sound(MesFile(mem_length=24).content())
+        found = self.findings(MesFile(mem_length=23, last_msg=2).content())
+        self.assertRegex("\n".join(found), "memory of 23 bytes")
+
+    def test_a_name_message_behind_the_last_is_found(self) -> None:
+        self.assert_sound(MesFile(header_count=2).content())
+        self.assertRegex(self.findings(MesFile(header_count=3).content())[0], "HeaderCount is 3")
+
+    def test_a_block_length_that_wraps_is_found(self) -> None:
+        content = header(1, 16, b"00", 1, 2, 0, 0x9000) + b"Default".ljust(40000)
+        self.assertRegex(self.findings(content)[0], "-28636")
+
+    def test_a_set_that_is_too_wide_or_too_long_is_found(self) -> None:
+        self.assertNotEqual(self.findings(MesFile(width=41).content()), [])
+        self.assertNotEqual(self.findings(MesFile(last_msg=513, stride=600).content()), [])
+
+    def test_a_last_block_that_is_cut_is_found(self) -> None:
+        file = MesFile()
+        for end in (file.block(2) + 20, file.at(2, 1), file.at(2, 3) - 1):
+            self.assertEqual(len(self.findings(file.content()[:end])), 1)
+
+    def test_bytes_that_are_no_block_are_found(self) -> None:
+        for size in (1, 19):
+            self.assertEqual(len(self.findings(MesFile().content() + size * b" ")), 1)
+
+    def test_more_than_100_languages_are_found(self) -> None:
+        names = [b"Default"] + [b"N%d" % k for k in range(101)]
+        self.assertRegex(self.findings(MesFile(names=names).content())[0], "100")
+
+    def test_another_name_of_the_reference_is_found(self) -> None:
+        self.assertRegex(self.findings(MesFile(names=[b"DEFAULT"]).content())[0], "DEFAULT")
+
+    def test_a_language_without_a_name_is_found(self) -> None:
+        self.assertRegex(self.findings(MesFile(names=[b"Default", b""]).content())[0], "language 1")
+
+    def test_a_name_given_twice_is_found(self) -> None:
+        names = [b"Default", b"A", b"B", b"A"]
+        self.assertRegex(self.findings(MesFile(names=names).content())[0], 'language 3 .*"A"')
+
+
+if __name__ == "__main__":
+    unittest.main()

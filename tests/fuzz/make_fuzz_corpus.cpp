@@ -1,0 +1,108 @@
+// Writes the first inputs of every fuzz target: small files put together by hand, sound ones and
+// some that have gone wrong. Argument: the folder, which gets one folder a target.
+
+#include <filesystem>
+#include <fstream>
+#include <iostream>
+#include <string>
+#include <vector>
+
+#include "msgfiles/copy_header.h"
+#include "support/message_files.h"
+
+namespace vendlingua {
+namespace {
+
+namespace fs = std::filesystem;
+using test::MesFile;
+
+// What is done with a file: the targets take it from the last bytes of an input.
+const std::string kChoices(24, '\x01');
+
+void Write(const fs::path& folder, const std::vector<std::string>& inputs) {
+  fs::create_directories(folder);
+  for (std::size_t i = 0; i < inputs.size(); ++i) {
+    std::ofstream(folder / ("made_" + std::to_string(i)), std::ios::binary) << inputs[i];
+  }
+}
+
+std::vector<std::string> MesFiles() {
+  MesFile one_block;
+  one_block.names = {"Default"};
+  MesFile wide{.lang_count = 3, .width = 40, .last_msg = 4, .flags = "0F", .stride = 5};
+  wide.names = {"Default", "ITALIANO", "ENGLISH", "DEUTSCH"};
+  MesFile nine_slots{.lang_count = 9, .width = 2, .last_msg = 1, .flags = "03", .stride = 2};
+  nine_slots.mem_start = "00FF0000";
+  nine_slots.names.assign(10, "LINGUA");
+  const std::string usual = MesFile().Bytes();
+  std::string wrapping = usual;
+  wrapping.replace(20, 4, "FFFF");
+  std::string no_languages = usual;
+  no_languages[0] = '\0';
+  return {usual,    one_block.Bytes(), wide.Bytes(),        nine_slots.Bytes(),
+          wrapping, no_languages,      usual.substr(0, 24), usual.substr(0, usual.size() - 5)};
+}
+
+std::vector<std::string> MsxFiles() {
+  const std::string usual = test::MsxFile(1);
+  return {usual, usual.substr(0, 2000), test::MsxFile(0), test::MsxFile(1, "0405"),
+          test::MsxFile(1, "0999").substr(0, 200)};
+}
+
+std::vector<std::string> Sources() {
+  const std::string section = " .SECT text\n DC.B 'ABCD'\nMNLING:\n DC.B \"EFGH\"\n";
+  return {" DC.B 'AB''C'\r\n DC.B \"AB\"\"C\"\r\n",
+          " .SDATA\n" + section,
+          section + section,
+          section + section + section,
+          " ORG $6000\n DC.B 'A'\n ORG $7000\n DC.B '\"\n ORG $8000\n DC.B 'A'\n",
+          " DC.B 'AB'\n DC.B 'A'\n",
+          "; no text\n"};
+}
+
+std::vector<std::string> SRecords() {
+  const std::string records =
+      test::S2Line(0xFF8000, "0123456789ABCDEF") + "\r\n" + test::S2Line(0xFF8010, "abc") + "\r\n";
+  return {records, "S1136000303132333435363738394142434445460B\r\n",
+          CopyHeader("303431374142", "12") + "\r\n" + records + std::string(kLastCopyLine) + "\r\n",
+          test::S2Line(0xFF9FF8, "0123456789ABCDEF") + "\n" +
+              test::S2Line(0xFFBFF8, "0123456789ABCDEF") + "\nS9030000FC\n",
+          "S2\r\nS214\r\nX\r\n"};
+}
+
+std::vector<std::string> Languages() {
+  // A backslash and another character end each of the first two files.
+  return {"Lingua=first\\n;--menu\r\n&File\r\n&Apri\r\n\\n;--menu\r\n&File\r\n&Open\r\n",
+          "Lin\\nfirst\nline\n\\nfirst\n"};
+}
+
+std::vector<std::string> WithChoices(std::vector<std::string> files) {
+  for (std::string& file : files) {
+    file += kChoices;
+  }
+  return files;
+}
+
+void WriteCorpus(const fs::path& folder) {
+  std::vector<std::string> both = MesFiles();
+  both.push_back(MsxFiles().front());
+  Write(folder / "mes_file", WithChoices(MesFiles()));
+  Write(folder / "msx_file", WithChoices(MsxFiles()));
+  Write(folder / "source_import", WithChoices(Sources()));
+  Write(folder / "interface_language", Languages());
+  Write(folder / "srecord_check", SRecords());
+  Write(folder / "section_files", SRecords());
+  Write(folder / "flash_compiler", WithChoices(both));
+}
+
+}  // namespace
+}  // namespace vendlingua
+
+int main(int argument_count, char** arguments) {
+  if (argument_count != 2) {
+    std::cerr << "usage: make_fuzz_corpus FOLDER\n";
+    return 2;
+  }
+  vendlingua::WriteCorpus(arguments[1]);
+  return 0;
+}

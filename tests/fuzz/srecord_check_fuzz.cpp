@@ -1,0 +1,17 @@
+#include <string_view>
+
+#include "fuzz_support.h"
+#include "msgfiles/srecord_check.h"
+
+namespace vendlingua {
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t size) {
+  return fuzz::Run([&] {
+    const std::string content(bytes, bytes + size);
+    for (const std::string& finding : CheckSRecords(content)) {
+      fuzz::Require(!finding.empty(), "a finding says what was found");
+    }
+  });
+}
+
+}  // namespace vendlingua

@@ -1,0 +1,144 @@
+#include <QLabel>
+#include <QMenu>
+#include <QProcess>
+
+#include "app/qt_program_starter.h"
+#include "gui/support/desk.h"
+
+namespace vendlingua::test {
+
+class ProgramTest : public QObject {
+  Q_OBJECT
+
+ private:
+  std::unique_ptr<Desk> desk_;
+
+ private slots:
+  void init() { desk_ = std::make_unique<Desk>(); }
+
+  void cleanup() {
+    const QStringList surprises = desk_->user.Surprises();
+    desk_.reset();
+    QCOMPARE(surprises, QStringList());
+  }
+
+  void StartsWithoutAFile() {
+    QCOMPARE(desk_->program.window().windowTitle(), QStringLiteral("Vendlingua"));
+    for (const char* entry : {"mnuOrig", "mnuDest", "mnuMake", "mnuSave", "mnuSaas", "mnuTLCD"}) {
+      QVERIFY2(!desk_->program.Entry(entry).isEnabled(), entry);
+    }
+    QVERIFY(!desk_->program.window().windowIcon().isNull());
+  }
+
+  void EveryMenuEntryHasItsShortcutAndItsMnemonic() {
+    QCOMPARE(desk_->program.Entry("mnuOpen").shortcut(), QKeySequence(QStringLiteral("Ctrl+O")));
+    QCOMPARE(desk_->program.Entry("mnuSave").shortcut(), QKeySequence(QStringLiteral("Ctrl+S")));
+    QCOMPARE(desk_->program.Entry("mnuSaas").shortcut(),
+             QKeySequence(QStringLiteral("Ctrl+Shift+S")));
+    QCOMPARE(desk_->program.Entry("mnuEsci").shortcut(), QKeySequence(QStringLiteral("Ctrl+Q")));
+    for (const char* entry : {"mnuFile", "mnuOpen", "mnuOrig", "mnuDest", "mnuMake", "mnuTLCD",
+                              "mnuLingue", "mnuInf"}) {
+      QVERIFY2(desk_->program.Entry(entry).text().contains(QLatin1Char('&')), entry);
+    }
+  }
+
+  void EveryControlHasANameForScreenReaders() {
+    desk_->EditMsx();
+    for (const char* name : {"Text1", "HScroll1", "Label5(0)", "Label6", "Label7", "Label1(64)",
+                             "Command1", "CharacterMap", "Status"}) {
+      QVERIFY2(!desk_->program.Get<QWidget>(name).accessibleName().isEmpty(), name);
+    }
+  }
+
+  void StaysAtTheSameHeightWhenItIsActivatedAgain() {
+    FrmMes& window = desk_->program.window();
+    const int top = window.y();
+    QEvent activation(QEvent::ActivationChange);
+    for (int i = 0; i < 3; ++i) {
+      QApplication::sendEvent(&window, &activation);
+      QCOMPARE(window.y(), top);
+    }
+  }
+
+  void StartsTheSiblingBeforeItAsksAboutChanges() {
+    desk_->Edit(MesFile());
+    desk_->Type("EDIT");
+    std::size_t started_at_question = 0;
+    desk_->user.on_dialog = [&](QDialog& /*dialog*/) {
+      started_at_question = desk_->program.starts().programs.size();
+    };
+    desk_->user.No();
+    QVERIFY(desk_->program.window().close());
+    QCOMPARE(started_at_question, std::size_t{1});
+    QCOMPARE(desk_->program.starts().programs.front(),
+             desk_->folder.path().parent_path() / "MACHCONFIG.EXE");
+  }
+
+  void TheMenuEntryEndsTheProgramToo() {
+    desk_->program.Choose("mnuEsci");
+    QVERIFY(!desk_->program.window().isVisible());
+    QCOMPARE(desk_->program.starts().programs.size(), std::size_t{1});
+    QCOMPARE(desk_->program.starts().programs.front(), desk_->folder / "MACHCONFIG.EXE");
+  }
+
+  void SavesBeforeItEnds() {
+    const auto path = desk_->Edit(MesFile());
+    desk_->Type("EDIT");
+    desk_->user.Yes();
+    QVERIFY(desk_->program.window().close());
+    QVERIFY(Slurp(path).find("EDIT") != std::string::npos);
+  }
+
+  void DoesNotEndWhenTheChangesCannotBeSaved() {
+    const auto path = desk_->Edit(MesFile());
+    desk_->Type("EDIT");
+    std::filesystem::remove(path);
+    desk_->user.Yes();
+    QVERIFY(!desk_->program.window().close());
+    QVERIFY(desk_->program.window().isVisible());
+    QCOMPARE(desk_->Text1().text(), QStringLiteral("EDIT"));
+  }
+
+  void EscapeIsNoAnswerToAQuestion() {
+    desk_->Edit(MesFile());
+    desk_->Type("EDIT");
+    desk_->user.on_dialog = [](QDialog& dialog) {
+      QTest::keyClick(&dialog, Qt::Key_Escape);
+      dialog.close();
+    };
+    desk_->user.Yes();
+    QVERIFY(desk_->program.window().close());
+    QCOMPARE(desk_->user.boxes().size(), std::size_t{1});
+  }
+
+  void StartsTheSiblingProgramInItsFolder() {
+    const auto script = desk_->folder.Write("MACHCONFIG.EXE", "#!/bin/sh\npwd > started\n");
+    std::filesystem::permissions(script, std::filesystem::perms::owner_all);
+    QtProgramStarter().Start(script);
+    QTRY_VERIFY(std::filesystem::exists(desk_->folder / "started"));
+    QtProgramStarter().Start(desk_->folder / "NO SUCH PROGRAM");
+  }
+
+  void ShowsTitleAndRevision() {
+    desk_->program.Choose("mnuInf");
+    FrmInfo* info = desk_->program.info();
+    QVERIFY(info->isVisible());
+    QCOMPARE(info->findChild<QLabel*>(QStringLiteral("Label1(0)"))->text(),
+             QStringLiteral("Vendlingua"));
+    QCOMPARE(info->findChild<QLabel*>(QStringLiteral("Label1(1)"))->text(),
+             QStringLiteral("Rev. 1.0.0"));
+    QVERIFY(!info->findChild<QLabel*>(QStringLiteral("Image2"))->pixmap().isNull());
+    QCOMPARE(info->x(), 300);
+    QVERIFY(qAbs(info->y() - (3500.0 / 15 - 0.075 * info->height())) <= 1);
+    QTest::keyClick(info, Qt::Key_Escape);
+    QTRY_VERIFY(desk_->program.info() == nullptr);
+  }
+};
+
+}  // namespace vendlingua::test
+
+int main(int argc, char** argv) {
+  return vendlingua::test::RunTest<vendlingua::test::ProgramTest>(argc, argv);
+}
+
+#include "program_test.moc"

@@ -1,0 +1,79 @@
+#ifndef VENDLINGUA_TESTS_GUI_SUPPORT_DESK_H_
+#define VENDLINGUA_TESTS_GUI_SUPPORT_DESK_H_
+
+#include <QLineEdit>
+#include <QScrollBar>
+#include <QTest>
+#include <filesystem>
+#include <string>
+#include <string_view>
+
+#include "gui/support/dialog_answerer.h"
+#include "gui/support/running_program.h"
+#include "model/display_code.h"
+#include "support/message_files.h"
+#include "support/temporary_folder.h"
+
+namespace vendlingua::test {
+
+/// What one test works at: a folder with files, the running program and the user's answers. The
+/// program lies in the subfolder "bin".
+struct Desk {
+  TemporaryFolder folder;
+  DialogAnswerer user;
+  RunningProgram program{folder / "bin"};
+
+  QLineEdit& Text1() { return program.Get<QLineEdit>("Text1"); }
+  QScrollBar& HScroll1() { return program.Get<QScrollBar>("HScroll1"); }
+  ViewState& view() { return program.workspace().view; }
+  bool Modified() { return program.set().Modified != kFalse; }
+
+  /// Writes a file and opens it.
+  std::filesystem::path Open(std::string_view name, std::string_view content) {
+    const std::filesystem::path path = folder.Write(name, content);
+    user.Choose(path);
+    program.Choose("mnuOpen");
+    return path;
+  }
+
+  /// Opens a ".MES" file, its first language as origin and as destination.
+  std::filesystem::path Edit(std::string_view mes_content) {
+    const std::filesystem::path path = Open("TEST.MES", mes_content);
+    program.Choose("mnuori(1)");
+    program.Choose("mnuDes(1)");
+    return path;
+  }
+  std::filesystem::path Edit(const MesFile& mes) { return Edit(mes.Bytes()); }
+
+  /// Opens a ".MSX" file, the built-in table as origin, its first language as destination.
+  std::filesystem::path EditMsx(std::size_t languages = 2) {
+    const std::filesystem::path path = Open("TEST.MSX", MsxFile(languages));
+    program.Choose("mnuori(0)");
+    program.Choose("mnuDes(1)");
+    return path;
+  }
+
+  /// Replaces the text of the edit box as a user does.
+  void Type(const char* text) {
+    Text1().selectAll();
+    QTest::keyClicks(&Text1(), QLatin1String(text));
+  }
+
+  /// The stored destination text of a message, at the width of the set.
+  std::string Stored(std::size_t message) {
+    const MessageSet& set = program.set();
+    return Text(set.DestText.at(message).First(set.Width()));
+  }
+};
+
+/// The main() of a test program: it finds the display fonts as the program does.
+template <typename Test>
+int RunTest(int argc, char** argv) {
+  const QApplication application(argc, argv);
+  Test test;
+  return QTest::qExec(&test, argc, argv);
+}
+
+}  // namespace vendlingua::test
+
+#endif  // VENDLINGUA_TESTS_GUI_SUPPORT_DESK_H_

@@ -1,0 +1,125 @@
+#include "gui/support/dialog_answerer.h"
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QFileDialog>
+#include <QInputDialog>
+#include <QLineEdit>
+#include <utility>
+
+#include "platform/qt_path.h"
+
+namespace vendlingua::test {
+namespace {
+
+bool Click(QDialog& dialog, QMessageBox::StandardButton button) {
+  auto* box = qobject_cast<QMessageBox*>(&dialog);
+  if (box == nullptr || box->button(button) == nullptr) {
+    return false;
+  }
+  box->button(button)->click();
+  return true;
+}
+
+bool HasOneButton(QDialog& dialog) {
+  auto* box = qobject_cast<QMessageBox*>(&dialog);
+  return box != nullptr && box->buttons().size() == 1;
+}
+
+}  // namespace
+
+DialogAnswerer::DialogAnswerer() {
+  constexpr int kMilliseconds = 5;
+  connect(&timer_, &QTimer::timeout, this, &DialogAnswerer::Poll);
+  timer_.start(kMilliseconds);
+}
+
+void DialogAnswerer::Type(const QString& text) {
+  Expect([text](QDialog& dialog) {
+    auto* input = qobject_cast<QInputDialog*>(&dialog);
+    if (input == nullptr) {
+      return false;
+    }
+    input->setTextValue(text);
+    input->accept();
+    return true;
+  });
+}
+
+// Types the path as a user would, so that the questions of the file dialog itself are asked too.
+void DialogAnswerer::Choose(const std::filesystem::path& path) {
+  Expect([path](QDialog& dialog) {
+    auto* files = qobject_cast<QFileDialog*>(&dialog);
+    if (files == nullptr) {
+      return false;
+    }
+    files->findChild<QLineEdit*>(QStringLiteral("fileNameEdit"))->setText(ToQString(path));
+    QMetaObject::invokeMethod(files, "accept");
+    return true;
+  });
+}
+
+QStringList DialogAnswerer::Surprises() const {
+  QStringList surprises = surprises_;
+  if (!answers_.empty()) {
+    surprises += QStringLiteral("%1 answers were not asked for").arg(answers_.size());
+  }
+  return surprises;
+}
+
+void DialogAnswerer::Poll() {
+  auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+  if (dialog == nullptr || !dialog->isVisible()) {
+    answered_ = nullptr;
+    return;
+  }
+  if (dialog == answered_) {
+    return;
+  }
+  answered_ = dialog;
+  Note(*dialog);
+  if (on_dialog) {
+    on_dialog(*dialog);
+  }
+  if (HasOneButton(*dialog)) {
+    AcceptDialog(*dialog);
+    return;
+  }
+  const Answer answer = answers_.empty() ? Answer() : answers_.front();
+  if (!answers_.empty()) {
+    answers_.pop_front();
+  }
+  if (!answer || !answer(*dialog)) {
+    surprises_ += dialog->windowTitle() + QStringLiteral(": no answer fits");
+    dialog->done(QDialog::Rejected);
+  }
+}
+
+void DialogAnswerer::Note(QDialog& dialog) {
+  if (auto* box = qobject_cast<QMessageBox*>(&dialog)) {
+    boxes_.push_back({box->icon(), box->text(), box->windowTitle(), box->standardButtons()});
+  } else if (auto* input = qobject_cast<QInputDialog*>(&dialog)) {
+    inputs_.push_back({input->labelText(), input->windowTitle(), input->textValue()});
+  } else if (auto* files = qobject_cast<QFileDialog*>(&dialog)) {
+    files_.push_back({files->nameFilters(), files->defaultSuffix(),
+                      files->directory().absolutePath(),
+                      files->acceptMode() == QFileDialog::AcceptSave,
+                      !files->testOption(QFileDialog::DontConfirmOverwrite)});
+  }
+}
+
+bool DialogAnswerer::AnswerYes(QDialog& dialog) { return Click(dialog, QMessageBox::Yes); }
+
+bool DialogAnswerer::AnswerNo(QDialog& dialog) { return Click(dialog, QMessageBox::No); }
+
+bool DialogAnswerer::Reject(QDialog& dialog) {
+  dialog.reject();
+  return true;
+}
+
+bool DialogAnswerer::AcceptDialog(QDialog& dialog) {
+  QMetaObject::invokeMethod(&dialog, "accept");
+  return true;
+}
+
+}  // namespace vendlingua::test

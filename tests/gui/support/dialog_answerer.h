@@ -1,0 +1,88 @@
+#ifndef VENDLINGUA_TESTS_GUI_SUPPORT_DIALOG_ANSWERER_H_
+#define VENDLINGUA_TESTS_GUI_SUPPORT_DIALOG_ANSWERER_H_
+
+#include <QDialog>
+#include <QMessageBox>
+#include <QObject>
+#include <QPointer>
+#include <QString>
+#include <QStringList>
+#include <QTimer>
+#include <deque>
+#include <filesystem>
+#include <functional>
+#include <vector>
+
+namespace vendlingua::test {
+
+/// Answers the real modal dialogs of the program while it waits in them, in the order in which the
+/// answers were given, and keeps what it saw. A message box with one button needs no answer. A
+/// dialog that no answer was given for is cancelled and counts as a surprise.
+class DialogAnswerer : public QObject {
+  Q_OBJECT
+
+ public:
+  DialogAnswerer();
+
+  void Yes() { Expect(&DialogAnswerer::AnswerYes); }
+  void No() { Expect(&DialogAnswerer::AnswerNo); }
+  /// Types `text` into an input box and accepts it.
+  void Type(const QString& text);
+  /// Cancels an input box or a file dialog.
+  void Cancel() { Expect(&DialogAnswerer::Reject); }
+  /// Chooses `path` in a file dialog.
+  void Choose(const std::filesystem::path& path);
+  /// Accepts a file dialog as it stands.
+  void Accept() { Expect(&DialogAnswerer::AcceptDialog); }
+
+  /// Called with every dialog before it is answered.
+  std::function<void(QDialog&)> on_dialog;
+
+  struct Box {
+    QMessageBox::Icon icon;
+    QString text;
+    QString title;
+    QMessageBox::StandardButtons buttons;
+  };
+  const std::vector<Box>& boxes() const { return boxes_; }
+  struct Input {
+    QString prompt;
+    QString title;
+    QString default_answer;
+  };
+  const std::vector<Input>& inputs() const { return inputs_; }
+  struct FileQuestion {
+    QStringList name_filters;
+    QString suffix;
+    QString folder;
+    bool save;
+    bool asks_before_overwriting;
+  };
+  const std::vector<FileQuestion>& files() const { return files_; }
+
+  /// Dialogs that were not expected, and answers that were not used.
+  QStringList Surprises() const;
+
+ private:
+  using Answer = std::function<bool(QDialog&)>;
+
+  void Expect(Answer answer) { answers_.push_back(std::move(answer)); }
+  void Poll();
+  void Note(QDialog& dialog);
+  static bool AnswerYes(QDialog& dialog);
+  static bool AnswerNo(QDialog& dialog);
+  static bool Reject(QDialog& dialog);
+  static bool AcceptDialog(QDialog& dialog);
+
+  QTimer timer_;
+  QPointer<QDialog> answered_;
+  std::deque<Answer> answers_;
+  std::vector<Box> boxes_;
+  std::vector<Input> inputs_;
+  std::vector<FileQuestion> files_;
+  QStringList surprises_;
+};
+
+}  // namespace vendlingua::test
+
+#endif  // VENDLINGUA_TESTS_GUI_SUPPORT_DIALOG_ANSWERER_H_

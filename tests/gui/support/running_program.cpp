@@ -1,0 +1,52 @@
+#include "gui/support/running_program.h"
+
+#include <QMenu>
+#include <filesystem>
+
+#include "app/qt_font_list.h"
+#include "app/start_up.h"
+
+namespace vendlingua::test {
+namespace {
+
+namespace fs = std::filesystem;
+
+const fs::path kLanguagesFolder = VENDLINGUA_LANGUAGES_FOLDER;
+const fs::path kFontsFolder = VENDLINGUA_FONTS_FOLDER;
+
+}  // namespace
+
+void RegisterDisplayFonts() { const QtFontList fonts(kFontsFolder); }
+
+RunningProgram::RunningProgram(const fs::path& folder) : engine_(dialogs_) {
+  fs::create_directories(folder);
+  for (const auto& entry : fs::directory_iterator(kLanguagesFolder)) {
+    fs::copy_file(entry.path(), folder / entry.path().filename(), fs::copy_options::skip_existing);
+  }
+  engine_.workspace.folders = {.program = folder,
+                               .current = folder,
+                               .settings = folder / "vendlingua.ini",
+                               .user_settings = folder / "user" / "vendlingua.ini"};
+  const QtFontList fonts(kFontsFolder);
+  if (!StartUp(engine_.workspace, dialogs_, fonts).Form_Load()) {
+    qFatal("the program does not start");
+  }
+  window_ = std::make_unique<FrmMes>(engine_, dialogs_, starts_);
+  window_->show();
+  QApplication::processEvents();
+}
+
+RunningProgram::~RunningProgram() = default;
+
+void RunningProgram::Choose(const char* name) {
+  QAction& entry = Entry(name);
+  if (entry.isEnabled() && entry.isVisible()) {
+    entry.trigger();
+  }
+}
+
+void RunningProgram::OpenMenu(const char* name) {
+  emit window_->findChild<QMenu*>(QLatin1String(name))->aboutToShow();
+}
+
+}  // namespace vendlingua::test

@@ -1,0 +1,89 @@
+#ifndef VENDLINGUA_TESTS_GUI_SUPPORT_RUNNING_PROGRAM_H_
+#define VENDLINGUA_TESTS_GUI_SUPPORT_RUNNING_PROGRAM_H_
+
+#include <QAction>
+#include <QApplication>
+#include <QString>
+#include <filesystem>
+#include <memory>
+#include <vector>
+
+#include "app/engine.h"
+#include "app/frm_mes.h"
+#include "app/qt_dialogs.h"
+#include "flash/frm_make.h"
+#include "info/frm_info.h"
+#include "platform/program_starter.h"
+
+namespace vendlingua::test {
+
+/// Notes what is started instead of starting it.
+class NotedStarts : public ProgramStarter {
+ public:
+  std::vector<std::filesystem::path> programs;
+
+  void Start(const std::filesystem::path& program) override { programs.push_back(program); }
+};
+
+/// The real program in one process: started from `folder`, where its language files lie, and driven
+/// by the names of its controls.
+class RunningProgram {
+ public:
+  /// Copies the interface languages into `folder` and shows the main window.
+  explicit RunningProgram(const std::filesystem::path& folder);
+  RunningProgram(const RunningProgram&) = delete;
+  RunningProgram& operator=(const RunningProgram&) = delete;
+  ~RunningProgram();
+
+  Engine& engine() { return engine_; }
+  Workspace& workspace() { return engine_.workspace; }
+  MessageSet& set() { return engine_.workspace.set; }
+  FrmMes& window() { return *window_; }
+  NotedStarts& starts() { return starts_; }
+
+  /// The windows that the menus open; null while they are not open.
+  FrmMake* compiler() { return window_->findChild<FrmMake*>(); }
+  FrmInfo* info() { return window_->findChild<FrmInfo*>(); }
+
+  /// A control of the main window.
+  template <typename Control>
+  Control& Get(const char* name) {
+    return GetIn<Control>(*window_->centralWidget(), name);
+  }
+
+  /// A control of the compiler window.
+  template <typename Control>
+  Control& GetInCompiler(const char* name) {
+    return GetIn<Control>(*compiler(), name);
+  }
+
+  QAction& Entry(const char* name) { return *window_->findChild<QAction*>(QLatin1String(name)); }
+
+  /// Chooses a menu entry; nothing when it is disabled or hidden, as for a user.
+  void Choose(const char* name);
+
+  /// Tells a menu that it opens, without the popup that would wait for the mouse.
+  void OpenMenu(const char* name);
+
+ private:
+  template <typename Control>
+  static Control& GetIn(QWidget& parent, const char* name) {
+    auto* control = parent.findChild<Control*>(QLatin1String(name));
+    if (control == nullptr) {
+      qFatal("there is no control %s", name);
+    }
+    return *control;
+  }
+
+  QtDialogs dialogs_;
+  Engine engine_;
+  NotedStarts starts_;
+  std::unique_ptr<FrmMes> window_;
+};
+
+/// Registers the display fonts of the source tree for this process.
+void RegisterDisplayFonts();
+
+}  // namespace vendlingua::test
+
+#endif  // VENDLINGUA_TESTS_GUI_SUPPORT_RUNNING_PROGRAM_H_

@@ -1,0 +1,196 @@
+#include "platform/files.h"
+
+#include <gmock/gmock.h>
+
+#include <filesystem>
+#include <fstream>
+#include <functional>
+#include <string>
+
+#include "platform/errors.h"
+#include "support/temporary_folder.h"
+
+namespace vendlingua {
+namespace {
+
+namespace fs = std::filesystem;
+using test::Slurp;
+using test::TemporaryFolder;
+using ::testing::HasSubstr;
+
+class Files : public ::testing::Test {
+ protected:
+  TemporaryFolder folder;
+};
+
+// Every byte value once, with a CR LF that nothing may change.
+std::string AllBytes() {
+  std::string bytes = "\r\n";
+  for (int byte = 0; byte < 256; ++byte) {
+    bytes += static_cast<char>(byte);
+  }
+  return bytes;
+}
+
+std::string FailureOf(const std::function<void()>& action) {
+  try {
+    action();
+  } catch (const FileError& error) {
+    return error.what();
+  }
+  return "no FileError";
+}
+
+TEST_F(Files, AreReadByteByByte) {
+  EXPECT_EQ(ReadFile(folder.Write("all.bin", AllBytes())), AllBytes());
+  EXPECT_EQ(ReadFile(folder.Write("empty.bin", "")), "");
+}
+
+TEST_F(Files, AreWrittenByteByByte) {
+  WriteFile(folder / "all.bin", AllBytes());
+  EXPECT_EQ(Slurp(folder / "all.bin"), AllBytes());
+}
+
+TEST_F(Files, AreReplacedWhole) {
+  const fs::path file = folder.Write("old.bin", "a long old content");
+  WriteFile(file, "new");
+  EXPECT_EQ(Slurp(file), "new");
+}
+
+TEST_F(Files, ThatAreMissingAreNamed) {
+  const std::string failure = FailureOf([this] { ReadFile(folder / "none.MES"); });
+  EXPECT_THAT(failure, HasSubstr((folder / "none.MES").string()));
+  EXPECT_THAT(failure, HasSubstr("No such file"));
+}
+
+TEST_F(Files, WithoutTheirFolderAreAFolderThatIsNotReady) {
+  EXPECT_THROW(ReadFile(folder / "gone/X.MES"), FolderNotReadyError);
+  EXPECT_THROW(WriteFile(folder / "gone/X.MES", "x"), FolderNotReadyError);
+  EXPECT_THROW(PatchFile(folder / "gone/X.MES", PatchFile::IfMissing::kCreate),
+               FolderNotReadyError);
+}
+
+TEST_F(Files, ThatAreMissingInAFolderThatIsThereAreNotAFolderThatIsNotReady) {
+  EXPECT_THAT([this] { ReadFile(folder / "none.MES"); },
+              ::testing::Throws<FileError>(::testing::Truly([](const FileError& error) {
+                return dynamic_cast<const FolderNotReadyError*>(&error) == nullptr;
+              })));
+}
+
+TEST_F(Files, ThatAreFoldersAreRefused) {
+  EXPECT_THROW(ReadFile(folder.path()), FileError);
+  EXPECT_THROW(WriteFile(folder.path(), "x"), FileError);
+  EXPECT_THROW(PatchFile(folder.path(), PatchFile::IfMissing::kFail), FileError);
+}
+
+TEST_F(Files, ThatCannotBeReadAreRefused) {
+  const fs::path file = folder.Write("locked.MES", "content");
+  fs::permissions(file, fs::perms::none);
+  if (std::ifstream(file).good()) {
+    GTEST_SKIP() << "this user may read every file";
+  }
+  EXPECT_THROW(ReadFile(file), FileError);
+}
+
+TEST_F(Files, ThatAreDevicesAreNotRead) {
+  if (!fs::exists("/dev/zero")) {
+    GTEST_SKIP() << "needs the device file";
+  }
+  EXPECT_THROW(ReadFile("/dev/zero"), FileError);
+}
+
+TEST_F(Files, AreReadUpToTheLimit) {
+  const fs::path file = folder.Write("eight.bin", "12345678");
+  EXPECT_EQ(ReadFile(file, 8), "12345678");
+  EXPECT_THAT(FailureOf([&file] { ReadFile(file, 7); }), HasSubstr("8 bytes, at most 7"));
+}
+
+TEST_F(Files, OfGigabytesAreRefusedUnread) {
+  const fs::path file = folder.Write("huge.MES", "");
+  fs::resize_file(file, std::uintmax_t{1} << 31U);
+  EXPECT_THROW(ReadFile(file), FileError);
+}
+
+TEST_F(Files, OnAFullDiskFailToBeWritten) {
+  if (!fs::exists("/dev/full")) {
+    GTEST_SKIP() << "needs the device file that is always full";
+  }
+  EXPECT_THAT(FailureOf([] { WriteFile("/dev/full", "x"); }), HasSubstr("cannot be written"));
+}
+
+TEST_F(Files, OnAFullDiskFailToBePatched) {
+  if (!fs::exists("/dev/full")) {
+    GTEST_SKIP() << "needs the device file that is always full";
+  }
+  EXPECT_THAT(FailureOf([] {
+                PatchFile file("/dev/full", PatchFile::IfMissing::kFail);
+                file.WriteAt(1, "x");
+                file.Close();
+              }),
+              HasSubstr("cannot be written"));
+}
+
+using PatchFileTest = Files;
+
+TEST_F(PatchFileTest, ChangesOnlyTheBytesThatAreWritten) {
+  const fs::path path = folder.Write("a.bin", "0123456789");
+  PatchFile file(path, PatchFile::IfMissing::kFail);
+  file.WriteAt(1, "A");
+  file.WriteAt(4, "BC");
+  file.Close();
+  EXPECT_EQ(Slurp(path), "A12BC56789");
+}
+
+TEST_F(PatchFileTest, LengthensTheFileFromItsEnd) {
+  const fs::path path = folder.Write("a.bin", "0123");
+  PatchFile file(path, PatchFile::IfMissing::kFail);
+  file.WriteAt(4, "XYZ");
+  file.Close();
+  EXPECT_EQ(Slurp(path), "012XYZ");
+}
+
+TEST_F(PatchFileTest, FillsAGapBehindTheOldEndWithZeros) {
+  const fs::path path = folder.Write("a.bin", "01");
+  PatchFile file(path, PatchFile::IfMissing::kFail);
+  file.WriteAt(6, "X");
+  file.Close();
+  EXPECT_EQ(Slurp(path), std::string("01\0\0\0X", 6));
+}
+
+TEST_F(PatchFileTest, WritesEveryByteAsItIs) {
+  const fs::path path = folder.Write("a.bin", "");
+  PatchFile file(path, PatchFile::IfMissing::kFail);
+  file.WriteAt(1, AllBytes());
+  file.Close();
+  EXPECT_EQ(Slurp(path), AllBytes());
+}
+
+TEST_F(PatchFileTest, TruncatesNothingWhenItMayCreate) {
+  const fs::path path = folder.Write("a.bin", "0123456789");
+  PatchFile file(path, PatchFile::IfMissing::kCreate);
+  file.WriteAt(1, "AB");
+  file.Close();
+  EXPECT_EQ(Slurp(path), "AB23456789");
+}
+
+TEST_F(PatchFileTest, CreatesAMissingFileWhenItMay) {
+  PatchFile file(folder / "new.bin", PatchFile::IfMissing::kCreate);
+  file.WriteAt(1, "AB");
+  file.Close();
+  EXPECT_EQ(Slurp(folder / "new.bin"), "AB");
+}
+
+TEST_F(PatchFileTest, CreatesNoMissingFileOtherwise) {
+  EXPECT_THROW(PatchFile(folder / "none.bin", PatchFile::IfMissing::kFail), FileError);
+  EXPECT_EQ(folder.Names(), "");
+}
+
+TEST_F(PatchFileTest, RefusesAPositionBeforeTheFirst) {
+  const fs::path path = folder.Write("a.bin", "0123");
+  PatchFile file(path, PatchFile::IfMissing::kFail);
+  EXPECT_THROW(file.WriteAt(0, "X"), FileError);
+  EXPECT_EQ(Slurp(path), "0123");
+}
+
+}  // namespace
+}  // namespace vendlingua
