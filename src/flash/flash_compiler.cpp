@@ -126,17 +126,19 @@ void FlashCompiler::CompileMsx(const fs::path& flash_file, CompileOutcome& outco
   TextLines lines(content);
   lines.Next();
   std::string records;
+  std::size_t written = 0;
   while (const auto line = lines.Next()) {
     if (lines.count() > kMostLines) {
       throw FileError(
           workspace_.set.CurrentFileName,
           "the file has more than " + std::to_string(kMostLines) + " lines; nothing was written");
     }
-    if (lines.count() <= kLinesWritten + 1) {
+    if (written < kLinesWritten) {
       records.append(line->text).append(kCrLf);
+      ++written;
     }
   }
-  for (std::size_t written = lines.count() - 1; written < kLinesWritten; ++written) {
+  for (; written < kLinesWritten; ++written) {
     records += kCrLf;
   }
   Write(flash_file, {records}, outcome);

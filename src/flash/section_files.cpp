@@ -100,6 +100,8 @@ std::vector<fs::path> SectionFiles::WriteSections(const fs::path& base) const {
     const fs::path path = WithSuffix(base, ".SA" + std::to_string(s));
     const std::string used = section_text_[s].substr(0, static_cast<std::size_t>(section_used_[s]));
     if (used.empty()) {
+      // Created before it is removed, so that a path that cannot be written is an error either way.
+      WriteFile(path, used);
       fs::remove(path);
     } else {
       write(path, used);

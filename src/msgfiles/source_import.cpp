@@ -27,6 +27,22 @@ void RequireOneWidth(const std::vector<SourceSection>& sections) {
   }
 }
 
+// What would make a file that cannot be opened again, or a language that runs into the next one.
+void RequireUsableBlocks(const MessageSet& set) {
+  const float block_length = MesBlockLength(set.LastCol, set.LangStride);
+  if (block_length < 0) {
+    throw Error(std::to_string(set.LangStride + 1) + " message slots of " +
+                std::to_string(set.Width()) +
+                " cells make the length of a language block wrap to " +
+                std::to_string(static_cast<int>(block_length)) +
+                " bytes; give more languages or less memory");
+  }
+  if (set.LastMsg > set.LangStride) {
+    throw Error("a section has " + std::to_string(set.MessageCount()) +
+                " texts, a language has room for " + std::to_string(set.LangStride + 1));
+  }
+}
+
 std::uint64_t AtMost(std::uint64_t value, std::uint64_t limit, const std::string& what) {
   if (value > limit) {
     throw Error(what + ": " + std::to_string(value) + " is too large, at most " +
@@ -78,6 +94,7 @@ bool SourceImport::ImportSource() {
 
 bool SourceImport::ImportSection(const SourceSection& section) {
   MessageSet& set = workspace_.set;
+  const std::uint16_t stride_of_file = set.LangStride;
   TakeTexts(section);
   if (section.width_error) {
     dialogs_.MessageBox({MessageIcon::kCritical, "Lughezza messaggi\nerrata", kErrorTitle});
@@ -86,12 +103,14 @@ bool SourceImport::ImportSection(const SourceSection& section) {
   if (section.directives <= kLastAskedDirective && !(AskMemoryLayout() && MessagesFit())) {
     return false;
   }
-  if (section.texts.size() > std::size_t{set.LangStride} + 1) {
-    throw Error("a section has " + std::to_string(section.texts.size()) +
-                " texts, a language has room for " + std::to_string(set.LangStride + 1));
+  if (workspace_.view.Command1Enabled && set.LangStride != stride_of_file) {
+    throw Error("these answers give " + std::to_string(set.LangStride) +
+                " messages a language, those of the first section gave " +
+                std::to_string(stride_of_file) + "; answer as for the first section");
   }
   --set.LastCol;
   --set.LastMsg;
+  RequireUsableBlocks(set);
   workspace_.menus.mnuSave.enabled = true;
   set.DestLang = 0;
   const SaveOutcome outcome = writer_.Save();

@@ -82,7 +82,7 @@ class SourceParser {
   }
 
   void EndSection() {
-    if (section_.texts.empty() && !section_.width_error) {
+    if (width_ == 0 || (section_.texts.empty() && !section_.width_error)) {
       FailAt(lines_.count(), "the section that ends here holds no quoted text");
     }
     section_.width = width_;

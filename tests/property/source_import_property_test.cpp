@@ -2,7 +2,6 @@
 #include <rapidcheck/gtest.h>
 
 #include <algorithm>
-#include <optional>
 
 #include "msgfiles/source_import.h"
 #include "platform/errors.h"
@@ -119,19 +118,23 @@ rc::Gen<RandomSource> UnevenSources() {
 class Import {
  public:
   explicit Import(const RandomSource& source) : again_(dialogs_) {
-    const auto message_file = folder_ / "NEW.MES";
-    dialogs_.file_answers = {folder_.Write("SOURCE.MES", source.Content()), message_file};
+    dialogs_.file_answers = {folder_.Write("SOURCE.MES", source.Content()), message_file_};
     AnswerQuestions(source);
     Engine importing(dialogs_);
-    opened_ = importing.opener.Open() == OpenOutcome::kOpened;
+    try {
+      opened_ = importing.opener.Open() == OpenOutcome::kOpened;
+    } catch (const Error&) {
+      return;
+    }
     if (opened_) {
       RC_ASSERT(dialogs_.input_answers.empty());
-      dialogs_.file_answers = {message_file};
+      dialogs_.file_answers = {message_file_};
       RC_ASSERT(again_.opener.Open() == OpenOutcome::kOpened);
     }
   }
 
   bool opened() const { return opened_; }
+  bool FileExists() const { return std::filesystem::exists(message_file_); }
   const Workspace& workspace() const { return again_.workspace; }
 
   // The texts of a language, `width` cells each.
@@ -162,6 +165,7 @@ class Import {
   }
 
   test::TemporaryFolder folder_;
+  std::filesystem::path message_file_ = folder_ / "NEW.MES";
   test::ScriptedDialogs dialogs_;
   Engine again_;
   bool opened_ = false;
@@ -193,22 +197,27 @@ RC_GTEST_PROP(SourceImportProperty, ASoundSourceIsReadBackFromTheFileMadeOfIt, (
 
 RC_GTEST_PROP(SourceImportProperty, AnUnevenSourceIsRefusedOrReadBackWhole, ()) {
   const RandomSource source = *UnevenSources();
-  std::optional<Import> import;
-  try {
-    import.emplace(source);
-  } catch (const Error&) {
+  Import import(source);
+  if (!import.opened()) {
     RC_SUCCEED("refused");
   }
-  if (!import->opened()) {
-    RC_SUCCEED("refused");
-  }
-  const std::size_t width = import->workspace().set.Width();
+  const std::size_t width = import.workspace().set.Width();
   for (std::size_t s = 0; s < source.sections.size(); ++s) {
     Texts expected = source.sections[s];
     // Fewer messages in a later section hide those behind them.
-    expected.resize(std::min(expected.size(), import->workspace().set.MessageCount()));
-    RC_ASSERT(import->TextsOf(s + 1, expected.size(), width) == expected);
+    expected.resize(std::min(expected.size(), import.workspace().set.MessageCount()));
+    RC_ASSERT(import.TextsOf(s + 1, expected.size(), width) == expected);
   }
+}
+
+RC_GTEST_PROP(SourceImportProperty, ARefusedSourceOfOneSectionLeavesNoFile, ()) {
+  RandomSource source;
+  source.sections = {AnyTexts(AnyOf(1, 4), AnyOf(1, 40))};
+  source.language_message = 1;
+  source.answers = {{AnyOf(1, 31), 0x6000, AnyOf(1, 0x20000)}};
+  const Import import(source);
+  RC_CLASSIFY(import.opened(), "opened");
+  RC_ASSERT(import.opened() == import.FileExists());
 }
 
 }  // namespace

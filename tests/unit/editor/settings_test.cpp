@@ -85,5 +85,51 @@ TEST(WriteSettings, ThrowsWhereNothingCanBeWritten) {
   EXPECT_THROW(WriteSettings(folder / "missing/vendlingua.ini", "dansk"), FileError);
 }
 
+class WorkspaceSettingsTest : public testing::Test {
+ protected:
+  WorkspaceSettingsTest() {
+    workspace_.folders.settings = folder_ / "vendlingua.ini";
+    workspace_.folders.user_settings = folder_ / "user/vendlingua.ini";
+    std::filesystem::create_directory(folder_ / "user");
+    workspace_.LanguageName = "start";
+  }
+
+  test::TemporaryFolder folder_;
+  Workspace workspace_;
+};
+
+TEST_F(WorkspaceSettingsTest, AreReadBesideTheProgram) {
+  folder_.Write("vendlingua.ini", "Lingua=english\r\n");
+  ReadSettings(workspace_);
+  EXPECT_EQ(workspace_.LanguageName, "english");
+}
+
+TEST_F(WorkspaceSettingsTest, AreReadFromTheUsersOwnFileFirst) {
+  folder_.Write("vendlingua.ini", "Lingua=english\r\n");
+  folder_.Write("user/vendlingua.ini", "Lingua=deutsch\r\n");
+  ReadSettings(workspace_);
+  EXPECT_EQ(workspace_.LanguageName, "deutsch");
+}
+
+TEST_F(WorkspaceSettingsTest, KeepTheNameOfTheStartWithoutAnyFile) {
+  ReadSettings(workspace_);
+  EXPECT_EQ(workspace_.LanguageName, "start");
+}
+
+TEST_F(WorkspaceSettingsTest, HoldTheFirstCheckedLanguage) {
+  workspace_.menus.smnuLingue[3].caption = "english";
+  workspace_.menus.smnuLingue[3].checked = true;
+  workspace_.menus.smnuLingue[5].caption = "deutsch";
+  workspace_.menus.smnuLingue[5].checked = true;
+  WriteSettings(workspace_);
+  EXPECT_EQ(test::Slurp(folder_ / "vendlingua.ini"), "Lingua=english\r\n");
+}
+
+TEST_F(WorkspaceSettingsTest, AreNotWrittenWithoutACheckedLanguage) {
+  folder_.Write("vendlingua.ini", "Lingua=english\r\n");
+  EXPECT_THROW(WriteSettings(workspace_), Error);
+  EXPECT_EQ(test::Slurp(folder_ / "vendlingua.ini"), "Lingua=english\r\n");
+}
+
 }  // namespace
 }  // namespace vendlingua

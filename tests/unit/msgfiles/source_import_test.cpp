@@ -480,7 +480,7 @@ TEST_F(SourceImportTest, RefusesASourceWithoutTexts) {
 
 TEST_F(SourceImportTest, RefusesASourceWhoseOnlyTextIsEmpty) {
   answers_ = {"2", "1", "&H6000", "24"};
-  EXPECT_THAT(ReasonOfRefusal(" DC.B '\"\r\n"), HasSubstr("width is 0"));
+  EXPECT_THAT(ReasonOfRefusal(" DC.B '\"\r\n"), HasSubstr("line 1"));
   ExpectNothingWrittenAndNoFileOpen();
 }
 
