@@ -49,18 +49,26 @@ DestinationEdit::DestinationEdit(QWidget* parent) : QLineEdit(parent) {
 }
 
 void DestinationEdit::Show(const ViewState& view) {
-  const auto limit = static_cast<int>(view.Text1.max_length);
-  setMaxLength(limit == 0 ? kNoLimit : limit);
+  LimitLength(view.Text1.max_length == 0 ? kNoLimit : static_cast<int>(view.Text1.max_length));
   const bool opened = view.Text1.enabled && !isEnabled();
   setEnabled(view.Text1.enabled);
   if (opened) {
     setFocus();
   }
+  const bool begins = opened || view.Label6 != message_;
+  message_ = view.Label6;
   const QString shown = ToWidgetText(view.Text1.text);
-  if (shown != text()) {
-    const int caret = cursorPosition();
+  if (begins || shown != text()) {
+    const int caret = begins ? 0 : cursorPosition();
     setText(shown);
     setCursorPosition(caret);
+  }
+}
+
+// Setting a limit, even the same, moves the caret behind the text.
+void DestinationEdit::LimitLength(int limit) {
+  if (limit != maxLength()) {
+    setMaxLength(limit);
   }
 }
 

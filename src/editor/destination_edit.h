@@ -21,7 +21,8 @@ class DestinationEdit : public QLineEdit {
  public:
   explicit DestinationEdit(QWidget* parent);
 
-  /// Shows the text of the view, the caret where it was.
+  /// Shows the text of the view, the caret where it was; another message begins at its first
+  /// character.
   void Show(const ViewState& view);
 
  signals:
@@ -45,11 +46,13 @@ class DestinationEdit : public QLineEdit {
   void keyReleaseEvent(QKeyEvent* event) override;
 
  private:
+  void LimitLength(int limit);
   bool TakeAltDigit(const QKeyEvent& event);
   void TypeAltCode();
   void PutPlainTextOnClipboard(QClipboard::Mode mode);
 
   QString alt_digits_;
+  int message_ = 0;
 };
 
 }  // namespace vendlingua
