@@ -41,11 +41,11 @@ FrmInfo::FrmInfo(QWidget* main_window) : QWidget(main_window, Qt::Window) {
   auto* grid = new QGridLayout(frame);
   grid->setContentsMargins(16, 12, 24, 16);
   grid->setHorizontalSpacing(20);
-  auto* Image2 = new QLabel;
-  Image2->setObjectName(QStringLiteral("Image2"));
-  Image2->setAccessibleName(kTitle);
-  Image2->setPixmap(emblem.pixmap(QSize(kEmblemSize, kEmblemSize), devicePixelRatio()));
-  grid->addWidget(Image2, 0, 0, 3, 1, Qt::AlignCenter);
+  auto* picture = new QLabel;
+  picture->setObjectName(QStringLiteral("Image2"));
+  picture->setAccessibleName(kTitle);
+  picture->setPixmap(emblem.pixmap(QSize(kEmblemSize, kEmblemSize), devicePixelRatio()));
+  grid->addWidget(picture, 0, 0, 3, 1, Qt::AlignCenter);
   AddLabel(*grid, 0, "Label2", QStringLiteral("PROGRAMMA"));
   QLabel* title = AddLabel(*grid, 1, "Label1(0)", kTitle);
   QFont title_font = title->font();
