@@ -1,5 +1,6 @@
 #include "editor/editor_panel.h"
 
+#include <QFontDatabase>
 #include <algorithm>
 
 #include "editor/display_font.h"
@@ -41,6 +42,20 @@ QFont CaptionFont(const QWidget& widget) {
   QFont font = widget.font();
   font.setPixelSize(kCaptionPixels);
   return font;
+}
+
+// The symbol font draws arrows for this text. Where it is missing, ordinary fonts have the same
+// picture.
+void ShowArrows(QLabel& label) {
+  const QString symbol_font = QStringLiteral("Wingdings");
+  if (QFontDatabase::hasFamily(symbol_font)) {
+    QFont font = label.font();
+    font.setFamily(symbol_font);
+    label.setFont(font);
+    label.setText(QStringLiteral("\u00F2 \u00F2 \u00F2"));
+  } else {
+    label.setText(QStringLiteral("\u21E9 \u21E9 \u21E9"));
+  }
 }
 
 QString WithoutMnemonic(const std::string& text) {
@@ -94,7 +109,7 @@ void EditorPanel::PlaceControls() {
   Label8_[1]->setGeometry(kEditHeadingPlace);
   Label9_[0]->setGeometry(kMarkerTextPlace);
   Label9_[1]->setGeometry(kMarkerArrowsPlace);
-  Label9_[1]->setText(QStringLiteral("\u21E9 \u21E9 \u21E9"));
+  ShowArrows(*Label9_[1]);
   Command1_->setGeometry(kHeightButtonPlace);
   Command2_->setGeometry(kMessageButtonPlace);
   map_->setGeometry(QRect(QPoint((kPanelWidth - CharacterMap::MapSize().width()) / 2, kMapTop),
