@@ -11,7 +11,7 @@
 
 #include "app/exit.h"
 #include "editor/interface_language.h"
-#include "editor/widget_text.h"
+#include "platform/qt_text.h"
 #include "platform/twips.h"
 
 // Resources of a static library have to be asked for, outside of any namespace.

@@ -4,7 +4,7 @@
 #include <QKeySequence>
 #include <QString>
 
-#include "editor/widget_text.h"
+#include "platform/qt_text.h"
 
 namespace vendlingua {
 namespace {

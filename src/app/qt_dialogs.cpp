@@ -8,8 +8,8 @@
 #include <QPushButton>
 #include <utility>
 
-#include "editor/widget_text.h"
 #include "platform/qt_path.h"
+#include "platform/qt_text.h"
 
 namespace vendlingua {
 namespace {

@@ -5,6 +5,7 @@
 
 #include "editor/display_font.h"
 #include "editor/widget_text.h"
+#include "platform/qt_text.h"
 #include "platform/twips.h"
 
 namespace vendlingua {

@@ -25,9 +25,6 @@ DisplayCodes FromWidgetText(const QString& text);
 /// A widget's text as other programs know it, without the characters from U+F000 on.
 QString ToPlainText(const QString& text);
 
-/// UTF-8 text as a QString.
-inline QString FromUtf8(const std::string& text) { return QString::fromStdString(text); }
-
 }  // namespace vendlingua
 
 #endif  // VENDLINGUA_EDITOR_WIDGET_TEXT_H_

@@ -14,10 +14,10 @@
 #include <algorithm>
 #include <utility>
 
-#include "editor/widget_text.h"
 #include "flash/compiler_status.h"
 #include "flash/language_selection.h"
 #include "flash/rename_language.h"
+#include "platform/qt_text.h"
 
 namespace vendlingua {
 namespace {
