@@ -63,6 +63,7 @@ FrmMake::FrmMake(const CompilerParts& parts, RunCommand run, QWidget* main_windo
   SSTab1_->setObjectName(QStringLiteral("SSTab1"));
   BuildEntries();
   BuildButtons();
+  OrderTabStops();
   setMinimumWidth(kNarrowest);
   auto* layout = new QVBoxLayout(this);
   layout->addWidget(SSTab1_, 1);
@@ -77,6 +78,7 @@ void FrmMake::BuildEntries() {
     auto* scroll_area = new QScrollArea(SSTab1_);
     scroll_area->setFrameShape(QFrame::NoFrame);
     scroll_area->setWidgetResizable(true);
+    scroll_area->setFocusPolicy(Qt::NoFocus);
     pages_.at(page) = new QWidget;
     scroll_area->setWidget(pages_.at(page));
     SSTab1_->addTab(scroll_area, QLatin1String(kPageCaptions.at(page)));
@@ -114,6 +116,17 @@ void FrmMake::BuildButtons() {
   connect(Command2_, &QPushButton::clicked, this, &QWidget::close);
 }
 
+// From the languages to the buttons, as they stand in the window.
+void FrmMake::OrderTabStops() {
+  QWidget* before = SSTab1_;
+  for (std::size_t i = 1; i < Check1_.size(); ++i) {
+    setTabOrder(before, Check1_.at(i));
+    before = Check1_.at(i);
+  }
+  setTabOrder(before, Command1_);
+  setTabOrder(Command1_, Command2_);
+}
+
 bool FrmMake::Load() {
   if (!parts_.writer.NonSave()) {
     return false;
@@ -130,6 +143,8 @@ bool FrmMake::Load() {
   for (std::size_t page = 0; page < kPages; ++page) {
     LayOutPage(page);
   }
+  QWidget* first = set.IsMes() ? static_cast<QWidget*>(Check1_.at(1)) : Command1_;
+  first->setFocus();
   return true;
 }
 

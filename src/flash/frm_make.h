@@ -60,6 +60,7 @@ class FrmMake : public QWidget {
 
   void BuildEntries();
   void BuildButtons();
+  void OrderTabStops();
   void LayOutPage(std::size_t page);
   void RenameFocused();
   void Rename(int language);
