@@ -104,17 +104,23 @@ void FlashCompiler::RefuseSource(const fs::path& path) const {
 bool FlashCompiler::CompileMes(const fs::path& flash_file, CompileOutcome& outcome) {
   const MessageSet& set = workspace_.set;
   dialogs_.LetPendingEventsRun();
+  flash_image_ = NamingFile(set.CurrentFileName, [this] { return PackedImage(); });
+  const std::string records =
+      FormatSRecords(flash_image_.Bytes(), set.MemStart, SRecordTypeFor(set.MemStart));
+  Write(flash_file, {records}, outcome);
+  return WriteCopy(flash_file, records, outcome);
+}
+
+// The image of this run; that of the last one stays if an error comes up.
+FlashImage FlashCompiler::PackedImage() const {
+  const MessageSet& set = workspace_.set;
   FlashImage image = flash_image_;
   image.MatchTo(set);
   image.Pack(set, ReadFile(set.CurrentFileName), compiler_.TickedLanguages());
   if (set.HeaderBit0 == kFalse) {
     image.WriteLanguageNames(set);
   }
-  flash_image_ = image;
-  const std::string records =
-      FormatSRecords(image.Bytes(), set.MemStart, SRecordTypeFor(set.MemStart));
-  Write(flash_file, {records}, outcome);
-  return WriteCopy(flash_file, records, outcome);
+  return image;
 }
 
 // The records of a ".MSX" file without its own header: always 4095 lines, empty ones behind its
@@ -182,6 +188,7 @@ bool FlashCompiler::WriteNamedCopy(const fs::path& flash_file, const std::string
   const std::string file_name = name->base_name + name->extension;
   const fs::path copy =
       workspace_.folders.current / fs::path(std::u8string(file_name.begin(), file_name.end()));
+  RefuseSource(copy);
   Write(copy, {*header, kCrLf, records}, outcome);
   return true;
 }

@@ -38,6 +38,7 @@ class FlashCompiler {
   void RefuseSource(const std::filesystem::path& path) const;
   void Run(const std::filesystem::path& flash_file, CompileOutcome& outcome);
   bool CompileMes(const std::filesystem::path& flash_file, CompileOutcome& outcome);
+  FlashImage PackedImage() const;
   void CompileMsx(const std::filesystem::path& flash_file, CompileOutcome& outcome);
   bool WriteCopy(const std::filesystem::path& flash_file, const std::string& records,
                  CompileOutcome& outcome);

@@ -52,12 +52,14 @@ void ApplyDimensions(const MesHeader& header, MessageSet& set) {
   const std::size_t width = std::size_t{header.last_col} + 1;
   const std::size_t messages = std::size_t{header.last_msg} + 1;
   if (width > kMaxWidth) {
-    throw Error("the messages are " + std::to_string(width) + " cells wide, at most " +
-                std::to_string(kMaxWidth) + " can be edited");
+    throw Error("the header field LastCol at position 2 makes the messages " +
+                std::to_string(width) + " cells wide, at most " + std::to_string(kMaxWidth) +
+                " can be edited");
   }
   if (messages > kMaxMessages) {
-    throw Error("a language has " + std::to_string(messages) + " messages, at most " +
-                std::to_string(kMaxMessages) + " can be edited");
+    throw Error("the header field LastMsg at position 9 gives a language " +
+                std::to_string(messages) + " messages, at most " + std::to_string(kMaxMessages) +
+                " can be edited");
   }
   set.LastCol = header.last_col;
   set.HeaderBit1 = ToBoolean16((header.flags & 2U) != 0);

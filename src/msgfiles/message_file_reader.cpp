@@ -73,12 +73,12 @@ bool MessageFileReader::Reload() {
     return ReloadMsx();
   }
   if (workspace_.set.IsMes()) {
-    ReloadMes();
+    NamingFile(workspace_.set.CurrentFileName, [this] { ReloadMes(); });
   }
   return true;
 }
 
-void MessageFileReader::ReloadMes() try {
+void MessageFileReader::ReloadMes() {
   MessageSet& set = workspace_.set;
   MenuState& menus = workspace_.menus;
   const std::string content = ReadFile(set.CurrentFileName);
@@ -96,10 +96,6 @@ void MessageFileReader::ReloadMes() try {
     Show(menus.mnuNew[k], names[k]);
   }
   EnableLoadedMenus();
-} catch (const FileError&) {
-  throw;
-} catch (const Error& error) {
-  throw FileError(workspace_.set.CurrentFileName, error.what());
 }
 
 bool MessageFileReader::ReloadMsx() {

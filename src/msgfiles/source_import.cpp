@@ -19,10 +19,11 @@ constexpr std::size_t kLastAskedDirective = 2;
 
 // All sections share the dimensions of one file.
 void RequireOneWidth(const std::vector<SourceSection>& sections) {
-  for (const SourceSection& section : sections) {
-    if (!section.width_error && section.width != sections.front().width) {
-      throw Error("the texts of a later section are " + std::to_string(section.width) +
-                  " cells wide, those of the first " + std::to_string(sections.front().width));
+  for (std::size_t i = 1; i < sections.size(); ++i) {
+    if (!sections[i].width_error && sections[i].width != sections.front().width) {
+      throw Error("the texts of section " + std::to_string(i + 1) + " are " +
+                  std::to_string(sections[i].width) + " cells wide, those of the first " +
+                  std::to_string(sections.front().width));
     }
   }
 }
@@ -68,17 +69,13 @@ SourceImport::SourceImport(Workspace& workspace, Dialogs& dialogs, EditingView& 
 bool SourceImport::ImportSource() {
   MessageSet& set = workspace_.set;
   const std::filesystem::path source = set.CurrentFileName;
-  std::vector<SourceSection> sections;
-  try {
-    sections = ParseSource(ReadFile(source));
-    RequireOneWidth(sections);
-  } catch (const FileError&) {
-    throw;
-  } catch (const Error& error) {
-    throw FileError(source, error.what());
-  }
+  const auto sections = NamingFile(source, [&] {
+    auto parsed = ParseSource(ReadFile(source));
+    RequireOneWidth(parsed);
+    return parsed;
+  });
   for (const SourceSection& section : sections) {
-    if (!ImportSection(section)) {
+    if (!NamingFile(source, [&] { return TakeSection(section); }) || !SaveSection()) {
       // The source must never be taken for the binary file that was to be made of it.
       set.CloseFile();
       workspace_.view.status = workspace_.ui_text[56];
@@ -92,7 +89,7 @@ bool SourceImport::ImportSource() {
   return reader_.Reload();
 }
 
-bool SourceImport::ImportSection(const SourceSection& section) {
+bool SourceImport::TakeSection(const SourceSection& section) {
   MessageSet& set = workspace_.set;
   const std::uint16_t stride_of_file = set.LangStride;
   TakeTexts(section);
@@ -111,8 +108,12 @@ bool SourceImport::ImportSection(const SourceSection& section) {
   --set.LastCol;
   --set.LastMsg;
   RequireUsableBlocks(set);
+  return true;
+}
+
+bool SourceImport::SaveSection() {
   workspace_.menus.mnuSave.enabled = true;
-  set.DestLang = 0;
+  workspace_.set.DestLang = 0;
   const SaveOutcome outcome = writer_.Save();
   if (outcome.result == SaveOutcome::kFailed) {
     throw Error(outcome.reason);

@@ -30,7 +30,8 @@ class SourceImport {
   bool ImportSource();
 
  private:
-  bool ImportSection(const SourceSection& section);
+  bool TakeSection(const SourceSection& section);
+  bool SaveSection();
   void TakeTexts(const SourceSection& section);
   bool AskMemoryLayout();
   bool MessagesFit();

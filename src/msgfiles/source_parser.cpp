@@ -10,6 +10,13 @@
 namespace vendlingua {
 namespace {
 
+// A line as it may be quoted in a message: as much of it as a box shows.
+std::string Excerpt(std::string_view line) {
+  constexpr std::size_t kMostCharacters = 60;
+  const bool cut = line.size() > kMostCharacters;
+  return ToUtf8(CodesFromBytes(line.substr(0, kMostCharacters))) + (cut ? "..." : "");
+}
+
 [[noreturn]] void FailAt(std::size_t line_number, const std::string& reason) {
   throw Error("line " + std::to_string(line_number) + ": " + reason);
 }
@@ -77,7 +84,7 @@ class SourceParser {
     try {
       return QuotedText(line);
     } catch (const Error& error) {
-      FailAt(lines_.count(), error.what());
+      FailAt(lines_.count(), error.what() + (": " + Excerpt(line)));
     }
   }
 

@@ -35,6 +35,18 @@ class FolderNotReadyError : public FileError {
 /// A path as UTF-8 text, for messages.
 std::string PathText(const std::filesystem::path& path);
 
+/// Returns what `work` returns. An error of it that names no file becomes one about `file`.
+template <typename Work>
+auto NamingFile(const std::filesystem::path& file, const Work& work) {
+  try {
+    return work();
+  } catch (const FileError&) {
+    throw;
+  } catch (const Error& error) {
+    throw FileError(file, error.what());
+  }
+}
+
 }  // namespace vendlingua
 
 #endif  // VENDLINGUA_PLATFORM_ERRORS_H_

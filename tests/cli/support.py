@@ -59,19 +59,21 @@ class Result:
 
 
 class Cli:
-    """Runs the program in one folder."""
+    """Runs the program in one folder, as another user if one is given."""
 
     TIMEOUT_SECONDS = 60
 
-    def __init__(self, folder: Path, program: Path = PROGRAM) -> None:
+    def __init__(self, folder: Path, program: Path = PROGRAM, user: int | None = None) -> None:
         self._folder = folder
         self._program = program
+        self._user = user
 
     def run(self, *arguments: str | bytes | Path) -> Result:
         """Runs one command. A crash, a hang or a finding of a sanitizer fails the test."""
         done = subprocess.run(
             [self._program, *arguments],
             cwd=self._folder,
+            user=self._user,
             stdin=subprocess.DEVNULL,
             capture_output=True,
             timeout=self.TIMEOUT_SECONDS,

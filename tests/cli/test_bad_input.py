@@ -9,21 +9,27 @@ from __future__ import annotations
 import csv
 import io
 import os
+import pwd
 import random
 import shutil
+import tempfile
 import unittest
 from collections.abc import Callable, Iterable
 from dataclasses import dataclass
+from pathlib import Path
 
 from support import (
     DONE,
+    PROGRAM,
     REFUSED,
+    Cli,
     CliTest,
     MesFile,
     header,
     msx_at,
     msx_file,
     msx_header,
+    s_record,
     s_records,
     snapshot,
 )
@@ -178,16 +184,40 @@ class NoFileTest(BadInputCase):
             os.truncate(self.folder / reader.file, 3 << 30)
             self.assert_refused(reader)
 
-    @unittest.skipIf(os.geteuid() == 0, "root reads every file")
+
+class LockedFileTest(BadInputCase):
+    """The program runs as a user who is bound by file modes, also where root runs the tests."""
+
+    def setUp(self) -> None:
+        super().setUp()
+        if os.geteuid() == 0:
+            programs = tempfile.TemporaryDirectory(prefix="vendlingua-cli-")
+            self.addCleanup(programs.cleanup)
+            Path(programs.name).chmod(0o755)
+            self.folder.chmod(0o777)
+            program = Path(shutil.copy(PROGRAM, programs.name))
+            self.cli = Cli(self.folder, program, user=pwd.getpwnam("nobody").pw_uid)
+
+    def test_every_command_takes_the_file_while_it_is_not_locked(self) -> None:
+        for reader in READERS:
+            self.prepare(reader, reader.content)
+            for path in self.folder.iterdir():
+                path.chmod(0o666)
+            self.assert_taken(reader)
+
     def test_a_file_that_may_not_be_read(self) -> None:
         for reader in READERS:
             self.prepare(reader, reader.content)
-            (self.folder / reader.file).chmod(0)
+            locked = self.folder / reader.file
+            locked.chmod(0)
+            names = self.names()
             result = self.cli.run(*reader.arguments)
-            self.assertEqual(result.status, REFUSED, reader.command)
-            self.assertIn(reader.file, result.out + result.err)
+            self.assertEqual(result.status, REFUSED, (reader.command, result))
+            self.assertIn(f"{reader.file}: ", result.out + result.err)
+            self.assertEqual(self.names(), names, reader.command)
+            locked.chmod(0o600)
+            self.assertEqual(locked.read_bytes(), reader.content, reader.command)
 
-    @unittest.skipIf(os.geteuid() == 0, "root writes every file")
     def test_a_file_that_may_not_be_written(self) -> None:
         for reader in READERS:
             if reader.arguments[0] in ("put", "new-language", "apply") and reader is not APPLY:
@@ -277,34 +307,39 @@ class CutFileTest(BadInputCase):
             for size in range(len(whole)):
                 self.check(reader, whole[:size], sound=rules[reader.arguments[0]](size))
 
-    def test_an_msx_file_cut_at_each_byte(self) -> None:
+    def test_an_msx_file_cut_at_each_byte_of_its_header_its_name_and_its_last_lines(self) -> None:
         whole = MSX_CONTENT
         name, last = msx_at(1, 169), msx_at(1, 454)
         head, data_end = len(msx_header()), 42
         places = {*range(head + 60), *range(name - 3, name + 50), *range(last - 3, len(whole))}
 
+        def inside_a_line(size: int) -> bool:
+            return size > head and (size - head) % 46 not in (0, 44)
+
         def refused(size: int) -> Iterable[str]:
             """The commands that must refuse the first `size` bytes."""
+            if whole[:size].endswith(b"\r"):
+                yield from (reader.arguments[0] for reader in MSX_READERS)
             if size < 20 or name < size < name + data_end:
                 yield "info"
             if size < last + data_end:
-                yield "texts"
-            yield "put"
-            if size < head + 44 or (size - head) % 46 not in (0, 44):
+                yield from ("texts", "export")
+            yield from ("put", "apply")
+            if size < 20 or inside_a_line(size):
+                yield "compile"
+            if size < head + 44 or inside_a_line(size):
                 yield "verify"
 
         for reader in MSX_READERS:
             for size in sorted(places):
-                if reader.arguments[0] in refused(size):
-                    self.check(reader, whole[:size], sound=False)
+                self.check(reader, whole[:size], reader.arguments[0] not in refused(size))
 
     def test_a_source_cut_at_each_byte(self) -> None:
         for size in range(len(SOURCE)):
             lines = SOURCE[:size].split(b"\n")
             quotes = [line.count(b"'") + line.count(b'"') for line in lines]
-            sound = set(quotes) <= {0, 2} and 2 in quotes
-            if not SOURCE[:size].endswith(b"\r"):
-                self.check(IMPORT, SOURCE[:size], sound)
+            sound = set(quotes) <= {0, 2} and 2 in quotes and not SOURCE[:size].endswith(b"\r")
+            self.check(IMPORT, SOURCE[:size], sound)
 
     def test_a_table_cut_at_each_byte(self) -> None:
         for size in range(len(TABLE)):
@@ -333,10 +368,10 @@ def is_sound_table(content: bytes) -> bool:
 
 
 class LineEndTest(BadInputCase):
-    def test_carriage_returns_alone_are_no_line_ends(self) -> None:
+    def test_carriage_returns_alone_end_the_rows_of_a_table_only(self) -> None:
         for reader in TEXT_READERS:
-            if reader is not APPLY:
-                self.check(reader, reader.content.replace(b"\r\n", b"\r"), sound=False)
+            content = reader.content.replace(b"\r\n", b"\r")
+            self.check(reader, content, sound=reader is APPLY)
 
     def test_line_feeds_alone_end_lines_of_files_that_are_only_read(self) -> None:
         for reader in TEXT_READERS:
@@ -394,6 +429,11 @@ class HugeNumberTest(BadInputCase):
         content = FLASH.replace(b"S2", b"S2FF").replace(b"S2FF14", b"S2FF")
         self.assert_orderly(SECTIONS, content)
         self.check(VERIFY, content, sound=False)
+
+    def test_addresses_four_gigabytes_apart(self) -> None:
+        content = s_record("3", 0, b"x") + b"\r\n" + s_record("3", 0xFFFFFFFF, b"x") + b"\r\n"
+        self.check(VERIFY, content, sound=False)
+        self.check(SECTIONS, content, sound=False)
 
     def test_a_line_without_end(self) -> None:
         line = b"S2FFFF8000" + 2_000_000 * b"41"

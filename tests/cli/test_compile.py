@@ -185,14 +185,17 @@ class NameListTest(CompileCase):
     def test_a_list_behind_the_end_of_the_memory_is_refused(self) -> None:
         for header_count in (2, 3, 0xFFFF):
             file = MesFile(header_count=header_count, flags=b"00")
-            self.refused_compile(file, "--languages=1,2", "--output=FW0417AB.HEX")
+            err = self.refused_compile(file, "--languages=1,2", "--output=FW0417AB.HEX")
+            # The last slot begins at byte 12 and lists two names of 4 cells.
+            self.assertRegex(err, rf"byte {12 + 4 * (header_count + 2)} .* 24 bytes")
 
     def test_a_list_of_20_names_is_the_longest(self) -> None:
         chosen = ",".join(str(k + 1) for k in range(20))
         names = [b"Default"] + [b"N%d" % k for k in range(21)]
         self.compile(MesFile(lang_count=20, stride=30, header_count=3, names=names), "FW0417AB.HEX")
         file = MesFile(lang_count=21, stride=30, header_count=3, names=names)
-        self.refused_compile(file, f"--languages={chosen},21", "--output=FW0417AB.HEX")
+        err = self.refused_compile(file, f"--languages={chosen},21", "--output=FW0417AB.HEX")
+        self.assertRegex(err, "at most 20 .* 21")
         file.flags = flags(NO_NAME_LIST)
         self.compile(file, "FW0417AB.HEX")
 
@@ -436,18 +439,20 @@ class RefusedTest(CompileCase):
 
     def test_messages_that_overrun_the_memory_are_refused(self) -> None:
         # Two slots of 11 bytes for messages of 12.
-        self.refused_compile(MesFile(mem_length=22), "--languages=1,2", self.OUTPUT)
+        err = self.refused_compile(MesFile(mem_length=22), "--languages=1,2", self.OUTPUT)
+        self.assertRegex(err, "end at byte 23 .* 22 bytes")
 
     def test_a_message_that_is_not_in_the_file_is_refused(self) -> None:
         file = MesFile()
         for end in (file.at(2, 2), file.at(2, 2) + 3):
             self.write("A.MES", file.content()[:end])
             err = self.refused("compile", "A.MES", "--languages=1,2", self.OUTPUT).err
-            self.assertIn("A.MES: ", err)
+            self.assertIn("A.MES: the file ends before message 2 of language 2", err)
 
     def test_a_file_that_holds_no_language_is_refused(self) -> None:
         file = MesFile(names=[b"Default"])
-        self.refused_compile(file, "--languages=1,2", self.OUTPUT)
+        err = self.refused_compile(file, "--languages=1,2", self.OUTPUT)
+        self.assertIn("A.MES: has no language 1", err)
 
     def test_an_output_that_cannot_be_written_is_refused(self) -> None:
         (self.folder / "folder.HEX").mkdir()
@@ -463,7 +468,8 @@ class RefusedTest(CompileCase):
     def test_the_message_file_is_not_overwritten(self) -> None:
         (self.folder / "link.HEX").symlink_to("A.MES")
         for output in ("A.MES", "./A.MES", "link.HEX"):
-            self.refused_compile(MesFile(), "--languages=1,2", f"--output={output}")
+            err = self.refused_compile(MesFile(), "--languages=1,2", f"--output={output}")
+            self.assertIn(f"{output}: is the message file", err)
 
 
 class CompileMsxTest(CliTest):
@@ -508,7 +514,8 @@ class CompileMsxTest(CliTest):
 
     def test_the_message_file_is_not_overwritten(self) -> None:
         self.write("A.MSX", msx_file(1))
-        self.refused("compile", "A.MSX", "--output=A.MSX")
+        err = self.refused("compile", "A.MSX", "--output=A.MSX").err
+        self.assertIn("A.MSX: is the message file", err)
 
 
 if __name__ == "__main__":

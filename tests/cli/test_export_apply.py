@@ -179,6 +179,7 @@ class ApplyTest(CliTest):
         for table in (
             b"\xef\xbb\xbf" + HEADER + b"1,,x\r\n",
             (HEADER + b"1,,x\r\n").replace(b"\r\n", b"\n"),
+            (HEADER + b"1,,x\r\n").replace(b"\r\n", b"\r"),
             HEADER + b"1,,x",
             b'"message","origin","text"\r\n"1","","x"\r\n',
         ):

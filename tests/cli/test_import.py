@@ -99,6 +99,11 @@ class ImportTest(ImportCase):
         self.import_source(SOURCE, "--memory-length=32")
         self.assertEqual(len(self.read("OUT.MES")), 24 + 2 * (20 + 9 * 4))
 
+    def test_an_older_file_stays_when_the_import_fails(self) -> None:
+        self.write("OUT.MES", MesFile().content())
+        later_error = SectionTest.FIRST + b" ORG $7000\r\n DC.B 'IJKL'\r\n DC.B 'MNO'\r\n"
+        self.refused_source(later_error, "--name=ITALIANO", "--name=ENGLISH")
+
     def test_an_output_without_extension_gets_one(self) -> None:
         printed = self.import_source(SOURCE, output="OUT").out
         self.assertEqual(printed, "OUT.MES: 2 messages of 4 cells\n")
@@ -196,7 +201,8 @@ class QuoteTest(ImportCase):
             self.assertIn("source.asm: line 3: ", err)
 
     def test_an_empty_text_is_refused_behind_a_longer_one(self) -> None:
-        self.refused_source(SOURCE + b" DC.B ''\r\n")
+        err = self.refused_source(SOURCE + b" DC.B ''\r\n").err
+        self.assertIn("source.asm: line 3: ", err)
 
     def test_bytes_beyond_ascii_are_display_codes(self) -> None:
         self.import_source(b" DC.B 'a\xfe\xe8\x80'\r\n")
@@ -247,11 +253,13 @@ class MemoryTest(ImportCase):
 
     def test_one_byte_too_few_is_refused(self) -> None:
         self.import_source(SOURCE, "--languages=2", "--memory-length=16")
-        self.refused_source(SOURCE, "--languages=2", "--memory-length=15")
+        err = self.refused_source(SOURCE, "--languages=2", "--memory-length=15").err
+        self.assertIn("Memoria usata 16\n", err)
 
     def test_an_answer_of_0_is_refused(self) -> None:
         for option in ("--languages", "--language-message", "--memory-start", "--memory-length"):
-            self.refused_source(SOURCE, f"{option}=0")
+            err = self.refused_source(SOURCE, f"{option}=0").err
+            self.assertIn("source.asm: was not imported", err)
 
     def test_an_answer_that_is_too_large_is_refused_by_its_value(self) -> None:
         for option, value in (
@@ -263,11 +271,18 @@ class MemoryTest(ImportCase):
             ("--memory-length", "0x80000000"),
         ):
             err = self.refused_source(SOURCE, f"{option}={value}").err
-            self.assertRegex(err, "too large")
+            value_in_full = min(int(value, 0), 2**64 - 1)
+            self.assertIn(f": {value_in_full} is too large", err)
 
     def test_more_slots_than_can_be_counted_are_refused(self) -> None:
-        self.refused_source(SOURCE, "--memory-length=0x7FFFFFFF")
-        self.refused_source(SOURCE, "--memory-length=262144")  # 65536 slots of 4
+        for length, slots in (("0x7FFFFFFF", 536870911), ("262144", 65536)):
+            err = self.refused_source(SOURCE, f"--memory-length={length}").err
+            self.assertIn(f"gives {slots} messages", err)
+
+    def test_slots_whose_block_length_wraps_below_0_are_refused(self) -> None:
+        # 4 x (8191 + 1) + 20 = 32788, which is -32748 in 16 bits.
+        self.assertIn("-32748", self.refused_source(SOURCE, "--memory-length=32764").err)
+        self.import_source(SOURCE, "--memory-length=32740")  # 4 x (8185 + 1) + 20 = 32764
 
 
 class SectionTest(ImportCase):
@@ -342,7 +357,8 @@ class SectionTest(ImportCase):
         self.assertIn("language 1: ABCDEFGHIJKLMNOPQRST\n", self.done("info", "OUT.MES").out)
 
     def test_a_later_section_without_texts_is_refused(self) -> None:
-        self.refused_source(self.FIRST + b" ORG $7000\r\n", *self.TWO_NAMES)
+        err = self.refused_source(self.FIRST + b" ORG $7000\r\n", *self.TWO_NAMES).err
+        self.assertIn("source.asm: line 4: ", err)
 
     def test_an_error_in_a_later_section_leaves_no_file(self) -> None:
         shorter = b" ORG $7000\r\n DC.B 'IJKL'\r\n DC.B 'MNO'\r\n"
@@ -352,7 +368,8 @@ class SectionTest(ImportCase):
         for width in (3, 5, 6):
             with self.subTest(width):
                 other = b" ORG $7000\r\n" + source_of(2, width)
-                self.refused_source(self.FIRST + other, *self.TWO_NAMES)
+                err = self.refused_source(self.FIRST + other, *self.TWO_NAMES).err
+                self.assertIn(f"source.asm: the texts of section 2 are {width} cells", err)
 
 
 if __name__ == "__main__":

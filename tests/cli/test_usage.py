@@ -2,10 +2,13 @@
 
 from __future__ import annotations
 
+import random
+import shutil
 import subprocess
 import unittest
+from pathlib import Path
 
-from support import COMMANDS, PROGRAM, REFUSED, CliTest, MesFile
+from support import COMMANDS, PROGRAM, REFUSED, Cli, CliTest, MesFile
 
 # Every option and argument that a command cannot do without.
 COMPLETE = {
@@ -162,12 +165,27 @@ class OutputTest(CliTest):
         self.refused("--json", "texts", "A.MES", "--language=9")
 
     def test_the_interface_language_file_is_not_needed(self) -> None:
-        alone = self.folder / "alone" / "vendlingua-cli"
-        alone.parent.mkdir()
-        alone.write_bytes(PROGRAM.read_bytes())
-        alone.chmod(0o755)
-        done = subprocess.run([alone, "info", self.folder / "A.MES"], capture_output=True)
-        self.assertEqual((done.returncode, done.stderr), (0, b""))
+        self.run_a_copy_of_the_program()
+        self.assert_commands_work()
+
+    def test_the_interface_language_file_may_hold_anything(self) -> None:
+        self.run_a_copy_of_the_program()
+        for content in (b"", b"\r", b"one line", random.Random(4).randbytes(5000)):
+            self.write("english.lng", content)
+            self.assert_commands_work()
+
+    def test_the_interface_language_file_may_be_a_folder(self) -> None:
+        self.run_a_copy_of_the_program()
+        (self.folder / "english.lng").mkdir()
+        self.assert_commands_work()
+
+    def run_a_copy_of_the_program(self) -> None:
+        """Its language files are those of the test's folder."""
+        self.cli = Cli(self.folder, Path(shutil.copy(PROGRAM, self.folder)))
+
+    def assert_commands_work(self) -> None:
+        self.done("info", "A.MES")
+        self.refused("new-language", "A.MES", "--name= ")  # in a message box of that file
 
 
 if __name__ == "__main__":

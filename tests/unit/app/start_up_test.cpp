@@ -42,6 +42,14 @@ class StartUpTest : public testing::Test {
     folder_.Write(name + ".lng", content);
   }
 
+  // "a" to "j" and, tenth in alphabetical order, "italiano".
+  void AddElevenLanguages() {
+    AddLanguage("italiano");
+    for (char letter = 'a'; letter <= 'j'; ++letter) {
+      AddLanguage(std::string(1, letter));
+    }
+  }
+
   bool Start() { return StartUp(workspace_, dialogs_, fonts_).Form_Load(); }
 
   std::string CheckedLanguage() const {
@@ -85,6 +93,26 @@ TEST_F(StartUpTest, GoesOnWithTheFirstLanguageWithoutSettings) {
   EXPECT_THAT(dialogs_.messages, IsEmpty());
 }
 
+TEST_F(StartUpTest, GoesOnWithTheFirstLanguageForAnEmptyNameInTheSettings) {
+  AddLanguage("italiano");
+  AddLanguage("dansk");
+  folder_.Write("vendlingua.ini", "Lingua=\r\n");
+  EXPECT_TRUE(Start());
+  EXPECT_EQ(CheckedLanguage(), "dansk");
+  EXPECT_EQ(workspace_.menus.mnuFile.caption, "dansk");
+}
+
+TEST_F(StartUpTest, ListsLanguagesInAlphabeticalOrderWithoutRegardToCase) {
+  AddLanguage("italiano");
+  AddLanguage("Svenska");
+  AddLanguage("deutsch");
+  EXPECT_TRUE(Start());
+  EXPECT_EQ(workspace_.menus.smnuLingue[0].caption, "deutsch");
+  EXPECT_EQ(workspace_.menus.smnuLingue[1].caption, "italiano");
+  EXPECT_EQ(workspace_.menus.smnuLingue[2].caption, "Svenska");
+  EXPECT_FALSE(workspace_.menus.smnuLingue[3].visible);
+}
+
 TEST_F(StartUpTest, LoadsTheLanguageOfTheSettings) {
   AddLanguage("dansk");
   AddLanguage("italiano");
@@ -113,10 +141,7 @@ TEST_F(StartUpTest, TheUsersOwnSettingsGoFirst) {
 }
 
 TEST_F(StartUpTest, ListsTenLanguagesAtMost) {
-  AddLanguage("italiano");
-  for (char letter = 'a'; letter <= 'j'; ++letter) {
-    AddLanguage(std::string(1, letter));
-  }
+  AddElevenLanguages();
   EXPECT_TRUE(Start());
   EXPECT_EQ(workspace_.menus.smnuLingue.front().caption, "a");
   EXPECT_EQ(workspace_.menus.smnuLingue[8].caption, "i");
@@ -125,20 +150,14 @@ TEST_F(StartUpTest, ListsTenLanguagesAtMost) {
 }
 
 TEST_F(StartUpTest, NeverLoadsTheTenthLanguage) {
-  AddLanguage("italiano");
-  for (char letter = 'a'; letter <= 'j'; ++letter) {
-    AddLanguage(std::string(1, letter));
-  }
+  AddElevenLanguages();
   folder_.Write("vendlingua.ini", "Lingua=italiano\r\n");
   EXPECT_TRUE(Start());
   EXPECT_EQ(CheckedLanguage(), "a");
 }
 
 TEST_F(StartUpTest, LoadsTheNinthLanguage) {
-  AddLanguage("italiano");
-  for (char letter = 'a'; letter <= 'j'; ++letter) {
-    AddLanguage(std::string(1, letter));
-  }
+  AddElevenLanguages();
   folder_.Write("vendlingua.ini", "Lingua=i\r\n");
   EXPECT_TRUE(Start());
   EXPECT_EQ(CheckedLanguage(), "i");
@@ -167,6 +186,15 @@ TEST_F(StartUpTest, EndsWithoutTheReferenceLanguage) {
   EXPECT_FALSE(Start());
   ASSERT_THAT(dialogs_.messages, SizeIs(1));
   EXPECT_EQ(dialogs_.messages.front().title, "ERROR");
+}
+
+TEST_F(StartUpTest, EndsWhenALanguageFileCannotBeRead) {
+  AddLanguage("italiano");
+  std::filesystem::create_directory(folder_ / "dansk.lng");
+  EXPECT_FALSE(Start());
+  ASSERT_THAT(dialogs_.messages, SizeIs(1));
+  EXPECT_EQ(dialogs_.messages.front().title, "ERROR");
+  EXPECT_THAT(dialogs_.messages.front().text, testing::HasSubstr("dansk.lng"));
 }
 
 TEST_F(StartUpTest, WorksInTheProgramsFolder) {

@@ -2,6 +2,7 @@
 
 #include <filesystem>
 #include <string>
+#include <string_view>
 
 #include "editor/interface_language.h"
 #include "editor/settings.h"
@@ -70,6 +71,19 @@ TEST_F(ChooseInterfaceLanguageTest, RefusesAFileWithItsMarksElsewhere) {
   Choose();
   EXPECT_THAT(dialogs_.messages, SizeIs(1));
   EXPECT_TRUE(workspace_.menus.smnuLingue[0].checked);
+}
+
+TEST_F(ChooseInterfaceLanguageTest, RestoresEveryTextWhereverTheRefusedFileIsCut) {
+  constexpr std::string_view kFile = "Datei\r\nOeffnen\r\n;-- Marke\r\n";
+  for (std::size_t size = 0; size <= kFile.size(); ++size) {
+    folder_.Write("two.lng", kFile.substr(0, size));
+    Choose();
+    EXPECT_THAT(dialogs_.messages, SizeIs(size + 1));
+    EXPECT_EQ(workspace_.ui_text[1], "File") << size;
+    EXPECT_EQ(workspace_.ui_text[2], "Open") << size;
+    EXPECT_EQ(workspace_.ui_text[3], ";-- mark") << size;
+    EXPECT_EQ(workspace_.LanguageName, "one") << size;
+  }
 }
 
 TEST_F(ChooseInterfaceLanguageTest, KeepsTheLanguageWhenAFileIsMissing) {

@@ -113,6 +113,14 @@ TEST_F(MesViewTest, ShowsTheDestinationWithoutTrailingBlanks) {
   EXPECT_EQ(EditBox(), "Test");
 }
 
+// What stands in the edit box would be stored into the message that is shown.
+TEST_F(MesViewTest, ClearsTheEditBoxForABlankDestination) {
+  set_.DestText[1] = DisplayText();
+  Show(0);
+  Show(1);
+  EXPECT_EQ(EditBox(), "");
+}
+
 TEST_F(MesViewTest, ShowsBlanksForThePlaceholdersOfTheDestination) {
   set_.DestText[1] = DisplayText(Codes("\xFE\xFE of "));
   Show(1);

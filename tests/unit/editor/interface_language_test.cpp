@@ -2,6 +2,12 @@
 
 #include <gmock/gmock.h>
 
+#include <filesystem>
+#include <random>
+#include <string>
+#include <string_view>
+
+#include "model/display_code.h"
 #include "platform/errors.h"
 #include "support/temporary_folder.h"
 
@@ -80,6 +86,27 @@ TEST_F(InterfaceLanguageTest, ThrowsForAMissingFile) {
   EXPECT_THROW(CheckLanguageFile(workspace_, "missing.lng", "uno.lng"), FileError);
 }
 
+TEST_F(InterfaceLanguageTest, ThrowsForAFolder) {
+  folder_.Write("uno.lng", "uno\r\n");
+  std::filesystem::create_directory(folder_ / "folder.lng");
+  EXPECT_THROW(LoadLanguageFile(workspace_, "folder.lng"), FileError);
+  EXPECT_THROW(CheckLanguageFile(workspace_, "uno.lng", "folder.lng"), FileError);
+}
+
+TEST_F(InterfaceLanguageTest, TakesEveryByteButALineEndIntoAnEntry) {
+  std::mt19937 random(34);
+  std::string line(500, ' ');
+  for (char& byte : line) {
+    do {
+      byte = static_cast<char>(random());
+    } while (byte == '\r' || byte == '\n');
+  }
+  folder_.Write("uno.lng", line + "\r\ndue\r\n");
+  LoadLanguageFile(workspace_, "uno.lng");
+  EXPECT_EQ(BytesFromCodes(ToDisplayCodes(ui_text()[1]).codes), line);
+  EXPECT_EQ(ui_text()[2], "due");
+}
+
 TEST_F(InterfaceLanguageTest, AcceptsACandidateThatDiffersInOrdinaryLines) {
   EXPECT_TRUE(CanFollow("uno\r\n;-- a\r\ntre\r\n", "one\r\n;-- b\r\nthree\r\n"));
 }
@@ -93,6 +120,19 @@ TEST_F(InterfaceLanguageTest, LoadsTheCandidateOnTheWay) {
 
 TEST_F(InterfaceLanguageTest, RefusesACandidateWithOneLineFewer) {
   EXPECT_FALSE(CanFollow("uno\r\ndue\r\ntre\r\n", "one\r\ntwo\r\n"));
+}
+
+TEST_F(InterfaceLanguageTest, RefusesACandidateThatIsCutBeforeItsLastLine) {
+  constexpr std::string_view kCurrent = "uno\r\n;-- a\r\ntre\r\n";
+  constexpr std::string_view kCandidate = "one\r\n;-- b\r\nthree\r\n";
+  const std::size_t last_line = kCandidate.find("three");
+  for (std::size_t size = 0; size <= kCandidate.size(); ++size) {
+    EXPECT_EQ(CanFollow(kCurrent, kCandidate.substr(0, size)), size > last_line) << size;
+  }
+}
+
+TEST_F(InterfaceLanguageTest, RefusesACandidateWhoseLinesEndInALoneCr) {
+  EXPECT_FALSE(CanFollow("uno\r\ndue\r\n", "one\rtwo\r"));
 }
 
 TEST_F(InterfaceLanguageTest, RefusesAnEmptyCandidate) { EXPECT_FALSE(CanFollow("uno\r\n", "")); }

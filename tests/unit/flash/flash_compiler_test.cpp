@@ -10,6 +10,7 @@
 #include "msgfiles/file_check.h"
 #include "platform/errors.h"
 #include "support/message_files.h"
+#include "support/same_bytes.h"
 #include "support/scripted_dialogs.h"
 #include "support/temporary_folder.h"
 
@@ -356,6 +357,21 @@ TEST_F(OneLanguageCompilerTest, CutsTheFlashFileIntoItsSections) {
                                            folder_ / "FW0417AB.mtx", folder_ / "FW0417AB.SA1"));
 }
 
+// The memory of the board is read back into one picture for as long as the program runs.
+TEST_F(FlashCompilerTest, KeepsMemoryPictureAndUsedLengthsFromFileToFile) {
+  OpenMhxFile();
+  Compile({1, 2}, folder_ / "F.MHX");
+  file_ = {.lang_count = 1,
+           .last_msg = 0,
+           .mem_start = "00FF8000",
+           .stride = 1,
+           .names = {"Default", "ITALIANO", "ENGLISH", "DEUTSCH"}};
+  OpenMhxFile();
+  Compile({3}, folder_ / "G.MHX");
+  EXPECT_EQ(Slurp(folder_ / "F.SA1"), "100011111222200021112222");
+  EXPECT_EQ(Slurp(folder_ / "G.SA1"), "300011111222200021112222");
+}
+
 TEST_F(FlashCompilerTest, NeverReadsAHexFileBack) {
   OpenHexFile();
   Compile({1, 2}, folder_ / "FW0417AB.hex");
@@ -524,6 +540,13 @@ TEST_F(NineLanguageCompilerTest, MakesACopyThatOpensAsAMessageFile) {
   EXPECT_EQ(test::Text(engine_.workspace.set.DestText[3].First(16)), "9333333333333333");
 }
 
+TEST_F(NineLanguageCompilerTest, RefusesToWriteTheCopyOverTheMessageFile) {
+  OpenMes();
+  EXPECT_THROW(Compile(all_, folder_ / "F.MHX", folder_ / "SET.MES"), FileError);
+  EXPECT_TRUE(test::SameBytes(Slurp(folder_ / "SET.MES"), file_.Bytes()));
+  ExpectReady();
+}
+
 TEST_F(NineLanguageCompilerTest, WritesASoundCopy) {
   Open("SET.MES", IdentifiedBytes());
   Compile(all_, folder_ / "F.MHX", folder_ / "COPY.MSX");
@@ -637,7 +660,8 @@ TEST_F(FlashCompilerTest, GoesStraightToTheSectionsForAnyOtherFileType) {
 
 TEST_F(FlashCompilerTest, RefusesMoreLanguagesThanSlotsWithNothingWritten) {
   OpenHexFile();
-  EXPECT_THAT(ReasonOfRefusal({1, 2, 3}, folder_ / "F.hex"), HasSubstr("24"));
+  EXPECT_THAT(ReasonOfRefusal({1, 2, 3}, folder_ / "F.hex"),
+              testing::AllOf(HasSubstr("SET.MES"), HasSubstr("24")));
   EXPECT_EQ(folder_.Names(), "SET.MES");
   ExpectReady();
 }
@@ -655,7 +679,7 @@ TEST_F(FlashCompilerTest, RefusesToListMoreThanTwentyLanguages) {
   file_ = {.lang_count = 21, .last_msg = 21, .stride = 22};
   OpenMes();
   EXPECT_THAT(ReasonOfRefusal({1}, folder_ / "F.hex"),
-              testing::AllOf(HasSubstr("20"), HasSubstr("21")));
+              testing::AllOf(HasSubstr("SET.MES"), HasSubstr("20"), HasSubstr("21")));
   EXPECT_EQ(folder_.Names(), "SET.MES");
 }
 
@@ -684,6 +708,23 @@ TEST_F(FlashCompilerTest, RefusesAMessageFileThatIsCutAnywhere) {
   }
 }
 
+// A message was appended while another language was open.
+TEST_F(FlashCompilerTest, CompilesALanguageThatLacksAMessageOnceItWasSaved) {
+  file_ = {.flags = "01", .stride = 4, .names = {"Default", "ITALIANO", "ENGLISH"}};
+  Open("SET.MES", file_.Bytes().substr(0, 24 + 2 * file_.BlockLength() + 20 + 12));
+  engine_.languages.ChooseOrigin(0);
+  engine_.languages.ChooseDestination(1);
+  dialogs_.yes_no_answers = {MessageAnswer::kYes};
+  engine_.view.AddMessage(dialogs_);
+  engine_.writer.Save();
+  EXPECT_THAT(ReasonOfRefusal({1, 2}, folder_ / "F.hex"), HasSubstr("message 3 of language 2"));
+  engine_.languages.ChooseDestination(2);
+  engine_.writer.Save();
+  EXPECT_TRUE(Compile({1, 2}, folder_ / "F.hex").completed);
+  EXPECT_THAT(Lines(Slurp(folder_ / "F.hex")).at(1),
+              StartsWith("S1136010" + HexOf("200021112222    ")));
+}
+
 TEST_F(FlashCompilerTest, FailsReadyAgainWhenTheFlashFileCannotBeWritten) {
   OpenHexFile();
   EXPECT_THAT(ReasonOfRefusal({1, 2}, folder_ / "missing/F.hex"), HasSubstr("F.hex"));
@@ -693,6 +734,14 @@ TEST_F(FlashCompilerTest, FailsReadyAgainWhenTheFlashFileCannotBeWritten) {
 TEST_F(FlashCompilerTest, RefusesToOverwriteTheMessageFile) {
   OpenHexFile();
   EXPECT_THAT(ReasonOfRefusal({1, 2}, folder_ / "SET.MES"), HasSubstr("SET.MES"));
+  EXPECT_EQ(Slurp(folder_ / "SET.MES"), file_.Bytes());
+  ExpectReady();
+}
+
+TEST_F(FlashCompilerTest, RefusesToWriteTheNamedCopyOverTheMessageFile) {
+  OpenMhxFile();
+  std::filesystem::create_symlink("SET.MES", folder_ / "FW0417AB.MSX");
+  EXPECT_THAT(ReasonOfRefusal({1, 2}, folder_ / "FW0417AB.MHX"), HasSubstr("FW0417AB.MSX"));
   EXPECT_EQ(Slurp(folder_ / "SET.MES"), file_.Bytes());
   ExpectReady();
 }

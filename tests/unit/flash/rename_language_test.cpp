@@ -5,29 +5,23 @@
 #include <filesystem>
 #include <string>
 
-#include "app/engine.h"
 #include "flash/language_selection.h"
-#include "support/message_files.h"
-#include "support/scripted_dialogs.h"
-#include "support/temporary_folder.h"
+#include "support/engine_test.h"
+#include "support/ordinary_user.h"
 
 namespace vendlingua {
 namespace {
 
+using testing::IsEmpty;
 using testing::SizeIs;
 
 // A file of two languages whose entries are loaded.
-class RenameLanguageTest : public testing::Test {
+class RenameLanguageTest : public test::EngineTest {
  protected:
   RenameLanguageTest() {
     mes_.names = {"Default", "ITALIANO", "ENGLISH"};
-    file_ = folder_.Write("A.MES", mes_.Bytes());
-    dialogs_.file_answers = {file_};
-    engine_.opener.Open();
+    Open("A.MES", mes_.Bytes());
     LoadEntries(engine_.workspace, engine_.compiler_state);
-    engine_.workspace.ui_text.Set(34, "The language");
-    engine_.workspace.ui_text.Set(35, "exists.");
-    engine_.workspace.ui_text.Set(51, "In use");
   }
 
   void Rename(int language) {
@@ -35,10 +29,7 @@ class RenameLanguageTest : public testing::Test {
   }
 
   test::MesFile mes_;
-  test::TemporaryFolder folder_;
-  test::ScriptedDialogs dialogs_;
-  Engine engine_{dialogs_};
-  std::filesystem::path file_;
+  const std::filesystem::path file_ = folder_ / "A.MES";
 };
 
 TEST_F(RenameLanguageTest, WritesTheNameFieldAndNoOtherByte) {
@@ -49,9 +40,9 @@ TEST_F(RenameLanguageTest, WritesTheNameFieldAndNoOtherByte) {
   expected.replace(24 + 2 * mes_.BlockLength(), 20, "POLSKI              ");
   EXPECT_EQ(test::Slurp(file_), expected);
   EXPECT_EQ(engine_.compiler_state.Check1[2].caption, "POLSKI");
-  EXPECT_EQ(engine_.workspace.menus.mnuori[2].caption, "POLSKI");
-  EXPECT_EQ(engine_.workspace.menus.mnuDes[2].caption, "POLSKI");
-  EXPECT_EQ(engine_.workspace.menus.mnuNew[2].caption, "POLSKI");
+  EXPECT_EQ(menus_.mnuori[2].caption, "POLSKI");
+  EXPECT_EQ(menus_.mnuDes[2].caption, "POLSKI");
+  EXPECT_EQ(menus_.mnuNew[2].caption, "POLSKI");
 }
 
 TEST_F(RenameLanguageTest, CutsANameAtTwentyCharacters) {
@@ -59,21 +50,24 @@ TEST_F(RenameLanguageTest, CutsANameAtTwentyCharacters) {
   dialogs_.yes_no_answers = {MessageAnswer::kYes};
   Rename(1);
   EXPECT_EQ(engine_.compiler_state.Check1[1].caption, "ABCDEFGHIJKLMNOPQRST");
+  EXPECT_EQ(test::Slurp(file_).substr(24 + mes_.BlockLength(), 24), "ABCDEFGHIJKLMNOPQRST1000");
 }
 
 TEST_F(RenameLanguageTest, ABlankNameChangesNothing) {
   dialogs_.input_answers = {"  "};
   Rename(1);
   EXPECT_EQ(test::Slurp(file_), mes_.Bytes());
-  EXPECT_THAT(dialogs_.messages, SizeIs(0));
+  EXPECT_EQ(engine_.compiler_state.Check1[1].caption, "ITALIANO");
+  EXPECT_EQ(menus_.mnuDes[1].caption, "ITALIANO");
+  EXPECT_THAT(dialogs_.messages, IsEmpty());
 }
 
 TEST_F(RenameLanguageTest, TheNameOfAnotherLanguageIsAskedForAgain) {
   dialogs_.input_answers = {"english", ""};
   Rename(1);
   ASSERT_THAT(dialogs_.messages, SizeIs(1));
-  EXPECT_EQ(dialogs_.messages[0].text, "The language\nENGLISH\nexists.");
-  EXPECT_EQ(dialogs_.messages[0].title, "In use");
+  EXPECT_EQ(dialogs_.messages[0].text, "text 34\nENGLISH\ntext 35");
+  EXPECT_EQ(dialogs_.messages[0].title, "text 51");
   EXPECT_EQ(dialogs_.messages[0].icon, MessageIcon::kExclamation);
   EXPECT_THAT(dialogs_.inputs, SizeIs(2));
 }
@@ -100,6 +94,21 @@ TEST_F(RenameLanguageTest, ACharacterWithoutDisplayCodeIsAskedForAgain) {
   EXPECT_EQ(dialogs_.messages[0].title, "ERROR");
 }
 
+TEST_F(RenameLanguageTest, AFileThatMayOnlyBeReadStaysAsItIs) {
+  using std::filesystem::perms;
+  permissions(file_, perms::owner_read | perms::group_read | perms::others_read);
+  dialogs_.input_answers = {"polski"};
+  dialogs_.yes_no_answers = {MessageAnswer::kYes};
+  const test::OrdinaryUser ordinary_user;
+  if (!ordinary_user.holds()) {
+    GTEST_SKIP() << "this user may write every file";
+  }
+  Rename(2);
+  EXPECT_EQ(dialogs_.messages.back().title, "Error Property");
+  EXPECT_EQ(engine_.compiler_state.Check1[2].caption, "POLSKI");
+  EXPECT_EQ(test::Slurp(file_), mes_.Bytes());
+}
+
 TEST_F(RenameLanguageTest, AFileThatCannotBeWrittenKeepsTheNewNameOnTheScreen) {
   std::filesystem::remove(file_);
   dialogs_.input_answers = {"polski"};
@@ -108,7 +117,10 @@ TEST_F(RenameLanguageTest, AFileThatCannotBeWrittenKeepsTheNewNameOnTheScreen) {
   EXPECT_EQ(dialogs_.messages.back().text,
             "File Error: This file is only reading!\nPlease change the property File");
   EXPECT_EQ(dialogs_.messages.back().title, "Error Property");
+  EXPECT_EQ(dialogs_.messages.back().icon, MessageIcon::kCritical);
   EXPECT_EQ(engine_.compiler_state.Check1[2].caption, "POLSKI");
+  EXPECT_EQ(menus_.mnuDes[2].caption, "POLSKI");
+  EXPECT_EQ(folder_.Names(), "");
 }
 
 }  // namespace

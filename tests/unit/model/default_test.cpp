@@ -1,6 +1,7 @@
 #include <gmock/gmock.h>
 
-#include <algorithm>
+#include <cstdint>
+#include <string>
 
 #include "model/message_set.h"
 #include "support/message_files.h"

@@ -14,7 +14,6 @@ using testing::Contains;
 using testing::ElementsAre;
 using testing::HasSubstr;
 using testing::IsEmpty;
-using testing::Not;
 
 Findings Check(std::string_view content) {
   const test::TemporaryFolder folder;

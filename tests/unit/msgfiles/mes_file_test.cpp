@@ -19,7 +19,6 @@ using test::TemporaryFolder;
 using test::Text;
 using ::testing::ElementsAre;
 using ::testing::HasSubstr;
-using ::testing::IsEmpty;
 using ::testing::SizeIs;
 
 // LangCount 9, LastCol 15, all flags, HeaderCount 171, LastMsg 454, MemStart 0xFF0000, MemLength

@@ -3,13 +3,15 @@
 #include <gmock/gmock.h>
 
 #include <filesystem>
-#include <fstream>
 #include <random>
 #include <string>
 #include <string_view>
+#include <utility>
+#include <vector>
 
 #include "platform/errors.h"
 #include "support/engine_test.h"
+#include "support/ordinary_user.h"
 
 namespace vendlingua {
 namespace {
@@ -225,11 +227,31 @@ TEST_F(MessageFileOpenerTest, ImportsNoBinaryFile) {
 }
 
 TEST_F(MessageFileOpenerTest, LeavesEverythingAsItWasWhenAFileIsRefused) {
+  const std::string mes = MesFile().Bytes();
+  const std::string msx = MsxFile(1);
+  const std::size_t name_data = msx.find(test::HexOf("   LANGUAGE 1   "));
+  const std::vector<std::pair<std::string_view, std::string>> refused = {
+      {"WIDE.MES", MesFile{.width = 41}.Bytes()},
+      {"LONG.MES", MesFile{.last_msg = 513, .stride = 513}.Bytes()},
+      {"NONE.MES", MesFile{.lang_count = 0}.Bytes()},
+      {"DIGIT.MES", MesFile{.mem_start = "0000600G"}.Bytes()},
+      {"HEADER.MES", mes.substr(0, 23)},
+      {"NAME.MES", mes.substr(0, 43)},
+      {"QUOTE.MES", " DC.B 'ABCD'\r\n; don't\r\n"},
+      {"EMPTY.MES", "; no text\r\n"},
+      {"NAME.MSX", msx.substr(0, name_data + 20)},
+      {"DIGIT.MSX", std::string(msx).replace(name_data, 1, "G")},
+      {"RETURN.MSX", std::string(msx).replace(msx.find("\r\n"), 2, "\r")},
+  };
   EditAFile();
   const std::uint32_t opened = set_.OpenedFiles;
-  EXPECT_NE(ReasonAgainst(folder_.Write("BAD.MES", MesFile{.width = 41}.Bytes())), "none");
-  ExpectTheEditedFileStillOpen();
-  EXPECT_EQ(set_.OpenedFiles, opened);
+  for (const auto& [name, content] : refused) {
+    EXPECT_THAT(ReasonAgainst(folder_.Write(name, content)), HasSubstr((folder_ / name).string()));
+    ExpectTheEditedFileStillOpen();
+    EXPECT_EQ(set_.OpenedFiles, opened) << name;
+    EXPECT_EQ(Slurp(folder_ / name), content);
+  }
+  EXPECT_THAT(dialogs_.messages, IsEmpty());
 }
 
 TEST_F(MessageFileOpenerTest, RefusesWhatIsNoReadableFile) {
@@ -246,12 +268,17 @@ TEST_F(MessageFileOpenerTest, RefusesWhatIsNoReadableFile) {
 }
 
 TEST_F(MessageFileOpenerTest, RefusesAFileThatMayNotBeRead) {
-  const fs::path path = folder_.Write("LOCKED.MES", MesFile().Bytes());
-  fs::permissions(path, fs::perms::none);
-  if (std::ifstream(path).good()) {
-    GTEST_SKIP() << "this user may read every file";
+  EditAFile();
+  for (const char* name : {"LOCKED.MES", "LOCKED.MSX"}) {
+    const fs::path path = folder_.Write(name, MesFile().Bytes());
+    fs::permissions(path, fs::perms::none);
+    const test::OrdinaryUser ordinary_user;
+    if (!ordinary_user.holds()) {
+      GTEST_SKIP() << "this user may read every file";
+    }
+    EXPECT_THAT(ReasonAgainst(path), HasSubstr(path.string()));
   }
-  EXPECT_THAT(ReasonAgainst(path), HasSubstr("LOCKED.MES"));
+  ExpectTheEditedFileStillOpen();
 }
 
 TEST_F(MessageFileOpenerTest, RefusesAFileOfGigabytes) {

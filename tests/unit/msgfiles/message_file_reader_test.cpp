@@ -326,6 +326,15 @@ TEST_F(MsxReaderTest, ResetsEditorSetAndMenus) {
   EXPECT_EQ(menus_.mnuNew[2].caption, "");
 }
 
+TEST_F(MsxReaderTest, ResetsHeadingsAndCaptionAndHidesTheButtonForANewMessage) {
+  EditAnotherFile();
+  Open("FILE.MSX", MsxFile(1));
+  EXPECT_FALSE(view_.Label8Enabled[0] || view_.Label8Enabled[1]);
+  EXPECT_FALSE(view_.Label9Visible);
+  EXPECT_FALSE(view_.Command2Visible);
+  EXPECT_EQ(view_.caption, "FILE.MSX");
+}
+
 TEST_F(MsxReaderTest, KeepsTheHeightOfTheWindow) {
   EditAnotherFile();
   Open("FILE.MSX", MsxFile(1));

@@ -22,7 +22,6 @@ using test::MsxMessage;
 using test::S2Line;
 using test::SameBytes;
 using test::Slurp;
-using test::Text;
 using ::testing::HasSubstr;
 using ::testing::IsEmpty;
 using ::testing::SizeIs;
@@ -353,6 +352,16 @@ TEST_F(MesPatch, MayLengthenTheLastLanguage) {
   SetDestination(4, "BBBB");
   bytes_ = Patched(8, "0004").substr(0, 92);
   EXPECT_EQ(Saved(), bytes_ + "AAAABBBB");
+}
+
+// 16 x (4095 + 1) + 20 bytes wrap to 20: language 2 begins where the texts of language 1 do.
+TEST_F(MesPatch, IsNotWrittenWhenTheBlockLengthWrapsToLessThanALanguage) {
+  std::string bytes = MesFile{.lang_count = 1, .width = 16}.Bytes();
+  Open("FILE.MES", bytes.replace(20, 4, "FFF0"));
+  engine_.languages.ChooseOrigin(0);
+  engine_.languages.ChooseDestination(1);
+  EXPECT_THAT(ReasonOfFailure(), HasSubstr("a language block of 20 bytes"));
+  EXPECT_EQ(Slurp(folder_ / "FILE.MES"), bytes);
 }
 
 // A block position that would be negative: 16 x (2047 + 1) + 20 bytes wrap to -32748.

@@ -2,9 +2,8 @@
 
 #include <gmock/gmock.h>
 
-#include <memory>
 #include <string>
-#include <string_view>
+#include <utility>
 
 #include "model/menu_state.h"
 #include "platform/errors.h"

@@ -2,11 +2,14 @@
 
 #include <gmock/gmock.h>
 
-#include "app/engine.h"
+#include <deque>
+#include <filesystem>
+#include <string>
+#include <string_view>
+#include <vector>
+
 #include "platform/errors.h"
-#include "support/message_files.h"
-#include "support/scripted_dialogs.h"
-#include "support/temporary_folder.h"
+#include "support/engine_test.h"
 
 namespace vendlingua {
 namespace {
@@ -33,7 +36,7 @@ const std::string kText16(16, 'x');
 
 // Imports sources through File, Open and answers its questions: by default two languages whose
 // memory of 24 bytes holds three messages of four cells each.
-class SourceImportTest : public testing::Test {
+class SourceImportTest : public test::EngineTest {
  protected:
   OpenOutcome Import(std::string_view source) { return ImportInto(source, folder_ / "NEW.MES"); }
 
@@ -62,15 +65,10 @@ class SourceImportTest : public testing::Test {
 
   void ExpectNothingWrittenAndNoFileOpen() const {
     EXPECT_EQ(folder_.Names(), "SOURCE.MES");
-    EXPECT_EQ(engine_.workspace.set.CurrentFileType, "");
-    EXPECT_TRUE(engine_.workspace.set.CurrentFileName.empty());
+    EXPECT_EQ(set_.CurrentFileType, "");
+    EXPECT_TRUE(set_.CurrentFileName.empty());
   }
 
-  const MessageSet& set() const { return engine_.workspace.set; }
-
-  test::TemporaryFolder folder_;
-  test::ScriptedDialogs dialogs_;
-  Engine engine_{dialogs_};
   std::deque<std::string> answers_ = {"2", "1", "&H6000", "24", "italiano"};
   const std::string three_texts_ = Line("ABCD") + Line("EFGH") + Line("IJKL");
 };
@@ -121,35 +119,35 @@ TEST_F(SourceImportTest, TakesTheAnswersIntoTheHeader) {
 TEST_F(SourceImportTest, DividesTheMemoryByLanguagesAndWidth) {
   answers_ = {"9", "1", "&H6000", "1000", "italiano"};
   Import(three_texts_);
-  EXPECT_EQ(set().LangStride, 27);  // 1000 / 9 is 111, 111 / 4 is 27
+  EXPECT_EQ(set_.LangStride, 27);  // 1000 / 9 is 111, 111 / 4 is 27
 }
 
 TEST_F(SourceImportTest, TakesTheLanguageMessageFromTheLabel) {
   answers_ = {"1", "&H6000", "&H2000", "italiano"};
   Import(Lines(11, "ABCD") + "MNLING DC.B 'NAME'\r\n" + Line("EFGH"));
   EXPECT_THAT(AskedQuestions(), testing::Not(testing::Contains(InputPurpose::kLanguageMessage)));
-  EXPECT_EQ(set().HeaderCount, 11);
-  EXPECT_EQ(set().HeaderBit0, kTrue);
+  EXPECT_EQ(set_.HeaderCount, 11);
+  EXPECT_EQ(set_.HeaderBit0, kTrue);
 }
 
 TEST_F(SourceImportTest, CountsOnlyTheFirstLabel) {
   answers_ = {"1", "&H6000", "&H2000", "italiano"};
   Import(Line("ABCD") + "MNLING:\r\n" + Line("EFGH") + "MNLING:\r\n");
-  EXPECT_EQ(set().HeaderCount, 1);
+  EXPECT_EQ(set_.HeaderCount, 1);
 }
 
 // A label before the first text is seen, but the number 0 counts as none.
 TEST_F(SourceImportTest, AsksForTheLanguageMessageWhenTheLabelStandsBeforeTheFirstText) {
   Import("MNLING:\r\n" + three_texts_);
   EXPECT_THAT(AskedQuestions(), testing::Contains(InputPurpose::kLanguageMessage));
-  EXPECT_EQ(set().HeaderCount, 1);
-  EXPECT_EQ(set().HeaderBit0, kTrue);
+  EXPECT_EQ(set_.HeaderCount, 1);
+  EXPECT_EQ(set_.HeaderBit0, kTrue);
 }
 
 TEST_F(SourceImportTest, SetsNoHeaderBitsWithoutLabelAndSdata) {
   Import(three_texts_);
-  EXPECT_EQ(set().HeaderBit0, kFalse);
-  EXPECT_EQ(set().HeaderBit1, kFalse);
+  EXPECT_EQ(set_.HeaderBit0, kFalse);
+  EXPECT_EQ(set_.HeaderBit1, kFalse);
 }
 
 TEST_F(SourceImportTest, StoresSdataAndTheLabelInTheFlags) {
@@ -160,7 +158,7 @@ TEST_F(SourceImportTest, StoresSdataAndTheLabelInTheFlags) {
 
 TEST_F(SourceImportTest, StoresDisplayTypeZeroWhateverWasChosenBefore) {
   engine_.view.ChooseDisplayType(1);
-  engine_.workspace.menus.mnuTLCD.enabled = true;
+  menus_.mnuTLCD.enabled = true;
   Import(three_texts_);
   EXPECT_EQ(Slurp(folder_ / "NEW.MES").substr(2, 2), "00");
 }
@@ -173,32 +171,40 @@ TEST_F(SourceImportTest, ReadsAnApostropheThatIsDoubledInTheSource) {
 
 TEST_F(SourceImportTest, LoadsTheFileThatItWrote) {
   Import(three_texts_);
-  const Workspace& workspace = engine_.workspace;
-  EXPECT_EQ(set().CurrentFileName, folder_ / "NEW.MES");
-  EXPECT_EQ(set().CurrentFileType, ".MES");
-  EXPECT_EQ(set().LastMsg, 2);
-  EXPECT_EQ(set().LastCol, 3);
-  EXPECT_EQ(set().Modified, kFalse);
-  EXPECT_EQ(workspace.menus.mnuori[0].caption, "Default");
-  EXPECT_EQ(workspace.menus.mnuDes[1].caption, "ITALIANO");
-  EXPECT_TRUE(workspace.menus.mnuDes[1].visible);
-  EXPECT_TRUE(workspace.menus.mnuOrig.enabled);
-  EXPECT_EQ(workspace.view.HScroll1.max, 2);
+  EXPECT_EQ(set_.CurrentFileName, folder_ / "NEW.MES");
+  EXPECT_EQ(set_.CurrentFileType, ".MES");
+  EXPECT_EQ(set_.LastMsg, 2);
+  EXPECT_EQ(set_.LastCol, 3);
+  EXPECT_EQ(set_.Modified, kFalse);
+  EXPECT_EQ(menus_.mnuori[0].caption, "Default");
+  EXPECT_EQ(menus_.mnuDes[1].caption, "ITALIANO");
+  EXPECT_TRUE(menus_.mnuDes[1].visible);
+  EXPECT_TRUE(menus_.mnuOrig.enabled);
+  EXPECT_EQ(view_.HScroll1.max, 2);
 }
 
 TEST_F(SourceImportTest, LeavesEveryDestinationTextEmptyAndSavingEnabled) {
   Import(three_texts_);
-  EXPECT_EQ(set().DestText[0], DisplayText());
-  EXPECT_EQ(set().DestText[2], DisplayText());
-  EXPECT_EQ(set().DestLang, 0);
-  EXPECT_TRUE(engine_.workspace.menus.mnuSave.enabled);
-  EXPECT_TRUE(engine_.workspace.view.Command1Enabled);
+  EXPECT_EQ(set_.DestText[0], DisplayText());
+  EXPECT_EQ(set_.DestText[2], DisplayText());
+  EXPECT_EQ(set_.DestLang, 0);
+  EXPECT_TRUE(menus_.mnuSave.enabled);
+  EXPECT_TRUE(view_.Command1Enabled);
+}
+
+// No destination is open: a save must not empty the language that was imported.
+TEST_F(SourceImportTest, IsFollowedBySavesThatStartANewLanguage) {
+  Import(three_texts_);
+  const std::string imported = Slurp(folder_ / "NEW.MES");
+  dialogs_.input_answers = {"english"};
+  EXPECT_EQ(engine_.writer.Save().result, SaveOutcome::kSaved);
+  EXPECT_EQ(Slurp(folder_ / "NEW.MES"), imported + "ENGLISH             " + std::string(12, ' '));
 }
 
 TEST_F(SourceImportTest, AsksOnceForASourceWithTextsBeforeItsOnlyDirective) {
   Import(Line("ABCD") + " ORG 1\r\n" + Line("EFGH"));
   EXPECT_THAT(AskedQuestions(), SizeIs(5));
-  EXPECT_EQ(set().LastMsg, 1);
+  EXPECT_EQ(set_.LastMsg, 1);
 }
 
 class SectionImportTest : public SourceImportTest {
@@ -244,22 +250,30 @@ TEST_F(SectionImportTest, AsksTheQuestionsTwiceForTwoSections) {
                           InputPurpose::kNewLanguageName, InputPurpose::kLanguageCount,
                           InputPurpose::kMemoryStart, InputPurpose::kMemoryLength,
                           InputPurpose::kNewLanguageName));
-  EXPECT_EQ(engine_.workspace.menus.mnuDes[2].caption, "DUE");
+  EXPECT_EQ(menus_.mnuDes[2].caption, "DUE");
 }
 
 TEST_F(SectionImportTest, StartsTheTextsOfEachSectionFromIndexZero) {
   answers_ = {"2", "1", "&H6000", "24", "uno", "due", "tre"};
   Import(two_sections_ + third_section_);
-  EXPECT_EQ(Text(set().OriginText[0].First(4)), "1234");
-  EXPECT_EQ(Text(set().OriginText[1].First(4)), "5678");
-  EXPECT_EQ(set().LastMsg, 1);
+  EXPECT_EQ(Text(set_.OriginText[0].First(4)), "1234");
+  EXPECT_EQ(Text(set_.OriginText[1].First(4)), "5678");
+  EXPECT_EQ(set_.LastMsg, 1);
+}
+
+TEST_F(SectionImportTest, LeavesNoDestinationOpen) {
+  answers_ = {"2", "1", "&H6000", "24", "uno", "due", "tre"};
+  Import(two_sections_ + third_section_);
+  EXPECT_EQ(set_.DestLang, 0);
+  EXPECT_EQ(set_.DestText[0], DisplayText());
+  EXPECT_EQ(set_.DestText[1], DisplayText());
 }
 
 TEST_F(SectionImportTest, KeepsTheLanguageMessageOfTheFirstSection) {
   answers_ = {"2", "1", "&H6000", "24", "uno", "due", "tre"};
   Import(two_sections_ + third_section_ + "MNLING:\r\n");
-  EXPECT_EQ(set().HeaderCount, 1);
-  EXPECT_EQ(set().HeaderBit0, kFalse);
+  EXPECT_EQ(set_.HeaderCount, 1);
+  EXPECT_EQ(set_.HeaderBit0, kFalse);
 }
 
 TEST_F(SectionImportTest, KeepsTheLanguagesThatWereSavedBeforeAWidthError) {
@@ -268,7 +282,7 @@ TEST_F(SectionImportTest, KeepsTheLanguagesThatWereSavedBeforeAWidthError) {
             OpenOutcome::kRefused);
   EXPECT_EQ(Slurp(folder_ / "NEW.MES").size(), 24 + 2 * (20 + 4 * 4));
   EXPECT_THAT(dialogs_.messages, SizeIs(1));
-  EXPECT_EQ(set().CurrentFileType, "");
+  EXPECT_EQ(set_.CurrentFileType, "");
 }
 
 TEST_F(SectionImportTest, ShowsTheWidthErrorForTheFirstTextOfALaterSection) {
@@ -280,8 +294,9 @@ TEST_F(SectionImportTest, ShowsTheWidthErrorForTheFirstTextOfALaterSection) {
 
 // All languages of a file have messages of one width.
 TEST_F(SectionImportTest, RefusesALaterSectionOfAnotherWidth) {
-  EXPECT_THAT(ReasonOfRefusal(" ORG 1\r\n" + Line("ABCD") + " ORG 2\r\n" + Line("EFG")),
-              testing::AllOf(HasSubstr("SOURCE.MES"), HasSubstr("3"), HasSubstr("4")));
+  EXPECT_THAT(
+      ReasonOfRefusal(" ORG 1\r\n" + Line("ABCD") + " ORG 2\r\n" + Line("EFG")),
+      testing::AllOf(HasSubstr("SOURCE.MES"), HasSubstr("section 2 are 3"), HasSubstr("4")));
   EXPECT_THAT(ReasonOfRefusal(" ORG 1\r\n" + Line("ABCD") + " ORG 2\r\n" + Line("EFGHI")),
               HasSubstr("5"));
   ExpectNothingWrittenAndNoFileOpen();
@@ -289,13 +304,22 @@ TEST_F(SectionImportTest, RefusesALaterSectionOfAnotherWidth) {
 
 TEST_F(SectionImportTest, RefusesALaterSectionThatALanguageHasNoRoomFor) {
   answers_ = {"2", "1", "&H6000", "24", "uno", "due"};
-  EXPECT_THAT(ReasonOfRefusal(two_sections_ + " ORG 3\r\n" + Lines(5, "IJKL")),
-              testing::AllOf(HasSubstr("5 texts"), HasSubstr("room for 4")));
+  EXPECT_THAT(
+      ReasonOfRefusal(two_sections_ + " ORG 3\r\n" + Lines(5, "IJKL")),
+      testing::AllOf(HasSubstr("SOURCE.MES: "), HasSubstr("5 texts"), HasSubstr("room for 4")));
+}
+
+// 24 / 2 / 4 are 3 slots a language, 40 / 2 / 4 would be 5.
+TEST_F(SectionImportTest, RefusesAnswersThatGiveALaterSectionAnotherStride) {
+  answers_ = {"2", "1", "&H6000", "24", "uno", "2", "&H6000", "40"};
+  EXPECT_THAT(ReasonOfRefusal(two_sections_),
+              testing::AllOf(HasSubstr("5 messages"), HasSubstr("gave 3")));
+  EXPECT_EQ(Slurp(folder_ / "NEW.MES").size(), 24 + 2 * (20 + 4 * 4)) << "the first section";
 }
 
 TEST_F(SectionImportTest, WritesNothingWhenALaterSectionCannotBeRead) {
   EXPECT_THAT(ReasonOfRefusal(two_sections_ + third_section_ + "; don't\r\n"),
-              HasSubstr("line 10"));
+              testing::AllOf(HasSubstr("line 10"), HasSubstr("; don't")));
   EXPECT_THAT(dialogs_.inputs, IsEmpty());
   EXPECT_EQ(folder_.Names(), "SOURCE.MES");
 }
@@ -311,13 +335,13 @@ TEST_F(SourceImportTest, RefusesATextThatIsShorterThanOneBefore) {
 
 TEST_F(SourceImportTest, KeepsTheTextsThatWereTakenBeforeItWasStopped) {
   Import(Line("ABCD") + Line("EFG"));
-  EXPECT_EQ(Text(set().OriginText[0].First(5)), "ABCD ");
-  EXPECT_EQ(Text(set().DestText[0].First(5)), "ABCD ");
+  EXPECT_EQ(Text(set_.OriginText[0].First(5)), "ABCD ");
+  EXPECT_EQ(Text(set_.DestText[0].First(5)), "ABCD ");
 }
 
 TEST_F(SourceImportTest, WidensTheMessagesForALongerText) {
   Import(Line("ABC") + Line("DEFG"));
-  EXPECT_EQ(set().LastCol, 3);
+  EXPECT_EQ(set_.LastCol, 3);
   EXPECT_EQ(Slurp(folder_ / "NEW.MES").substr(44, 8), "ABC DEFG");
 }
 
@@ -343,7 +367,7 @@ TEST_F(SourceImportTest, GoesOnWithNineLanguagesIn64KiB) {
 TEST_F(SourceImportTest, GoesOnWithOneLanguageIn8KiB) {
   answers_ = {"1", "169", "&HFF8000", "&H2000", "italiano"};
   EXPECT_EQ(Import(Lines(455, kText16)), OpenOutcome::kOpened);
-  EXPECT_EQ(set().LangStride, 512);
+  EXPECT_EQ(set_.LangStride, 512);
 }
 
 TEST_F(SourceImportTest, TellsHowMuchMemoryTwoLanguagesIn8KiBWouldNeed) {
@@ -382,7 +406,8 @@ class StoppedSourceImportTest : public SourceImportTest {
   // The last answer ends the import in an error with `text` in it.
   void ExpectRefused(std::deque<std::string> answers, const std::string& text) {
     answers_ = std::move(answers);
-    EXPECT_THAT(ReasonOfRefusal(three_texts_), HasSubstr(text));
+    EXPECT_THAT(ReasonOfRefusal(three_texts_),
+                testing::AllOf(HasSubstr("SOURCE.MES: "), HasSubstr(text)));
     ExpectNothingWrittenAndNoFileOpen();
   }
 };
@@ -438,19 +463,33 @@ TEST_F(StoppedSourceImportTest, RefusesAMemoryLengthThatIsNoNumberAsAWhole) {
 TEST_F(SourceImportTest, TakesThirtyOneLanguages) {
   answers_ = {"31", "1", "&H6000", "&H2000", "italiano"};
   EXPECT_EQ(Import(three_texts_), OpenOutcome::kOpened);
-  EXPECT_EQ(set().LangCount, 31);
+  EXPECT_EQ(set_.LangCount, 31);
 }
 
 TEST_F(SourceImportTest, TakesTheHighestMemoryStart) {
   answers_ = {"2", "1", "&HFFFFFFFF", "24", "italiano"};
   Import(three_texts_);
-  EXPECT_EQ(set().MemStart, 0xFFFFFFFFU);
+  EXPECT_EQ(set_.MemStart, 0xFFFFFFFFU);
 }
 
 TEST_F(SourceImportTest, RefusesAMemoryThatGivesTooManyMessagesALanguage) {
   answers_ = {"1", "1", "&H6000", "2147483647"};
   EXPECT_THAT(ReasonOfRefusal(three_texts_), HasSubstr("2147483647"));
   ExpectNothingWrittenAndNoFileOpen();
+}
+
+// 32764 / 4 are 8191 slots; 4 x (8191 + 1) + 20 bytes wrap to -32748.
+TEST_F(SourceImportTest, RefusesAMemoryWhoseBlocksWouldLieBeforeTheStartOfTheFile) {
+  answers_ = {"1", "1", "&H6000", "32764"};
+  EXPECT_THAT(ReasonOfRefusal(three_texts_), HasSubstr("-32748"));
+  ExpectNothingWrittenAndNoFileOpen();
+}
+
+// 32740 / 4 are 8185 slots; 4 x (8185 + 1) + 20 bytes are 32764.
+TEST_F(SourceImportTest, TakesTheLargestBlocksThatDoNotWrap) {
+  answers_ = {"1", "1", "&H6000", "32740", "italiano"};
+  EXPECT_EQ(Import(three_texts_), OpenOutcome::kOpened);
+  EXPECT_EQ(set_.BlockLength, 32764.0F);
 }
 
 TEST_F(SourceImportTest, EndsWithoutAFileWhenTheSaveIsCancelled) {
@@ -494,19 +533,39 @@ TEST_F(SourceImportTest, FailsWhenTheFolderOfTheNewFileIsMissing) {
 }
 
 TEST_F(SourceImportTest, PutsTheOpenFileBackWhenItFails) {
-  dialogs_.file_answers = {folder_.Write("OPEN.MES", MesFile().Bytes())};
-  engine_.opener.Open();
-  EXPECT_THROW(Import("; nothing\r\n"), Error);
-  EXPECT_EQ(set().CurrentFileName, folder_ / "OPEN.MES");
-  EXPECT_EQ(set().LastMsg, 2);
-  EXPECT_EQ(engine_.workspace.menus.mnuDes[1].caption, "ITALIANO");
-  EXPECT_TRUE(engine_.workspace.menus.mnuOrig.enabled);
+  Open("OPEN.MES", MesFile{.mem_start = "00001234"}.Bytes());
+  engine_.languages.ChooseOrigin(0);
+  engine_.languages.ChooseDestination(1);
+  const std::vector<std::deque<std::string>> refused_answers = {
+      {"32"},
+      {"2", "65536"},
+      {"2", "1", "&H100000000"},
+      {"2", "1", "&H6000", "2147483648"},
+      {"2", "1", "&H6000", "tanta"},
+      {"1", "1", "&H6000", "2147483647"},
+  };
+  for (const auto& answers : refused_answers) {
+    answers_ = answers;
+    EXPECT_NE(ReasonOfRefusal(three_texts_), "not refused") << answers.back();
+    EXPECT_EQ(folder_.Names(), "OPEN.MES SOURCE.MES");
+    EXPECT_EQ(set_.CurrentFileName, folder_ / "OPEN.MES");
+    EXPECT_EQ(set_.CurrentFileType, ".MES");
+    EXPECT_EQ(set_.LangCount, 2);
+    EXPECT_EQ(set_.LastMsg, 2);
+    EXPECT_EQ(set_.MemStart, 0x1234U);
+    EXPECT_EQ(set_.DestLang, 1);
+    EXPECT_EQ(Origin(0), "0000");
+    EXPECT_EQ(Destination(2), "1222");
+    EXPECT_EQ(menus_.mnuDes[1].caption, "ITALIANO");
+    EXPECT_TRUE(menus_.mnuSave.enabled);
+    EXPECT_TRUE(view_.Text1.enabled);
+  }
 }
 
 TEST_F(SourceImportTest, NeverStartsForAFirstByteOf31) {
   dialogs_.file_answers = {folder_.Write("BINARY.MES", MesFile{.lang_count = 31}.Bytes())};
   EXPECT_EQ(engine_.opener.Open(), OpenOutcome::kOpened);
-  EXPECT_EQ(set().LangCount, 31);
+  EXPECT_EQ(set_.LangCount, 31);
   EXPECT_THAT(dialogs_.inputs, IsEmpty());
 }
 

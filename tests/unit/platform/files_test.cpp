@@ -3,11 +3,11 @@
 #include <gmock/gmock.h>
 
 #include <filesystem>
-#include <fstream>
 #include <functional>
 #include <string>
 
 #include "platform/errors.h"
+#include "support/ordinary_user.h"
 #include "support/temporary_folder.h"
 
 namespace vendlingua {
@@ -86,10 +86,24 @@ TEST_F(Files, ThatAreFoldersAreRefused) {
 TEST_F(Files, ThatCannotBeReadAreRefused) {
   const fs::path file = folder.Write("locked.MES", "content");
   fs::permissions(file, fs::perms::none);
-  if (std::ifstream(file).good()) {
-    GTEST_SKIP() << "this user may read every file";
+  const test::OrdinaryUser ordinary_user;
+  if (!ordinary_user.holds()) {
+    GTEST_SKIP() << "this user may read and write every file";
   }
-  EXPECT_THROW(ReadFile(file), FileError);
+  EXPECT_THAT(FailureOf([&file] { ReadFile(file); }),
+              testing::AllOf(HasSubstr(file.string()), HasSubstr("Permission denied")));
+}
+
+TEST_F(Files, ThatMayOnlyBeReadAreNotWritten) {
+  const fs::path file = folder.Write("locked.MES", "content");
+  fs::permissions(file, fs::perms::owner_read | fs::perms::group_read | fs::perms::others_read);
+  const test::OrdinaryUser ordinary_user;
+  if (!ordinary_user.holds()) {
+    GTEST_SKIP() << "this user may read and write every file";
+  }
+  EXPECT_THROW(WriteFile(file, "new"), FileError);
+  EXPECT_THROW(PatchFile(file, PatchFile::IfMissing::kFail), FileError);
+  EXPECT_EQ(Slurp(file), "content");
 }
 
 TEST_F(Files, ThatAreDevicesAreNotRead) {
