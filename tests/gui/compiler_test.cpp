@@ -3,15 +3,15 @@
 #include <QPushButton>
 #include <QTabWidget>
 
-#include "gui/support/desk.h"
+#include "gui/support/desk_test.h"
+#include "gui/support/full_disk.h"
 
 namespace vendlingua::test {
 
-class CompilerTest : public QObject {
+class CompilerTest : public DeskTest {
   Q_OBJECT
 
  private:
-  std::unique_ptr<Desk> desk_;
   std::filesystem::path file_;
 
   static MesFile ThreeLanguages() {
@@ -35,20 +35,8 @@ class CompilerTest : public QObject {
   }
   QPushButton& Command1() { return desk_->program.GetInCompiler<QPushButton>("Command1"); }
   QPushButton& Command2() { return desk_->program.GetInCompiler<QPushButton>("Command2"); }
-  QString Status() { return desk_->program.GetInCompiler<QLabel>("Status").text(); }
-  QString UiText(std::size_t number) {
-    return QString::fromStdString(desk_->program.workspace().ui_text[number]);
-  }
-
+  QString CompilerStatus() { return desk_->program.GetInCompiler<QLabel>("Status").text(); }
  private slots:
-  void init() { desk_ = std::make_unique<Desk>(); }
-
-  void cleanup() {
-    const QStringList surprises = desk_->user.Surprises();
-    desk_.reset();
-    QCOMPARE(surprises, QStringList());
-  }
-
   void ShowsTheLanguagesOfTheFile() {
     OpenCompiler();
     QCOMPARE(desk_->program.compiler()->windowTitle(), QStringLiteral("MAkE"));
@@ -74,7 +62,8 @@ class CompilerTest : public QObject {
     Check1(1).click();
     QVERIFY(!Command1().isEnabled());
     QVERIFY(Check1(3).isEnabled());
-    QCOMPARE(Status(), UiText(58) + QStringLiteral(" 2, ") + UiText(59) + QStringLiteral(" 1"));
+    QCOMPARE(CompilerStatus(),
+             UiText(58) + QStringLiteral(" 2, ") + UiText(59) + QStringLiteral(" 1"));
   }
 
   void AHundredLanguagesFillTwoPages() {
@@ -102,7 +91,7 @@ class CompilerTest : public QObject {
     QCOMPARE(desk_->user.inputs().front().title, UiText(48));
     QCOMPARE(desk_->user.inputs().front().prompt, UiText(49));
     QCOMPARE(desk_->user.inputs().front().default_answer, QStringLiteral("ENGLISH"));
-    QCOMPARE(desk_->user.boxes().front().text, UiText(50));
+    QCOMPARE(desk_->user.FirstBox().text, UiText(50));
     QCOMPARE(Label1(2).text(), name);
     for (const char* entry : {"mnuori(2)", "mnuDes(2)", "mnuNew(2)"}) {
       QCOMPARE(desk_->program.Entry(entry).text(), name);
@@ -137,8 +126,8 @@ class CompilerTest : public QObject {
     desk_->user.Type(QStringLiteral("polski"));
     desk_->user.No();
     QTest::mouseClick(&Label1(2), Qt::RightButton);
-    QCOMPARE(desk_->user.boxes().front().icon, QMessageBox::Warning);
-    QCOMPARE(desk_->user.boxes().front().title, UiText(51));
+    QCOMPARE(desk_->user.FirstBox().icon, QMessageBox::Warning);
+    QCOMPARE(desk_->user.FirstBox().title, UiText(51));
     QCOMPARE(Label1(2).text(), QStringLiteral("ENGLISH"));
   }
 
@@ -148,7 +137,7 @@ class CompilerTest : public QObject {
     desk_->user.Type(QStringLiteral("polski"));
     desk_->user.Yes();
     QTest::mouseClick(&Label1(2), Qt::RightButton);
-    const DialogAnswerer::Box& box = desk_->user.boxes().back();
+    const DialogAnswerer::Box box = desk_->user.LastBox();
     QCOMPARE(box.title, QStringLiteral("Error Property"));
     QCOMPARE(box.icon, QMessageBox::Critical);
     QCOMPARE(box.text, QStringLiteral("File Error: This file is only reading!\n"
@@ -163,7 +152,7 @@ class CompilerTest : public QObject {
     Check1(3).click();
     desk_->user.Choose(desk_->folder / "FW0000AA.hex");
     Command1().click();
-    QCOMPARE(Status(), UiText(57) + QStringLiteral(" FW0000AA.hex, FW0000AA.HSX"));
+    QCOMPARE(CompilerStatus(), UiText(57) + QStringLiteral(" FW0000AA.hex, FW0000AA.HSX"));
     const std::string flash = Slurp(desk_->folder / "FW0000AA.hex");
     QVERIFY(flash.starts_with("S1136000" + HexOf("1000")));
     QVERIFY(Command1().isEnabled());
@@ -178,9 +167,9 @@ class CompilerTest : public QObject {
     Check1(3).click();
     desk_->user.Choose(desk_->folder / "FLASH.BIN");
     Command1().click();
-    QCOMPARE(desk_->user.boxes().back().text,
+    QCOMPARE(desk_->user.LastBox().text,
              QStringLiteral("Impossibile creare il file MSX o il file HSX"));
-    QCOMPARE(desk_->user.boxes().back().title, QStringLiteral("Errore"));
+    QCOMPARE(desk_->user.LastBox().title, QStringLiteral("Errore"));
     QVERIFY(!Command1().isEnabled());
     QVERIFY(!Command2().isEnabled());
     QCOMPARE(desk_->program.compiler()->cursor().shape(), Qt::WaitCursor);
@@ -196,6 +185,24 @@ class CompilerTest : public QObject {
     Command1().click();
     QVERIFY(Command1().isEnabled());
     QCOMPARE(desk_->folder.Names(), std::string("TEST.MES bin"));
+  }
+
+  void SaysThatTheDiskIsFull() {
+    OpenCompiler();
+    Check1(1).click();
+    Check1(3).click();
+    desk_->user.Choose(desk_->folder / "FW0000AA.hex");
+    {
+      const FullDisk disk(10);
+      Command1().click();
+    }
+    QCOMPARE(desk_->user.boxes().size(), std::size_t{1});
+    QCOMPARE(desk_->user.FirstBox().title, QStringLiteral("ERROR"));
+    QVERIFY(desk_->user.FirstBox().text.contains(QStringLiteral("FW0000AA.hex")));
+    QVERIFY(Command1().isEnabled());
+    QVERIFY(Command2().isEnabled());
+    QVERIFY(desk_->program.compiler()->cursor().shape() != Qt::WaitCursor);
+    QVERIFY(!std::filesystem::exists(desk_->folder / "FW0000AA.HSX"));
   }
 
   void AMsxFileIsCompiledAsAWhole() {
@@ -214,7 +221,7 @@ class CompilerTest : public QObject {
     desk_->Type("EDIT");
     desk_->user.Yes();
     desk_->program.Choose("mnuMake");
-    QCOMPARE(desk_->user.boxes().front().text, UiText(43));
+    QCOMPARE(desk_->user.FirstBox().text, UiText(43));
     QVERIFY(Slurp(file_).find("EDIT") != std::string::npos);
     QVERIFY(desk_->program.compiler()->isVisible());
   }
@@ -234,6 +241,20 @@ class CompilerTest : public QObject {
     QTest::mouseClick(&Label1(2), Qt::RightButton);
     QTest::qWait(20);
     QVERIFY(desk_->program.compiler() != nullptr);
+  }
+
+  void TheTabKeyGoesFromTheLanguagesToTheButtons() {
+    OpenCompiler();
+    desk_->program.compiler()->activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(desk_->program.compiler()));
+    QStringList stops;
+    for (int i = 0; i < 4; ++i) {
+      const QWidget* focused = QApplication::focusWidget();
+      stops += focused->objectName();
+      QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+    }
+    QCOMPARE(stops.join(QLatin1Char(' ')),
+             QStringLiteral("Check1(1) Check1(2) Check1(3) Command2"));  // Command1 is disabled
   }
 
   void ClosesWithItsButton() {

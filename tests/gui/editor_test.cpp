@@ -5,17 +5,15 @@
 #include <QPushButton>
 #include <QWheelEvent>
 
-#include "gui/support/desk.h"
+#include "gui/support/desk_test.h"
 #include "gui/support/drag.h"
 
 namespace vendlingua::test {
 
-class EditorTest : public QObject {
+class EditorTest : public DeskTest {
   Q_OBJECT
 
  private:
-  std::unique_ptr<Desk> desk_;
-
   template <typename Control>
   Control& Get(const char* name) {
     return desk_->program.Get<Control>(name);
@@ -25,10 +23,12 @@ class EditorTest : public QObject {
     return Get<QLabel>(qPrintable(QStringLiteral("Label5(%1)").arg(index)));
   }
 
-  // Which of the 12 pixels from `left` on have dots above or below them, as 0 and 1.
-  static QString InkedColumns(const QImage& image, int left) {
+  // Which pixel columns of cell `index` of a picture have dots, as 0 and 1.
+  static QString InkedColumns(const QImage& image, int index) {
+    constexpr int kPitch = 12;
+    const auto left = [&](int cell) { return qRound(kPitch * cell * image.devicePixelRatio()); };
     QString columns;
-    for (int x = left; x < left + 12; ++x) {
+    for (int x = left(index); x < left(index + 1); ++x) {
       bool inked = false;
       for (int y = 1; y < image.height() - 1; ++y) {
         inked = inked || qGray(image.pixel(x, y)) < 90;
@@ -49,14 +49,6 @@ class EditorTest : public QObject {
   }
 
  private slots:
-  void init() { desk_ = std::make_unique<Desk>(); }
-
-  void cleanup() {
-    const QStringList surprises = desk_->user.Surprises();
-    desk_.reset();
-    QCOMPARE(surprises, QStringList());
-  }
-
   void ComesAliveWithTheOrigin() {
     desk_->Open("A.MES", MesFile().Bytes());
     QVERIFY(!Cell(0).isVisible());
@@ -88,18 +80,41 @@ class EditorTest : public QObject {
     QCOMPARE(Get<QLabel>("Label8(1)").width(), 200);
   }
 
+  void CharactersStandUnderTheOriginCells_data() {
+    QTest::addColumn<int>("display_type");
+    QTest::newRow("normal") << 0;
+    QTest::newRow("Cyrillic") << 1;
+    QTest::newRow("KTV") << 2;
+    QTest::newRow("Hebrew") << 3;
+  }
+  // Runs once more for every scale of the desktop that people use.
   void CharactersStandUnderTheOriginCells() {
+    QFETCH(int, display_type);
     MesFile mes;
     mes.width = 20;
     desk_->Edit(mes);
     desk_->HScroll1().setValue(2);
     QCOMPARE(desk_->Text1().text(), QStringLiteral("12222222222222222222"));
+    desk_->program.Choose(qPrintable(QStringLiteral("mnuLCD(%1)").arg(display_type)));
     desk_->program.window().setFocus();
     const QImage edit_box = desk_->Text1().grab().toImage();
+    QCOMPARE(edit_box.devicePixelRatio(),
+             qEnvironmentVariable("QT_SCALE_FACTOR", QStringLiteral("1")).toDouble());
     for (int i = 0; i < 20; ++i) {
       const QImage cell = Cell(i).grab().toImage();
-      QCOMPARE(InkedColumns(edit_box, 12 * i), InkedColumns(cell, 0));
+      const QString columns = InkedColumns(cell, 0);
+      QVERIFY(columns.contains(QLatin1Char('1')));
+      QCOMPARE(InkedColumns(edit_box, i), columns);
     }
+  }
+
+  void PaintsPlaceholdersDark() {
+    std::string bytes = MesFile().Bytes();
+    bytes.at(24 + MesFile().BlockLength() + 20 + 2) = '\xFE';
+    desk_->Edit(bytes);
+    const QPoint beside_the_character(1, 1);
+    QCOMPARE(Cell(1).grab().toImage().pixelColor(beside_the_character), QColor(255, 255, 192));
+    QCOMPARE(Cell(2).grab().toImage().pixelColor(beside_the_character), QColor(192, 192, 0));
   }
 
   void PadsAShortTextWithBlanks() {
@@ -137,9 +152,19 @@ class EditorTest : public QObject {
     desk_->Text1().selectAll();
     desk_->Text1().paste();
     QCOMPARE(desk_->Text1().text(), QStringLiteral("ABCD"));
-    QCOMPARE(Get<QLabel>("Status").toolTip(),
-             QString::fromStdString(desk_->program.workspace().ui_text[60]));
+    QCOMPARE(Status(), UiText(60));
     QVERIFY(desk_->Modified());
+  }
+
+  void PutsADroppedCharacterIntoTheCellUnderTheMouse() {
+    desk_->Edit(MesFile());
+    desk_->Type("WXYZ");
+    Get<QPushButton>("Command1").click();
+    QCOMPARE(desk_->Text1().width(), 51);  // 4 cells of 12
+    DragCharacter(Get<QLabel>("Label1(64)"), desk_->Text1(), {24, 5});
+    QCOMPARE(desk_->Text1().text(), QStringLiteral("WXAZ"));
+    DragCharacter(Get<QLabel>("Label1(65)"), desk_->Text1(), {23, 5});
+    QCOMPARE(desk_->Text1().text(), QStringLiteral("WBAZ"));
   }
 
   void PutsACharacterDroppedBehindTheLastCellIntoTheLastPosition() {
@@ -159,6 +184,43 @@ class EditorTest : public QObject {
     QVERIFY(Cell(19).isVisible());
     QCOMPARE(Cell(19).text(), QStringLiteral("0"));
     QVERIFY(desk_->Text1().geometry().right() < desk_->program.window().width());
+  }
+
+  void ShowsTwentyCellsOfAWiderMessageAndKeepsItWhole() {
+    MesFile mes;
+    mes.width = 40;
+    desk_->Edit(mes);
+    QVERIFY(Cell(19).isVisible());
+    const std::string text = "ABCDEFGHIJKLMNOPQRSTUVWXYZ0123456789abcd";
+    desk_->Type(text.c_str());
+    desk_->HScroll1().setValue(1);
+    QCOMPARE(desk_->Stored(0), text);
+  }
+
+  void KeepsTheCaretWhileTyping() {
+    desk_->EditMsx();
+    desk_->Type("abef");
+    desk_->Text1().setCursorPosition(2);
+    QTest::keyClicks(&desk_->Text1(), QStringLiteral("cd"));
+    QCOMPARE(desk_->Text1().text(), QStringLiteral("abcdef"));
+    QTest::keyClick(&desk_->Text1(), Qt::Key_Z, Qt::ControlModifier);
+    QCOMPARE(desk_->Text1().text(), QStringLiteral("abef"));
+  }
+
+  void EditsAMessageFromItsFirstCharacter() {
+    desk_->Edit(MesFile());
+    desk_->Text1().end(false);
+    desk_->HScroll1().setValue(1);
+    QCOMPARE(desk_->Text1().cursorPosition(), 0);
+  }
+
+  void ABlankMessageClearsTheEditBox() {
+    std::string bytes = MesFile().Bytes();
+    bytes.replace(24 + MesFile().BlockLength() + 20 + 4, 4, "    ");
+    desk_->Edit(bytes);
+    QCOMPARE(desk_->Text1().text(), QStringLiteral("1000"));
+    desk_->HScroll1().setValue(1);
+    QCOMPARE(desk_->Text1().text(), QString());
   }
 
   void IgnoresScrollingWhileNoSetIsLoaded() {
@@ -183,8 +245,7 @@ class EditorTest : public QObject {
     desk_->Text1().paste();
     QApplication::processEvents();
     QCOMPARE(desk_->Text1().text(), QStringLiteral("AB"));
-    const UiText& ui_text = desk_->program.workspace().ui_text;
-    QCOMPARE(desk_->view().status, ui_text[53] + " \u0431");
+    QCOMPARE(Status(), UiText(53) + QStringLiteral(" \u0431"));
   }
 
   void TypesACodeWithAlt() {
@@ -258,7 +319,7 @@ class EditorTest : public QObject {
     QCOMPARE(desk_->HScroll1().maximum(), 3);
     QVERIFY(!Get<QPushButton>("Command2").isVisible());
     QVERIFY(desk_->Modified());
-    QCOMPARE(desk_->user.boxes().back().icon, QMessageBox::Question);
+    QCOMPARE(desk_->user.LastBox().icon, QMessageBox::Question);
   }
 
   void AddsNoMessageAfterNo() {
@@ -270,10 +331,33 @@ class EditorTest : public QObject {
     QVERIFY(!desk_->Modified());
   }
 
+  void OffersNoNewMessageWhenTheLanguageIsFull() {
+    desk_->Edit(MesFile{.last_msg = 3, .stride = 3});
+    desk_->HScroll1().setValue(3);
+    QVERIFY(!Get<QPushButton>("Command2").isVisible());
+  }
+
+  void OffersNoNewMessageWithoutADestination() {
+    desk_->Open("A.MES", MesFile().Bytes());
+    desk_->program.Choose("mnuori(1)");
+    desk_->HScroll1().setValue(2);
+    QVERIFY(!Get<QPushButton>("Command2").isVisible());
+  }
+
+  void OffersNoNewMessageInAMsxSet() {
+    desk_->EditMsx();
+    desk_->HScroll1().setValue(454);
+    QVERIFY(!Get<QPushButton>("Command2").isVisible());
+  }
+
   void HintsHowToTypeEveryCharacter() {
     QCOMPARE(Get<QLabel>("Label1(0)").toolTip(), QStringLiteral("ALT + 01"));
     QCOMPARE(Get<QLabel>("Label1(64)").toolTip(), QStringLiteral("ALT + 065"));
     QCOMPARE(Get<QLabel>("Label1(254)").toolTip(), QStringLiteral("ALT + 0255"));
+    for (int code = 1; code <= 255; ++code) {
+      const QByteArray name = "Label1(" + QByteArray::number(code - 1) + ")";
+      QCOMPARE(Get<QLabel>(name.constData()).toolTip(), QStringLiteral("ALT + 0%1").arg(code));
+    }
   }
 
   void StepsThroughTheMessagesWithKeysAndWheel() {
@@ -301,6 +385,21 @@ class EditorTest : public QObject {
     QVERIFY(Get<QLabel>("Label9(0)").isVisible());
     QVERIFY(Get<QLabel>("Label9(1)").isVisible());
     desk_->HScroll1().setValue(2);
+    QVERIFY(!Get<QLabel>("Label9(0)").isVisible());
+  }
+
+  void MarksTheMessageThatNamesTheLanguageOfAMsxSet() {
+    desk_->EditMsx();
+    desk_->HScroll1().setValue(169);
+    QVERIFY(Get<QLabel>("Label9(0)").isVisible());
+    desk_->HScroll1().setValue(171);
+    QVERIFY(!Get<QLabel>("Label9(0)").isVisible());
+  }
+
+  void MarksNoMessageWithoutADestination() {
+    desk_->Open("A.MES", MesFile().Bytes());
+    desk_->program.Choose("mnuori(1)");
+    desk_->HScroll1().setValue(1);
     QVERIFY(!Get<QLabel>("Label9(0)").isVisible());
   }
 

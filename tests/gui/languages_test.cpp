@@ -1,42 +1,77 @@
+#include <QAbstractButton>
+#include <QInputDialog>
+#include <QKeySequence>
 #include <QLabel>
 #include <QMenuBar>
 #include <QPushButton>
 #include <array>
+#include <filesystem>
+#include <functional>
 
-#include "gui/support/desk.h"
+#include "gui/support/desk_test.h"
 
 namespace vendlingua::test {
 
-class LanguagesTest : public QObject {
+namespace {
+
+namespace fs = std::filesystem;
+
+// A row for each language that the program comes with.
+void AddLanguageRows() {
+  QTest::addColumn<QString>("language");
+  for (const auto& file : fs::directory_iterator(VENDLINGUA_LANGUAGES_FOLDER)) {
+    const std::string name = file.path().stem().string();
+    QTest::newRow(name.c_str()) << QString::fromStdString(name);
+  }
+}
+
+// Line `number` of a language file, as an editor of text files shows it.
+QString LineOf(const QString& language, qsizetype number) {
+  const std::string file = language.toStdString() + ".lng";
+  const std::string content = Slurp(fs::path(VENDLINGUA_LANGUAGES_FOLDER) / file);
+  return QString::fromLatin1(content.c_str()).split(QStringLiteral("\r\n")).at(number - 1);
+}
+
+}  // namespace
+
+class LanguagesTest : public DeskTest {
   Q_OBJECT
 
  private:
-  std::unique_ptr<Desk> desk_;
-
   QString Caption(const char* entry) { return desk_->program.Entry(entry).text(); }
 
-  const UiText& Texts() { return desk_->program.workspace().ui_text; }
-
   // The entry of the interface language `name`.
-  QAction& InterfaceLanguage(const char* name) {
+  QAction& InterfaceLanguage(const QString& name) {
     for (int i = 0; i < 10; ++i) {
       const QByteArray entry = "smnuLingue(" + QByteArray::number(i) + ")";
-      if (Caption(entry.constData()) == QLatin1String(name)) {
+      if (Caption(entry.constData()) == name) {
         return desk_->program.Entry(entry.constData());
       }
     }
-    qFatal("there is no language %s", name);
+    qFatal("there is no language %s", qPrintable(name));
+  }
+
+  // Changes the file of a language that is not in use.
+  void Rewrite(const char* file, const std::function<void(std::string&)>& change) {
+    const std::string name = std::string("bin/") + file;
+    std::string content = Slurp(desk_->folder / name);
+    change(content);
+    desk_->folder.Write(name, content);
+  }
+
+  void ExpectSvenskaRefused() {
+    InterfaceLanguage(QStringLiteral("english")).trigger();
+    InterfaceLanguage(QStringLiteral("svenska")).trigger();
+    QCOMPARE(desk_->user.boxes().size(), std::size_t{1});
+    QCOMPARE(desk_->user.LastBox().text, UiText(37));
+    QCOMPARE(desk_->user.LastBox().title, QStringLiteral("Language file"));
+    QCOMPARE(desk_->user.LastBox().icon, QMessageBox::Warning);
+    QVERIFY(InterfaceLanguage(QStringLiteral("english")).isChecked());
+    QVERIFY(!InterfaceLanguage(QStringLiteral("svenska")).isChecked());
+    QCOMPARE(Caption("mnuFile"), QStringLiteral("&File"));
   }
 
  private slots:
-  void init() { desk_ = std::make_unique<Desk>(); }
-
-  void cleanup() {
-    const QStringList surprises = desk_->user.Surprises();
-    desk_.reset();
-    QCOMPARE(surprises, QStringList());
-  }
-
   void OriginZeroOfAMsxFileIsTheBuiltInTable() {
     desk_->EditMsx();
     QString origin;
@@ -74,6 +109,16 @@ class LanguagesTest : public QObject {
     QVERIFY(desk_->Modified());
   }
 
+  void LeavingTheProgramAsksToSaveANewLanguage() {
+    const auto path = desk_->Edit(MesFile());
+    desk_->program.Choose("mnuNew(1)");
+    desk_->user.Yes();
+    desk_->user.Type(QStringLiteral("neu"));
+    QVERIFY(desk_->program.window().close());
+    QCOMPARE(desk_->user.FirstBox().text, UiText(43));
+    QCOMPARE(Slurp(path), MesFile().Bytes() + "NEU                 100011111222");
+  }
+
   void TheEntryAboveNewLanguagesDoesNothing() {
     desk_->Edit(MesFile());
     desk_->program.Entry("mnuDes(0)").trigger();
@@ -98,9 +143,9 @@ class LanguagesTest : public QObject {
     QVERIFY(!desk_->program.Entry("mnuDes(0)").isEnabled());
     QVERIFY(desk_->program.Entry("mnuDes(100)").isVisible());
     desk_->program.engine().languages.StartNewLanguage(0);
-    QCOMPARE(desk_->user.boxes().back().text, QString::fromStdString(Texts()[31]));
-    QCOMPARE(desk_->user.boxes().back().title, QString::fromStdString(Texts()[30]));
-    QCOMPARE(desk_->user.boxes().back().icon, QMessageBox::Information);
+    QCOMPARE(desk_->user.LastBox().text, UiText(31));
+    QCOMPARE(desk_->user.LastBox().title, UiText(30));
+    QCOMPARE(desk_->user.LastBox().icon, QMessageBox::Information);
   }
 
   void ADisplayTypeChangesTheFontEverywhere() {
@@ -135,11 +180,11 @@ class LanguagesTest : public QObject {
   }
 
   void AnInterfaceLanguageCaptionsEverythingAtOnce() {
-    InterfaceLanguage("deutsch").trigger();
+    InterfaceLanguage(QStringLiteral("deutsch")).trigger();
     QCOMPARE(Caption("mnuOpen"), QStringLiteral("\u00D6&ffnen..."));
     QCOMPARE(desk_->program.Get<QLabel>("Label8(1)").text(), QStringLiteral("Ziel"));
     QCOMPARE(desk_->program.Get<QPushButton>("Command2").text(), QStringLiteral("Neue Meldung"));
-    QVERIFY(InterfaceLanguage("deutsch").isChecked());
+    QVERIFY(InterfaceLanguage(QStringLiteral("deutsch")).isChecked());
     QCOMPARE(Slurp(desk_->folder / "bin" / "vendlingua.ini"), std::string("Lingua=deutsch\r\n"));
   }
 
@@ -172,28 +217,98 @@ class LanguagesTest : public QObject {
     }
   }
 
+  void TheButtonsOfTheCompilerSpeakTheLanguage_data() { AddLanguageRows(); }
+  void TheButtonsOfTheCompilerSpeakTheLanguage() {
+    QFETCH(QString, language);
+    InterfaceLanguage(language).trigger();
+    desk_->Edit(MesFile());
+    desk_->program.Choose("mnuMake");
+    const auto& compile = desk_->program.GetInCompiler<QPushButton>("Command1");
+    const auto& close = desk_->program.GetInCompiler<QPushButton>("Command2");
+    QCOMPARE(compile.text(), LineOf(language, 25));
+    QCOMPARE(close.text(), LineOf(language, 26));
+    for (const QPushButton* button : {&compile, &close}) {
+      QVERIFY(!button->text().isEmpty());
+      QVERIFY(button->sizeHint().width() <= button->width());
+    }
+  }
+
+  void TheButtonsOfAQuestionSpeakTheLanguage_data() { AddLanguageRows(); }
+  void TheButtonsOfAQuestionSpeakTheLanguage() {
+    QFETCH(QString, language);
+    InterfaceLanguage(language).trigger();
+    desk_->Edit(MesFile());
+    desk_->Type("EDIT");
+    QString yes;
+    QString no;
+    desk_->user.on_dialog = [&](QDialog& dialog) {
+      const auto& box = dynamic_cast<QMessageBox&>(dialog);
+      yes = box.button(QMessageBox::Yes)->text();
+      no = box.button(QMessageBox::No)->text();
+    };
+    desk_->user.No();
+    QVERIFY(desk_->program.window().close());
+    QCOMPARE(desk_->user.FirstBox().title, LineOf(language, 42));
+    QCOMPARE(desk_->user.FirstBox().text, LineOf(language, 43));
+    QCOMPARE(yes, LineOf(language, 62));
+    QCOMPARE(no, LineOf(language, 63));
+    QVERIFY(!QKeySequence::mnemonic(yes).isEmpty());
+    QVERIFY(!QKeySequence::mnemonic(no).isEmpty());
+    QVERIFY(QKeySequence::mnemonic(yes) != QKeySequence::mnemonic(no));
+  }
+
+  void TheButtonsOfAnInputBoxSpeakTheLanguage_data() { AddLanguageRows(); }
+  void TheButtonsOfAnInputBoxSpeakTheLanguage() {
+    QFETCH(QString, language);
+    InterfaceLanguage(language).trigger();
+    desk_->Edit(MesFile());
+    desk_->program.Choose("mnuMake");
+    QString cancel;
+    desk_->user.on_dialog = [&](QDialog& dialog) {
+      cancel = dynamic_cast<QInputDialog&>(dialog).cancelButtonText();
+    };
+    desk_->user.Cancel();
+    QTest::mouseClick(&desk_->program.GetInCompiler<QLabel>("Label1(1)"), Qt::RightButton);
+    QCOMPARE(desk_->user.inputs().front().title, LineOf(language, 48));
+    QCOMPARE(desk_->user.inputs().front().prompt, LineOf(language, 49));
+    QCOMPARE(cancel, LineOf(language, 64));
+  }
+
   void RefusesALanguageFileThatIsALineShort() {
-    const auto file = desk_->folder / "bin" / "svenska.lng";
-    std::string content = Slurp(file);
-    content.resize(content.rfind("\r\n", content.size() - 3) + 2);
-    std::filesystem::remove(file);
-    desk_->folder.Write("bin/svenska.lng", content);
-    InterfaceLanguage("english").trigger();
-    InterfaceLanguage("svenska").trigger();
-    QCOMPARE(desk_->user.boxes().back().text, QString::fromStdString(Texts()[37]));
-    QCOMPARE(desk_->user.boxes().back().title, QStringLiteral("Language file"));
-    QCOMPARE(desk_->user.boxes().back().icon, QMessageBox::Warning);
-    QVERIFY(InterfaceLanguage("english").isChecked());
-    QCOMPARE(Caption("mnuFile"), QStringLiteral("&File"));
+    Rewrite("svenska.lng", [](std::string& content) {
+      content.resize(content.rfind("\r\n", content.size() - 3) + 2);
+    });
+    ExpectSvenskaRefused();
+  }
+
+  void RefusesALanguageFileWhoseSectionMarksStandElsewhere() {
+    Rewrite("svenska.lng", [](std::string& content) {
+      const std::size_t mark = content.find(";--");
+      const std::size_t next = content.find("\r\n", mark) + 2;
+      const std::string line = content.substr(mark, next - mark);
+      content.erase(mark, line.size());
+      content.insert(content.find("\r\n", mark) + 2, line);
+    });
+    ExpectSvenskaRefused();
+  }
+
+  void TakesALanguageFileThatDiffersInOrdinaryLines() {
+    Rewrite("svenska.lng", [](std::string& content) {
+      content.replace(0, content.find("\r\n"), "Datei");
+      content += "one more line\r\n";
+    });
+    InterfaceLanguage(QStringLiteral("svenska")).trigger();
+    QVERIFY(InterfaceLanguage(QStringLiteral("svenska")).isChecked());
+    QCOMPARE(Caption("mnuFile"), QStringLiteral("Datei"));
   }
 
   void KeepsTheLanguageWhenTheFileOfAnotherIsGone() {
-    InterfaceLanguage("english").trigger();
+    InterfaceLanguage(QStringLiteral("english")).trigger();
     std::filesystem::remove(desk_->folder / "bin" / "deutsch.lng");
-    InterfaceLanguage("deutsch").trigger();
-    QCOMPARE(desk_->user.boxes().back().title, QStringLiteral("ERROR"));
-    QVERIFY(InterfaceLanguage("english").isChecked());
-    QVERIFY(!InterfaceLanguage("deutsch").isChecked());
+    InterfaceLanguage(QStringLiteral("deutsch")).trigger();
+    QCOMPARE(desk_->user.LastBox().title, QStringLiteral("ERROR"));
+    QVERIFY(InterfaceLanguage(QStringLiteral("english")).isChecked());
+    QVERIFY(!InterfaceLanguage(QStringLiteral("deutsch")).isChecked());
     QCOMPARE(Caption("mnuFile"), QStringLiteral("&File"));
   }
 };

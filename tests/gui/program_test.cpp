@@ -3,25 +3,15 @@
 #include <QProcess>
 
 #include "app/qt_program_starter.h"
-#include "gui/support/desk.h"
+#include "gui/support/desk_test.h"
 
 namespace vendlingua::test {
 
-class ProgramTest : public QObject {
+class ProgramTest : public DeskTest {
   Q_OBJECT
 
  private:
-  std::unique_ptr<Desk> desk_;
-
  private slots:
-  void init() { desk_ = std::make_unique<Desk>(); }
-
-  void cleanup() {
-    const QStringList surprises = desk_->user.Surprises();
-    desk_.reset();
-    QCOMPARE(surprises, QStringList());
-  }
-
   void StartsWithoutAFile() {
     QCOMPARE(desk_->program.window().windowTitle(), QStringLiteral("Vendlingua"));
     for (const char* entry : {"mnuOrig", "mnuDest", "mnuMake", "mnuSave", "mnuSaas", "mnuTLCD"}) {

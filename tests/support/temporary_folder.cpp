@@ -1,16 +1,25 @@
 #include "support/temporary_folder.h"
 
-#include <gtest/gtest.h>
-
 #include <algorithm>
 #include <fstream>
 #include <iterator>
 #include <random>
+#include <stdexcept>
 #include <vector>
 
 namespace vendlingua::test {
 
 namespace fs = std::filesystem;
+
+namespace {
+
+void ExpectGood(const std::ios& stream, const fs::path& file) {
+  if (!stream.good()) {
+    throw std::runtime_error("a test file can be neither read nor written: " + file.string());
+  }
+}
+
+}  // namespace
 
 TemporaryFolder::TemporaryFolder() {
   std::random_device random;
@@ -28,7 +37,7 @@ fs::path TemporaryFolder::Write(std::string_view name, std::string_view content)
   const fs::path file = path_ / name;
   std::ofstream stream(file, std::ios::binary);
   stream.write(content.data(), static_cast<std::streamsize>(content.size()));
-  EXPECT_TRUE(stream.good()) << file;
+  ExpectGood(stream, file);
   return file;
 }
 
@@ -47,7 +56,7 @@ std::string TemporaryFolder::Names() const {
 
 std::string Slurp(const fs::path& path) {
   std::ifstream stream(path, std::ios::binary);
-  EXPECT_TRUE(stream.good()) << path;
+  ExpectGood(stream, path);
   return {std::istreambuf_iterator<char>(stream), std::istreambuf_iterator<char>()};
 }
 

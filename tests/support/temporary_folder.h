@@ -18,7 +18,7 @@ class TemporaryFolder {
   const std::filesystem::path& path() const { return path_; }
   std::filesystem::path operator/(std::string_view name) const { return path_ / name; }
 
-  /// Writes a file into the folder and returns its path.
+  /// Writes a file into the folder and returns its path. Throws std::runtime_error.
   std::filesystem::path Write(std::string_view name, std::string_view content) const;
 
   /// Names of the files in the folder, sorted, joined by blanks.
@@ -28,7 +28,7 @@ class TemporaryFolder {
   std::filesystem::path path_;
 };
 
-/// The bytes of a file; fails the test when it cannot be read.
+/// The bytes of a file. Throws std::runtime_error, which fails the test, when it cannot be read.
 std::string Slurp(const std::filesystem::path& path);
 
 }  // namespace vendlingua::test

@@ -3,6 +3,7 @@
 
 #include <QLineEdit>
 #include <QScrollBar>
+#include <QSettings>
 #include <QTest>
 #include <filesystem>
 #include <string>
@@ -11,6 +12,7 @@
 #include "gui/support/dialog_answerer.h"
 #include "gui/support/running_program.h"
 #include "model/display_code.h"
+#include "platform/qt_path.h"
 #include "support/message_files.h"
 #include "support/temporary_folder.h"
 
@@ -21,18 +23,26 @@ namespace vendlingua::test {
 struct Desk {
   TemporaryFolder folder;
   DialogAnswerer user;
-  RunningProgram program{folder / "bin"};
+  RunningProgram program;
+
+  explicit Desk(RunningProgram::Start start = RunningProgram::Start::kNow)
+      : program(folder / "bin", start) {}
 
   QLineEdit& Text1() { return program.Get<QLineEdit>("Text1"); }
   QScrollBar& HScroll1() { return program.Get<QScrollBar>("HScroll1"); }
   ViewState& view() { return program.workspace().view; }
   bool Modified() { return program.set().Modified != kFalse; }
 
+  /// Chooses a file in the dialog of File, Open.
+  void Open(const std::filesystem::path& path) {
+    user.Choose(path);
+    program.Choose("mnuOpen");
+  }
+
   /// Writes a file and opens it.
   std::filesystem::path Open(std::string_view name, std::string_view content) {
     const std::filesystem::path path = folder.Write(name, content);
-    user.Choose(path);
-    program.Choose("mnuOpen");
+    Open(path);
     return path;
   }
 
@@ -66,9 +76,12 @@ struct Desk {
   }
 };
 
-/// The main() of a test program: it finds the display fonts as the program does.
+/// The main() of a test program. File dialogs remember things from run to run: here they neither
+/// read nor write what those of the user do.
 template <typename Test>
 int RunTest(int argc, char** argv) {
+  const TemporaryFolder settings;
+  QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, ToQString(settings.path()));
   const QApplication application(argc, argv);
   Test test;
   return QTest::qExec(&test, argc, argv);

@@ -67,32 +67,44 @@ QStringList DialogAnswerer::Surprises() const {
   return surprises;
 }
 
+// The timer does not fire again inside its own event, but an answer may bring up a further dialog:
+// so the answer is given in an event of its own.
 void DialogAnswerer::Poll() {
   auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
-  if (dialog == nullptr || !dialog->isVisible()) {
-    answered_ = nullptr;
-    return;
+  if (dialog != nullptr && dialog->isVisible() && dialog != in_answer_) {
+    in_answer_ = dialog;
+    QMetaObject::invokeMethod(
+        this, [this, dialog] { AnswerNow(*dialog); }, Qt::QueuedConnection);
   }
-  if (dialog == answered_) {
-    return;
-  }
-  answered_ = dialog;
-  Note(*dialog);
+}
+
+void DialogAnswerer::AnswerNow(QDialog& dialog) {
+  Note(dialog);
   if (on_dialog) {
-    on_dialog(*dialog);
+    on_dialog(dialog);
   }
-  if (HasOneButton(*dialog)) {
-    AcceptDialog(*dialog);
-    return;
+  if (HasOneButton(dialog)) {
+    AcceptDialog(dialog);
+  } else {
+    const Answer answer = answers_.empty() ? Answer() : answers_.front();
+    if (!answers_.empty()) {
+      answers_.pop_front();
+    }
+    if (!answer || !answer(dialog)) {
+      Surprise(dialog);
+    }
   }
-  const Answer answer = answers_.empty() ? Answer() : answers_.front();
-  if (!answers_.empty()) {
-    answers_.pop_front();
+  in_answer_ = nullptr;
+}
+
+// Some questions are asked until they have an answer.
+void DialogAnswerer::Surprise(QDialog& dialog) {
+  constexpr qsizetype kMost = 20;
+  surprises_ += dialog.windowTitle() + QStringLiteral(": no answer fits");
+  if (surprises_.size() > kMost) {
+    qFatal("%s", qPrintable(surprises_.join(QLatin1Char('\n'))));
   }
-  if (!answer || !answer(*dialog)) {
-    surprises_ += dialog->windowTitle() + QStringLiteral(": no answer fits");
-    dialog->done(QDialog::Rejected);
-  }
+  dialog.done(QDialog::Rejected);
 }
 
 void DialogAnswerer::Note(QDialog& dialog) {

@@ -4,7 +4,6 @@
 #include <QDialog>
 #include <QMessageBox>
 #include <QObject>
-#include <QPointer>
 #include <QString>
 #include <QStringList>
 #include <QTimer>
@@ -17,7 +16,8 @@ namespace vendlingua::test {
 
 /// Answers the real modal dialogs of the program while it waits in them, in the order in which the
 /// answers were given, and keeps what it saw. A message box with one button needs no answer. A
-/// dialog that no answer was given for is cancelled and counts as a surprise.
+/// dialog that stays open after its answer takes the next one. A dialog that no answer was given
+/// for is cancelled and counts as a surprise.
 class DialogAnswerer : public QObject {
   Q_OBJECT
 
@@ -39,12 +39,15 @@ class DialogAnswerer : public QObject {
   std::function<void(QDialog&)> on_dialog;
 
   struct Box {
-    QMessageBox::Icon icon;
+    QMessageBox::Icon icon = QMessageBox::NoIcon;
     QString text;
     QString title;
     QMessageBox::StandardButtons buttons;
   };
   const std::vector<Box>& boxes() const { return boxes_; }
+  /// An empty box when there was none.
+  Box FirstBox() const { return boxes_.empty() ? Box() : boxes_.front(); }
+  Box LastBox() const { return boxes_.empty() ? Box() : boxes_.back(); }
   struct Input {
     QString prompt;
     QString title;
@@ -68,6 +71,8 @@ class DialogAnswerer : public QObject {
 
   void Expect(Answer answer) { answers_.push_back(std::move(answer)); }
   void Poll();
+  void AnswerNow(QDialog& dialog);
+  void Surprise(QDialog& dialog);
   void Note(QDialog& dialog);
   static bool AnswerYes(QDialog& dialog);
   static bool AnswerNo(QDialog& dialog);
@@ -75,7 +80,7 @@ class DialogAnswerer : public QObject {
   static bool AcceptDialog(QDialog& dialog);
 
   QTimer timer_;
-  QPointer<QDialog> answered_;
+  QDialog* in_answer_ = nullptr;
   std::deque<Answer> answers_;
   std::vector<Box> boxes_;
   std::vector<Input> inputs_;

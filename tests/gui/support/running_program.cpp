@@ -16,9 +16,7 @@ const fs::path kFontsFolder = VENDLINGUA_FONTS_FOLDER;
 
 }  // namespace
 
-void RegisterDisplayFonts() { const QtFontList fonts(kFontsFolder); }
-
-RunningProgram::RunningProgram(const fs::path& folder) : engine_(dialogs_) {
+RunningProgram::RunningProgram(const fs::path& folder, Start start) : engine_(dialogs_) {
   fs::create_directories(folder);
   for (const auto& entry : fs::directory_iterator(kLanguagesFolder)) {
     fs::copy_file(entry.path(), folder / entry.path().filename(), fs::copy_options::skip_existing);
@@ -27,16 +25,31 @@ RunningProgram::RunningProgram(const fs::path& folder) : engine_(dialogs_) {
                                .current = folder,
                                .settings = folder / "vendlingua.ini",
                                .user_settings = folder / "user" / "vendlingua.ini"};
-  const QtFontList fonts(kFontsFolder);
-  if (!StartUp(engine_.workspace, dialogs_, fonts).Form_Load()) {
+  if (start == Start::kLater) {
+    return;
+  }
+  if (!Load()) {
     qFatal("the program does not start");
   }
-  window_ = std::make_unique<FrmMes>(engine_, dialogs_, starts_);
-  window_->show();
-  QApplication::processEvents();
+  Show();
 }
 
 RunningProgram::~RunningProgram() = default;
+
+bool RunningProgram::Load(const FontList& fonts) {
+  if (!StartUp(engine_.workspace, dialogs_, fonts).Form_Load()) {
+    return false;
+  }
+  window_ = std::make_unique<FrmMes>(engine_, dialogs_, starts_);
+  return true;
+}
+
+bool RunningProgram::Load() { return Load(QtFontList(kFontsFolder)); }
+
+void RunningProgram::Show() {
+  window_->show();
+  QApplication::processEvents();
+}
 
 void RunningProgram::Choose(const char* name) {
   QAction& entry = Entry(name);

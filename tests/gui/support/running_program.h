@@ -13,6 +13,7 @@
 #include "app/qt_dialogs.h"
 #include "flash/frm_make.h"
 #include "info/frm_info.h"
+#include "platform/font_list.h"
 #include "platform/program_starter.h"
 
 namespace vendlingua::test {
@@ -29,11 +30,19 @@ class NotedStarts : public ProgramStarter {
 /// by the names of its controls.
 class RunningProgram {
  public:
-  /// Copies the interface languages into `folder` and shows the main window.
-  explicit RunningProgram(const std::filesystem::path& folder);
+  enum class Start { kNow, kLater };
+
+  /// Copies the interface languages into `folder` and starts the program there. Later means by
+  /// Load() and Show().
+  explicit RunningProgram(const std::filesystem::path& folder, Start start = Start::kNow);
   RunningProgram(const RunningProgram&) = delete;
   RunningProgram& operator=(const RunningProgram&) = delete;
   ~RunningProgram();
+
+  /// What happens before the main window is shown. False when the program refuses to start.
+  bool Load(const FontList& fonts);
+  bool Load();
+  void Show();
 
   Engine& engine() { return engine_; }
   Workspace& workspace() { return engine_.workspace; }
@@ -80,10 +89,6 @@ class RunningProgram {
   NotedStarts starts_;
   std::unique_ptr<FrmMes> window_;
 };
-
-/// Registers the display fonts of the source tree for this process.
-void RegisterDisplayFonts();
-
 }  // namespace vendlingua::test
 
 #endif  // VENDLINGUA_TESTS_GUI_SUPPORT_RUNNING_PROGRAM_H_

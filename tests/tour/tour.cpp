@@ -60,19 +60,28 @@ class Tour {
     program_.OpenMenu("mnuDest");
     program_.Choose("mnuDes(2)");
     Picture(program_.window(), "destination-chosen");
-    EditMessage(3, "FIRST EDIT");
-    EditMessage(4, "SECOND EDIT");
+    EditMessage(45, "E08 Tank empty");
+    EditMessage(43, "E12 Coffee<60  C");
     Picture(program_.window(), "two-messages-edited");
     program_.Get<QPushButton>("Command1").click();
-    auto& Text1 = program_.Get<QLineEdit>("Text1");
-    DragCharacter(program_.Get<QLabel>("Label1(222)"), Text1, {12 * 12 + 6, Text1.height() / 2});
-    if (Text1.text().size() != 13) {
-      throw std::runtime_error("the dragged character did not arrive in the thirteenth cell");
-    }
+    DragTheDegreeSign();
     Picture(program_.window(), "character-dragged-from-the-map");
     program_.Choose("mnuSave");
     Picture(program_.window(), "saved");
     program_.Get<QPushButton>("Command1").click();
+  }
+
+  // Into the blank that was left for it, before the "C".
+  void DragTheDegreeSign() {
+    constexpr int kCell = 14;
+    auto& Text1 = program_.Get<QLineEdit>("Text1");
+    const int cell_width = Text1.width() / (program_.set().LastCol + 1);
+    DragCharacter(program_.Get<QLabel>("Label1(222)"), Text1,
+                  {kCell * cell_width + cell_width / 2, Text1.height() / 2});
+    if (Text1.text() != QStringLiteral("E12 Coffee<60 \u00DFC")) {
+      throw std::runtime_error("the dragged character did not arrive: " +
+                               Text1.text().toStdString());
+    }
   }
 
   void StartNewLanguage() {
@@ -80,7 +89,8 @@ class Tour {
     program_.Choose("mnuori(1)");
     program_.OpenMenu("mnuDest");
     program_.Choose("mnuNew(2)");
-    EditMessage(0, "WITAMY");
+    EditMessage(14, "Wybierz produkt");
+    EditMessage(15, "i wcisnij guzik");
     Picture(program_.window(), "new-language-started");
     answerer_.Type(QStringLiteral("Polski"));
     program_.Choose("mnuSave");

@@ -1,0 +1,243 @@
+#include <algorithm>
+#include <cerrno>
+#include <filesystem>
+#include <string>
+#include <system_error>
+
+#include "gui/support/desk_test.h"
+#include "gui/support/full_disk.h"
+#include "support/ordinary_user.h"
+
+namespace vendlingua::test {
+namespace {
+
+namespace fs = std::filesystem;
+
+QString SystemReason(int error_number) {
+  return QString::fromStdString(std::generic_category().message(error_number));
+}
+
+// MesFile with the first message of its first language replaced.
+std::string EditedMes() {
+  const MesFile mes;
+  return mes.Bytes().replace(24 + mes.BlockLength() + 20, 4, "EDIT");
+}
+
+std::string PaddedMessage(std::string text) {
+  text.resize(16, ' ');
+  return text;
+}
+
+// Replaces a message of the first language of MsxFile(2).
+void ReplaceMessage(std::string& file, std::size_t message, const std::string& text) {
+  const std::size_t address = 0xFF0000 + message * 16;
+  const std::string line = S2Line(address, MsxMessage(1, message));
+  file.replace(file.find(line), line.size(), S2Line(address, PaddedMessage(text)));
+}
+
+}  // namespace
+
+class FailedSavesTest : public DeskTest {
+  Q_OBJECT
+
+ private:
+  fs::path EditAMessage() {
+    const fs::path path = desk_->Edit(MesFile());
+    desk_->Type("EDIT");
+    return path;
+  }
+
+  // The status line says why nothing was saved; the message is still there to be saved elsewhere.
+  void ExpectNotSaved(const QString& reason) {
+    QVERIFY2(Status().startsWith(UiText(55)), qPrintable(Status()));
+    QVERIFY2(Status().contains(reason), qPrintable(Status()));
+    QCOMPARE(desk_->Text1().text(), QStringLiteral("EDIT"));
+    QVERIFY(desk_->Text1().isEnabled());
+    QVERIFY(desk_->program.Entry("mnuSaas").isEnabled());
+  }
+
+  void ExpectSavedElsewhere() {
+    const fs::path copy = desk_->folder / "COPY.MES";
+    desk_->user.Choose(copy);
+    desk_->program.Choose("mnuSaas");
+    QCOMPARE(Status(), UiText(54) + QString::fromStdString(" " + copy.string()));
+    QCOMPARE(Slurp(copy), EditedMes());
+  }
+
+ private slots:
+  void SaysThatTheDiskIsFull() {
+    const fs::path path = EditAMessage();
+    {
+      const FullDisk disk(24 + MesFile().BlockLength());
+      desk_->program.Choose("mnuSave");
+    }
+    ExpectNotSaved(SystemReason(EFBIG));
+    QCOMPARE(Slurp(path), MesFile().Bytes());
+    QCOMPARE(desk_->user.boxes().size(), std::size_t{0});
+    ExpectSavedElsewhere();
+    QCOMPARE(Slurp(path), MesFile().Bytes());
+  }
+
+  void ALanguageThatFindsNoRoomOnTheDiskStaysNew() {
+    const fs::path path = desk_->Edit(MesFile());
+    desk_->program.Choose("mnuNew(1)");
+    desk_->Type("EDIT");
+    desk_->user.Type(QStringLiteral("deutsch"));
+    {
+      const FullDisk disk(MesFile().Bytes().size());
+      desk_->program.Choose("mnuSave");
+    }
+    ExpectNotSaved(SystemReason(EFBIG));
+    QCOMPARE(Slurp(path), MesFile().Bytes());
+    QVERIFY(!desk_->program.Entry("mnuDes(2)").isVisible());
+    desk_->user.Type(QStringLiteral("polski"));
+    desk_->program.Choose("mnuSave");
+    QCOMPARE(desk_->program.Entry("mnuDes(2)").text(), QStringLiteral("POLSKI"));
+    QCOMPARE(Slurp(path), MesFile().Bytes() + "POLSKI              EDIT11111222");
+  }
+
+  void TheNextSaveHealsAMsxFileThatWasWrittenInPart() {
+    const fs::path path = desk_->EditMsx();
+    desk_->Type("EDIT");
+    desk_->HScroll1().setValue(200);
+    desk_->Type("EDIT");
+    std::string written_in_part = MsxFile(2);
+    ReplaceMessage(written_in_part, 0, "EDIT");
+    {
+      const FullDisk disk(written_in_part.find(S2Line(0xFF0000 + 160, MsxMessage(1, 10))));
+      desk_->program.Choose("mnuSave");
+    }
+    ExpectNotSaved(SystemReason(EFBIG));
+    QCOMPARE(Slurp(path), written_in_part);
+    desk_->program.Choose("mnuSave");
+    QVERIFY(Status().startsWith(UiText(54)));
+    std::string healed = written_in_part;
+    ReplaceMessage(healed, 200, "EDIT");
+    QCOMPARE(Slurp(path), healed);
+  }
+
+  void ACopyThatFindsNoRoomOnTheDiskLeavesTheFileOpen() {
+    const fs::path path = EditAMessage();
+    desk_->user.Choose(desk_->folder / "COPY.MES");
+    {
+      const FullDisk disk(10);
+      desk_->program.Choose("mnuSaas");
+    }
+    QCOMPARE(desk_->user.boxes().size(), std::size_t{1});
+    QCOMPARE(desk_->user.FirstBox().title, QStringLiteral("ERROR"));
+    QVERIFY(desk_->user.FirstBox().text.contains(QStringLiteral("COPY.MES")));
+    QCOMPARE(desk_->program.window().windowTitle(), QStringLiteral("TEST.MES"));
+    QVERIFY(desk_->Modified());
+    desk_->program.Choose("mnuSave");
+    QCOMPARE(Slurp(path), EditedMes());
+  }
+
+  void SaysThatTheFileIsReadOnly() {
+    const fs::path path = EditAMessage();
+    fs::permissions(path, fs::perms::owner_read | fs::perms::group_read | fs::perms::others_read);
+    {
+      const OrdinaryUser user;
+      if (!user.holds()) {
+        QSKIP("this user may write every file");
+      }
+      desk_->program.Choose("mnuSave");
+    }
+    ExpectNotSaved(SystemReason(EACCES));
+    QCOMPARE(Slurp(path), MesFile().Bytes());
+    fs::permissions(path, fs::perms::owner_all);
+    desk_->program.Choose("mnuSave");
+    QCOMPARE(Slurp(path), EditedMes());
+  }
+
+  void KeepsTheEditsWhenTheFileIsGone() {
+    const fs::path path = EditAMessage();
+    fs::remove(path);
+    desk_->program.Choose("mnuSave");
+    ExpectNotSaved(SystemReason(ENOENT));
+    QVERIFY(!fs::exists(path));
+  }
+
+  void KeepsTheEditsWhenAFolderTookThePlaceOfTheFile() {
+    const fs::path path = EditAMessage();
+    fs::remove(path);
+    fs::create_directory(path);
+    desk_->program.Choose("mnuSave");
+    ExpectNotSaved(SystemReason(EISDIR));
+    fs::remove(path);
+    desk_->folder.Write("TEST.MES", MesFile().Bytes());
+    desk_->program.Choose("mnuSave");
+    QCOMPARE(Slurp(path), EditedMes());
+  }
+
+  // There is nothing that the other languages of the copy could be taken from.
+  void NoCopyIsMadeOfAFileThatIsGone() {
+    fs::remove(EditAMessage());
+    desk_->user.Choose(desk_->folder / "COPY.MES");
+    desk_->program.Choose("mnuSaas");
+    QCOMPARE(desk_->user.FirstBox().title, QStringLiteral("ERROR"));
+    QVERIFY(desk_->user.FirstBox().text.contains(QStringLiteral("TEST.MES")));
+    QCOMPARE(desk_->program.window().windowTitle(), QStringLiteral("TEST.MES"));
+    QCOMPARE(desk_->Text1().text(), QStringLiteral("EDIT"));
+    QVERIFY(desk_->Modified());
+    QCOMPARE(desk_->folder.Names(), std::string("bin"));
+  }
+
+  void WritesNothingIntoAMsxFileThatWasShortened() {
+    const fs::path path = desk_->EditMsx();
+    desk_->Type("EDIT");
+    const std::string whole = MsxFile(2);
+    const std::string shortened =
+        whole.substr(0, whole.find(S2Line(0xFF0000 + 100 * 16, MsxMessage(1, 100))));
+    desk_->folder.Write("TEST.MSX", shortened);
+    desk_->program.Choose("mnuSave");
+    ExpectNotSaved(QStringLiteral("the file ends after line 101:"));
+    QCOMPARE(Slurp(path), shortened);
+    desk_->folder.Write("TEST.MSX", whole);
+    desk_->program.Choose("mnuSave");
+    std::string expected = whole;
+    ReplaceMessage(expected, 0, "EDIT");
+    QCOMPARE(Slurp(path), expected);
+  }
+
+  void WritesNothingIntoAMsxFileWithOtherLineEnds() {
+    std::string content = MsxFile(2);
+    content.erase(std::remove(content.begin(), content.end(), '\r'), content.end());
+    const fs::path path = desk_->Open("TEST.MSX", content);
+    desk_->program.Choose("mnuori(0)");
+    desk_->program.Choose("mnuDes(1)");
+    desk_->Type("EDIT");
+    desk_->program.Choose("mnuSave");
+    ExpectNotSaved(QStringLiteral("line 2 does not end in CR LF"));
+    QCOMPARE(Slurp(path), content);
+  }
+
+  void RestoresTheEndOfItsLanguageInAMesFileThatWasShortened() {
+    const fs::path path = EditAMessage();
+    fs::resize_file(path, MesFile().Bytes().size() - 10);
+    desk_->program.Choose("mnuSave");
+    QVERIFY(Status().startsWith(UiText(54)));
+    QCOMPARE(Slurp(path), EditedMes().substr(0, 24 + MesFile().BlockLength() + 20 + 12));
+  }
+
+  void SaysThatTheFolderIsGone() {
+    const fs::path folder = desk_->folder / "stick";
+    fs::create_directory(folder);
+    desk_->Edit(MesFile());
+    desk_->user.Choose(folder / "A.MES");
+    desk_->program.Choose("mnuSaas");
+    fs::remove_all(folder);
+    desk_->Type("EDIT");
+    desk_->program.Choose("mnuSave");
+    QCOMPARE(desk_->user.LastBox().text, QStringLiteral(" Directory not ready"));
+    QCOMPARE(desk_->user.LastBox().icon, QMessageBox::Critical);
+    ExpectNotSaved(SystemReason(ENOENT));
+  }
+};
+
+}  // namespace vendlingua::test
+
+int main(int argc, char** argv) {
+  return vendlingua::test::RunTest<vendlingua::test::FailedSavesTest>(argc, argv);
+}
+
+#include "failed_saves_test.moc"

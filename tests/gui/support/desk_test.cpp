@@ -1,0 +1,22 @@
+#include "gui/support/desk_test.h"
+
+#include <QLabel>
+#include <QTest>
+
+namespace vendlingua::test {
+
+QString DeskTest::UiText(std::size_t number) const {
+  return QString::fromStdString(desk_->program.workspace().ui_text[number]);
+}
+
+QString DeskTest::Status() const { return desk_->program.Get<QLabel>("Status").toolTip(); }
+
+void DeskTest::init() { desk_ = std::make_unique<Desk>(); }
+
+void DeskTest::cleanup() {
+  const QStringList surprises = desk_->user.Surprises();
+  desk_.reset();
+  QCOMPARE(surprises, QStringList());
+}
+
+}  // namespace vendlingua::test

@@ -1,0 +1,17 @@
+#include "gui/support/full_disk.h"
+
+namespace vendlingua::test {
+
+// The signal would end the process; ignored, it lets the write fail.
+FullDisk::FullDisk(std::size_t bytes) : handler_before_(std::signal(SIGXFSZ, SIG_IGN)) {
+  getrlimit(RLIMIT_FSIZE, &limit_before_);
+  const rlimit limit{bytes, limit_before_.rlim_max};
+  setrlimit(RLIMIT_FSIZE, &limit);
+}
+
+FullDisk::~FullDisk() {
+  setrlimit(RLIMIT_FSIZE, &limit_before_);
+  std::signal(SIGXFSZ, handler_before_);
+}
+
+}  // namespace vendlingua::test
