@@ -1,9 +1,9 @@
 #!/usr/bin/env python3
-"""Measures Vendlingua beside srec_cat and objcopy on the same bytes and writes docs/performance.md.
+"""Measures Vendlingua beside srec_cat and objcopy on the same bytes, and its windows beside Qt Linguist's,
+and writes docs/performance.md.
 
-Every figure is of whole processes: the median of their user + system time and the largest peak memory
-over several runs, the programs taking turns. Build the presets "bench" and "release" first, or let
-scripts/measure.sh do it.
+Figures of conversions are of whole processes: the median of their user + system time and the largest
+peak memory over several runs, the programs taking turns. scripts/measure.sh builds what this needs.
 """
 
 from __future__ import annotations
@@ -19,9 +19,11 @@ import tempfile
 from dataclasses import dataclass
 from pathlib import Path
 
+import measure_windows
+
 ROOT = Path(__file__).resolve().parent.parent
-RELEASE = ROOT / "build/release/bin"
-BENCH = ROOT / "build/bench/bin"
+PROGRAMS = ROOT / "build/bench/bin"
+QT_LINGUIST = "/usr/lib/qt6/bin/linguist"
 MIB = 1 << 20
 
 
@@ -76,7 +78,7 @@ def measure_records(folder: Path) -> str:
     image = folder / "image.bin"
     image.write_bytes(random.Random(1).randbytes(16 * MIB))
     ours, theirs, third, back = (folder / n for n in ("a.srec", "b.srec", "c.srec", "back.bin"))
-    tool = str(BENCH / "srecord_tool")
+    tool = str(PROGRAMS / "srecord_tool")
     written = compare(
         {
             "vendlingua": ([tool, "write", str(image), str(ours)], [ours]),
@@ -106,7 +108,7 @@ def measure_compile(folder: Path) -> str:
     flash, copy, image, theirs = (
         folder / n for n in ("FW0417AB.MHX", "MP0417AA.MSX", "flash.bin", "theirs.srec")
     )
-    command = [str(RELEASE / "vendlingua-cli"), "compile", str(ROOT / "data/samples/FW0417AB.MES")]
+    command = [str(PROGRAMS / "vendlingua-cli"), "compile", str(ROOT / "data/samples/FW0417AB.MES")]
     command += ["--languages", "1,2,3,4,5,6,7,8,9", "--output", str(flash), "--copy", str(copy)]
     run_once(command, [])
     offset = ["-offset", "-0xFF0000"]
@@ -129,7 +131,7 @@ def measure_compile(folder: Path) -> str:
 
 def measure_engine() -> str:
     result = subprocess.run(
-        [str(BENCH / "engine_bench"), "--benchmark_format=json"],
+        [str(PROGRAMS / "engine_bench"), "--benchmark_format=json"],
         capture_output=True,
         check=True,
         text=True,
@@ -148,11 +150,18 @@ def measure_engine() -> str:
 def main() -> None:
     with tempfile.TemporaryDirectory() as name:
         parts = [measure_records(Path(name)), measure_compile(Path(name)), measure_engine()]
+    parts += [
+        measure_windows.measure_starts(
+            {"vendlingua": str(PROGRAMS / "vendlingua"), "Qt Linguist": QT_LINGUIST}
+        ),
+        measure_windows.measure_latency(PROGRAMS / "window_latency"),
+    ]
     head = f"""# Performance
 
 Made by `scripts/measure.sh` in one run on {platform.machine()}, {os.cpu_count()} processors. User + system time of
-whole processes is the median of many runs, the programs taking turns; peak memory is the largest. In the last table the number
-behind WriteSRecords and ReadSRecords is the size of the image in MiB: the time is linear in it.
+whole processes is the median of many runs, the programs taking turns; peak memory is the largest. In the table of one
+process the number behind WriteSRecords and ReadSRecords is the size of the image in MiB: the time is linear in it. The windows
+were measured under Xvfb.
 
 """
     (ROOT / "docs/performance.md").write_text(head + "\n".join(parts), encoding="utf-8")
