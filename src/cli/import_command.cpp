@@ -1,6 +1,6 @@
 #include "cli/commands.h"
-#include "cli/staged_file.h"
 #include "platform/errors.h"
+#include "platform/staged_file.h"
 
 namespace vendlingua::cli {
 namespace {

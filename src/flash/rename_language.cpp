@@ -42,7 +42,7 @@ std::optional<NameField> AskName(const UiText& ui_text, const CompilerState& com
   }
 }
 
-void WriteNames(const Workspace& workspace) {
+void WriteNames(Workspace& workspace) {
   const MessageSet& set = workspace.set;
   const auto& languages = workspace.menus.mnuDes;
   PatchFile file(set.CurrentFileName, PatchFile::IfMissing::kFail);
@@ -53,6 +53,7 @@ void WriteNames(const Workspace& workspace) {
     }
   }
   file.Close();
+  workspace.file_content = ReadFile(set.CurrentFileName);
 }
 
 }  // namespace

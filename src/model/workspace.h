@@ -30,6 +30,8 @@ struct Workspace {
   /// Name of the interface language in use: the base name of its file.
   std::string LanguageName;
   Folders folders;
+  /// The open file as it was last read or written.
+  std::string file_content;
 };
 
 /// Puts the set, the menus and the view back as they were, unless the operation says that it

@@ -2,6 +2,7 @@
 
 #include <optional>
 #include <string_view>
+#include <utility>
 
 #include "msgfiles/mes_file.h"
 #include "msgfiles/msx_file.h"
@@ -81,7 +82,7 @@ bool MessageFileReader::Reload() {
 void MessageFileReader::ReloadMes() {
   MessageSet& set = workspace_.set;
   MenuState& menus = workspace_.menus;
-  const std::string content = ReadFile(set.CurrentFileName);
+  std::string content = ReadFile(set.CurrentFileName);
   const MesHeader header = ParseMesHeader(content);
   ApplyMesHeader(header, set);
   editing_view_.LoadDisplayType(header.DisplayType());
@@ -96,6 +97,7 @@ void MessageFileReader::ReloadMes() {
     Show(menus.mnuNew[k], names[k]);
   }
   EnableLoadedMenus();
+  workspace_.file_content = std::move(content);
 }
 
 bool MessageFileReader::ReloadMsx() {
@@ -110,7 +112,8 @@ bool MessageFileReader::ReloadMsx() {
   set.LangStride = MsxLangStride(set.MemLength);
   editing_view_.LoadDisplayType(configuration.DisplayType());
 
-  const auto names = ReadMsxNames(set, ReadFile(set.CurrentFileName));
+  std::string content = ReadFile(set.CurrentFileName);
+  const auto names = ReadMsxNames(set, content);
   if (!names) {
     dialogs_.MessageBox({MessageIcon::kCritical, " File not managed ! ", "ERROR"});
     return false;
@@ -122,6 +125,7 @@ bool MessageFileReader::ReloadMsx() {
     Show(menus.mnuNew[k], workspace_.ui_text[14] + " " + name);
   }
   EnableLoadedMenus();
+  workspace_.file_content = std::move(content);
   return true;
 }
 

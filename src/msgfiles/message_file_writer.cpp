@@ -35,6 +35,16 @@ std::string OriginBlock(const MessageSet& set) {
   return block;
 }
 
+// A file that was cut by another program: with a patch alone it would be no message file any more.
+void RequireHeader(const MessageSet& set, std::uintmax_t file_size) {
+  if (file_size < kMesHeaderBytes) {
+    throw FileError(set.CurrentFileName,
+                    "has only " + std::to_string(file_size) +
+                        " bytes since it was opened, less than its header: save it under another "
+                        "name");
+  }
+}
+
 // A block that does not hold `LastMsg` + 1 messages would be written over the next language.
 void RefuseToOverwriteNextBlock(const MessageSet& set, std::int64_t file_size) {
   const std::int64_t end = MesMessageOffset(set, set.DestLang, set.MessageCount());
@@ -60,8 +70,10 @@ SaveOutcome MessageFileWriter::Save() {
   std::string& status = workspace_.view.status;
   if (outcome.result == SaveOutcome::kSaved) {
     status = ui_text[54] + " " + PathText(workspace_.set.CurrentFileName);
+    save_failed_ = false;
   } else if (outcome.result == SaveOutcome::kFailed) {
     status = ui_text[55] + " " + outcome.reason;
+    save_failed_ = true;
   }
   return outcome;
 }
@@ -73,19 +85,27 @@ SaveOutcome MessageFileWriter::SaveUnderTrap() {
     if (workspace_.set.DestLang == 0) {
       new_name = AskNewLanguageName();
     }
-    if (workspace_.set.IsMes()) {
-      return workspace_.view.Command1Enabled ? PatchMes(new_name) : WriteNewMes(new_name);
+    SaveOutcome outcome = Write(new_name);
+    if (outcome.result == SaveOutcome::kSaved) {
+      workspace_.file_content = ReadFile(workspace_.set.CurrentFileName);
     }
-    if (workspace_.set.IsMsx()) {
-      return PatchMsx();
-    }
-    return {SaveOutcome::kNothingWritten, ""};
+    return outcome;
   } catch (const FolderNotReadyError& error) {
     dialogs_.MessageBox({MessageIcon::kCritical, " Directory not ready", ""});
     return {SaveOutcome::kFailed, error.what()};
   } catch (const Error& error) {
     return {SaveOutcome::kFailed, error.what()};
   }
+}
+
+SaveOutcome MessageFileWriter::Write(const std::optional<NameField>& new_name) {
+  if (workspace_.set.IsMes()) {
+    return workspace_.view.Command1Enabled ? PatchMes(new_name) : WriteNewMes(new_name);
+  }
+  if (workspace_.set.IsMsx()) {
+    return PatchMsx();
+  }
+  return {SaveOutcome::kNothingWritten, ""};
 }
 
 NameField MessageFileWriter::AskNewLanguageName() {
@@ -223,7 +243,10 @@ void MessageFileWriter::WriteMesBlock(const NameField& name) {
   const std::int64_t block = MesBlockOffset(set, set.DestLang) + 1;
   std::error_code no_such_file;
   const auto file_size = fs::file_size(set.CurrentFileName, no_such_file);
-  RefuseToOverwriteNextBlock(set, no_such_file ? 0 : static_cast<std::int64_t>(file_size));
+  if (!no_such_file) {
+    RequireHeader(set, file_size);
+    RefuseToOverwriteNextBlock(set, static_cast<std::int64_t>(file_size));
+  }
 
   std::string content = name.Bytes();
   for (std::size_t i = 0; i < set.MessageCount(); ++i) {
@@ -257,22 +280,31 @@ SaveOutcome MessageFileWriter::SaveAs() {
   if (path.empty()) {
     return {SaveOutcome::kNothingWritten, ""};
   }
-  std::error_code error;
-  if (path != old_path && !fs::equivalent(old_path, path, error)) {
-    fs::copy_file(old_path, path, fs::copy_options::overwrite_existing, error);
-    if (error) {
-      throw FileError(
-          path, "the file " + PathText(old_path) + " cannot be copied here: " + error.message());
-    }
+  std::error_code not_there;
+  if (!fs::equivalent(old_path, path, not_there)) {
+    WriteFile(path, ContentToCopy());
   }
   set.CurrentFileName = path;
   workspace_.view.caption = PathText(path.filename());
   return Save();
 }
 
+// A file that is gone or shorter than it was is not what the user opened: the copy then begins as
+// the file was.
+std::string MessageFileWriter::ContentToCopy() const {
+  try {
+    std::string content = ReadFile(workspace_.set.CurrentFileName);
+    if (content.size() >= workspace_.file_content.size()) {
+      return content;
+    }
+  } catch (const FileError&) {
+  }
+  return workspace_.file_content;
+}
+
 bool MessageFileWriter::NonSave() {
   MessageSet& set = workspace_.set;
-  if (set.Modified == kFalse) {
+  if (set.Modified == kFalse && !save_failed_) {
     return true;
   }
   const UiText& ui_text = workspace_.ui_text;
@@ -282,6 +314,7 @@ bool MessageFileWriter::NonSave() {
     return Save().result != SaveOutcome::kFailed;
   }
   set.Modified = kFalse;
+  save_failed_ = false;
   return true;
 }
 

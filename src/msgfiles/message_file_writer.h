@@ -31,16 +31,17 @@ class MessageFileWriter {
   /// been opened yet.
   SaveOutcome Save();
 
-  /// Menu File, Save As: copies the open file and saves into the copy. Throws FileError when the
-  /// copy fails; the old file then stays open.
+  /// Menu File, Save As: copies the open file, or what it was when that is gone, and saves into the
+  /// copy. Throws FileError when the copy fails; the old file then stays open.
   SaveOutcome SaveAs();
 
-  /// Offers to save pending changes: Yes saves, No drops the mark. False when the save failed, so
-  /// that the caller stops before the edits are lost.
+  /// Offers to save pending changes, also those of a save that failed: Yes saves, No drops the
+  /// mark. False when the save failed, so that the caller stops before the edits are lost.
   bool NonSave();
 
  private:
   SaveOutcome SaveUnderTrap();
+  SaveOutcome Write(const std::optional<NameField>& new_name);
   NameField AskNewLanguageName();
   bool NameIsTaken(const NameField& name) const;
   std::uint8_t HeaderFlags() const;
@@ -51,11 +52,15 @@ class MessageFileWriter {
   std::uint8_t TakeFreeDestination();
   void WriteMesBlock(const NameField& name);
   SaveOutcome PatchMsx();
+  std::string ContentToCopy() const;
 
   Workspace& workspace_;
   Dialogs& dialogs_;
   EditingView& editing_view_;
   MessageFileReader& reader_;
+  /// A save that fails clears `Modified` like any other; what it should have saved is still asked
+  /// about.
+  bool save_failed_ = false;
 };
 
 }  // namespace vendlingua

@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "platform/errors.h"
+#include "platform/staged_file.h"
 
 namespace vendlingua {
 namespace {
@@ -28,6 +29,31 @@ bool FolderIsMissing(const fs::path& file) {
     throw FolderNotReadyError(file, reason);
   }
   throw FileError(file, reason);
+}
+
+// Errors name `path`, although the bytes go to `written` until they are complete.
+void WritePieces(const fs::path& written, const fs::path& path,
+                 std::initializer_list<std::string_view> pieces) {
+  errno = 0;
+  std::ofstream stream(written, std::ios::binary | std::ios::trunc);
+  if (!stream) {
+    ThrowFileError(path, "cannot be created", errno);
+  }
+  for (const std::string_view piece : pieces) {
+    stream.write(piece.data(), static_cast<std::streamsize>(piece.size()));
+  }
+  stream.close();
+  if (!stream) {
+    ThrowFileError(path, "cannot be written", errno);
+  }
+}
+
+// A file that may only be read is not to be replaced by a new one either.
+void RequireWritable(const fs::path& path) {
+  errno = 0;
+  if (!std::fstream(path, std::ios::binary | std::ios::in | std::ios::out)) {
+    ThrowFileError(path, "cannot be written", errno);
+  }
 }
 
 }  // namespace
@@ -60,17 +86,21 @@ std::string ReadFile(const fs::path& path, std::uint64_t limit) {
 }
 
 void WriteFile(const fs::path& path, std::initializer_list<std::string_view> pieces) {
-  errno = 0;
-  std::ofstream stream(path, std::ios::binary | std::ios::trunc);
-  if (!stream) {
-    ThrowFileError(path, "cannot be created", errno);
-  }
-  for (const std::string_view piece : pieces) {
-    stream.write(piece.data(), static_cast<std::streamsize>(piece.size()));
-  }
-  stream.close();
-  if (!stream) {
-    ThrowFileError(path, "cannot be written", errno);
+  std::error_code not_there;
+  const fs::file_status status = fs::status(path, not_there);
+  if (!fs::exists(status)) {
+    StagedFile staged(path);
+    WritePieces(staged.path(), path, pieces);
+    staged.Commit();
+  } else if (fs::is_regular_file(status)) {
+    RequireWritable(path);
+    StagedFile staged(fs::canonical(path));
+    WritePieces(staged.path(), path, pieces);
+    fs::permissions(staged.path(), status.permissions());
+    staged.Commit();
+  } else {
+    // A device takes its bytes where it is; a folder refuses them.
+    WritePieces(path, path, pieces);
   }
 }
 

@@ -19,7 +19,8 @@ inline constexpr std::uint64_t kMessageFileLimit = 16U << 20U;
 /// is no regular file, cannot be read or is longer than `limit` bytes.
 std::string ReadFile(const std::filesystem::path& path, std::uint64_t limit = kMessageFileLimit);
 
-/// Creates or replaces the file `path` with `pieces`, one behind the other. Throws FileError.
+/// Creates or replaces the file `path` with `pieces`, one behind the other. A file is replaced as a
+/// whole or stays as it was. Throws FileError.
 void WriteFile(const std::filesystem::path& path, std::initializer_list<std::string_view> pieces);
 
 /// Creates or replaces the file `path` with `content`. Throws FileError.

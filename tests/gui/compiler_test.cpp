@@ -4,7 +4,7 @@
 #include <QTabWidget>
 
 #include "gui/support/desk_test.h"
-#include "gui/support/full_disk.h"
+#include "support/full_disk.h"
 
 namespace vendlingua::test {
 

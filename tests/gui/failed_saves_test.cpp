@@ -1,3 +1,4 @@
+#include <QLabel>
 #include <algorithm>
 #include <cerrno>
 #include <filesystem>
@@ -5,7 +6,7 @@
 #include <system_error>
 
 #include "gui/support/desk_test.h"
-#include "gui/support/full_disk.h"
+#include "support/full_disk.h"
 #include "support/ordinary_user.h"
 
 namespace vendlingua::test {
@@ -22,6 +23,8 @@ std::string EditedMes() {
   const MesFile mes;
   return mes.Bytes().replace(24 + mes.BlockLength() + 20, 4, "EDIT");
 }
+
+MesFile TwoLanguages() { return {.names = {"Default", "ITALIANO", "ENGLISH"}}; }
 
 std::string PaddedMessage(std::string text) {
   text.resize(16, ' ');
@@ -56,13 +59,15 @@ class FailedSavesTest : public DeskTest {
     QVERIFY(desk_->program.Entry("mnuSaas").isEnabled());
   }
 
-  void ExpectSavedElsewhere() {
+  void ExpectCopy(const std::string& content) {
     const fs::path copy = desk_->folder / "COPY.MES";
     desk_->user.Choose(copy);
     desk_->program.Choose("mnuSaas");
     QCOMPARE(Status(), UiText(54) + QString::fromStdString(" " + copy.string()));
-    QCOMPARE(Slurp(copy), EditedMes());
+    QCOMPARE(Slurp(copy), content);
   }
+
+  void ExpectSavedElsewhere() { ExpectCopy(EditedMes()); }
 
  private slots:
   void SaysThatTheDiskIsFull() {
@@ -116,16 +121,19 @@ class FailedSavesTest : public DeskTest {
     QCOMPARE(Slurp(path), healed);
   }
 
-  void ACopyThatFindsNoRoomOnTheDiskLeavesTheFileOpen() {
+  void ACopyThatFindsNoRoomOnTheDiskLeavesEveryFileAsItWas() {
     const fs::path path = EditAMessage();
+    desk_->folder.Write("COPY.MES", "an older file");
     desk_->user.Choose(desk_->folder / "COPY.MES");
+    desk_->user.Yes();
     {
       const FullDisk disk(10);
       desk_->program.Choose("mnuSaas");
     }
-    QCOMPARE(desk_->user.boxes().size(), std::size_t{1});
-    QCOMPARE(desk_->user.FirstBox().title, QStringLiteral("ERROR"));
-    QVERIFY(desk_->user.FirstBox().text.contains(QStringLiteral("COPY.MES")));
+    QCOMPARE(desk_->user.LastBox().title, QStringLiteral("ERROR"));
+    QVERIFY(desk_->user.LastBox().text.contains(QStringLiteral("COPY.MES")));
+    QCOMPARE(Slurp(desk_->folder / "COPY.MES"), std::string("an older file"));
+    QCOMPARE(desk_->folder.Names(), std::string("COPY.MES TEST.MES bin"));
     QCOMPARE(desk_->program.window().windowTitle(), QStringLiteral("TEST.MES"));
     QVERIFY(desk_->Modified());
     desk_->program.Choose("mnuSave");
@@ -144,9 +152,7 @@ class FailedSavesTest : public DeskTest {
     }
     ExpectNotSaved(SystemReason(EACCES));
     QCOMPARE(Slurp(path), MesFile().Bytes());
-    fs::permissions(path, fs::perms::owner_all);
-    desk_->program.Choose("mnuSave");
-    QCOMPARE(Slurp(path), EditedMes());
+    ExpectSavedElsewhere();
   }
 
   void KeepsTheEditsWhenTheFileIsGone() {
@@ -155,6 +161,7 @@ class FailedSavesTest : public DeskTest {
     desk_->program.Choose("mnuSave");
     ExpectNotSaved(SystemReason(ENOENT));
     QVERIFY(!fs::exists(path));
+    ExpectSavedElsewhere();
   }
 
   void KeepsTheEditsWhenAFolderTookThePlaceOfTheFile() {
@@ -163,23 +170,58 @@ class FailedSavesTest : public DeskTest {
     fs::create_directory(path);
     desk_->program.Choose("mnuSave");
     ExpectNotSaved(SystemReason(EISDIR));
+    ExpectSavedElsewhere();
+  }
+
+  void AFileThatIsGoneCanBeSavedUnderItsOwnName() {
+    const fs::path path = EditAMessage();
     fs::remove(path);
-    desk_->folder.Write("TEST.MES", MesFile().Bytes());
-    desk_->program.Choose("mnuSave");
+    desk_->user.Choose(path);
+    desk_->program.Choose("mnuSaas");
     QCOMPARE(Slurp(path), EditedMes());
   }
 
-  // There is nothing that the other languages of the copy could be taken from.
-  void NoCopyIsMadeOfAFileThatIsGone() {
+  void ACopyOfAFileThatIsGoneHoldsWhatWasSavedInOtherLanguages() {
+    const MesFile mes = TwoLanguages();
+    const fs::path path = desk_->Edit(mes);
+    desk_->Type("EDIT");
+    desk_->program.Choose("mnuSave");
+    const std::string saved = Slurp(path);
+    desk_->program.Choose("mnuDes(2)");
+    desk_->Type("MORE");
+    fs::remove(path);
+    ExpectCopy(std::string(saved).replace(24 + 2 * mes.BlockLength() + 20, 4, "MORE"));
+    QVERIFY(saved != mes.Bytes());
+  }
+
+  void ACopyOfAFileThatIsGoneHoldsTheNewNamesOfOtherLanguages() {
+    const MesFile mes = TwoLanguages();
+    const fs::path path = desk_->Edit(mes);
+    desk_->program.Choose("mnuMake");
+    desk_->user.Type(QStringLiteral("polski"));
+    desk_->user.Yes();
+    QTest::mouseClick(&desk_->program.GetInCompiler<QLabel>("Label1(2)"), Qt::RightButton);
+    desk_->program.compiler()->close();
+    fs::remove(path);
+    ExpectCopy(mes.Bytes().replace(24 + 2 * mes.BlockLength(), 7, "POLSKI "));
+  }
+
+  void AsksAgainAboutChangesThatCouldNotBeSaved() {
     fs::remove(EditAMessage());
-    desk_->user.Choose(desk_->folder / "COPY.MES");
-    desk_->program.Choose("mnuSaas");
-    QCOMPARE(desk_->user.FirstBox().title, QStringLiteral("ERROR"));
-    QVERIFY(desk_->user.FirstBox().text.contains(QStringLiteral("TEST.MES")));
-    QCOMPARE(desk_->program.window().windowTitle(), QStringLiteral("TEST.MES"));
-    QCOMPARE(desk_->Text1().text(), QStringLiteral("EDIT"));
-    QVERIFY(desk_->Modified());
-    QCOMPARE(desk_->folder.Names(), std::string("bin"));
+    desk_->user.Yes();
+    QVERIFY(!desk_->program.window().close());
+    desk_->user.No();
+    QVERIFY(desk_->program.window().close());
+    QCOMPARE(desk_->user.boxes().size(), std::size_t{2});
+  }
+
+  void WritesNothingIntoAMesFileWhoseHeaderIsGone() {
+    const fs::path path = EditAMessage();
+    fs::resize_file(path, 23);
+    desk_->program.Choose("mnuSave");
+    ExpectNotSaved(QStringLiteral("has only 23 bytes"));
+    QCOMPARE(fs::file_size(path), std::uintmax_t{23});
+    ExpectSavedElsewhere();
   }
 
   void WritesNothingIntoAMsxFileThatWasShortened() {
@@ -192,11 +234,11 @@ class FailedSavesTest : public DeskTest {
     desk_->program.Choose("mnuSave");
     ExpectNotSaved(QStringLiteral("the file ends after line 101:"));
     QCOMPARE(Slurp(path), shortened);
-    desk_->folder.Write("TEST.MSX", whole);
-    desk_->program.Choose("mnuSave");
+    desk_->user.Choose(desk_->folder / "COPY.MSX");
+    desk_->program.Choose("mnuSaas");
     std::string expected = whole;
     ReplaceMessage(expected, 0, "EDIT");
-    QCOMPARE(Slurp(path), expected);
+    QCOMPARE(Slurp(desk_->folder / "COPY.MSX"), expected);
   }
 
   void WritesNothingIntoAMsxFileWithOtherLineEnds() {

@@ -7,6 +7,7 @@
 #include <string>
 
 #include "platform/errors.h"
+#include "support/full_disk.h"
 #include "support/ordinary_user.h"
 #include "support/temporary_folder.h"
 
@@ -55,6 +56,39 @@ TEST_F(Files, AreReplacedWhole) {
   const fs::path file = folder.Write("old.bin", "a long old content");
   WriteFile(file, "new");
   EXPECT_EQ(Slurp(file), "new");
+}
+
+TEST_F(Files, AreReplacedWholeOrNotAtAll) {
+  folder.Write("old.bin", "old content");
+  const test::FullDisk disk(5);
+  EXPECT_THAT(FailureOf([this] { WriteFile(folder / "old.bin", "new content"); }),
+              HasSubstr((folder / "old.bin").string()));
+  EXPECT_EQ(Slurp(folder / "old.bin"), "old content");
+  EXPECT_THROW(WriteFile(folder / "new.bin", "new content"), FileError);
+  EXPECT_EQ(folder.Names(), "old.bin");
+}
+
+TEST_F(Files, KeepTheirModeWhenTheyAreReplaced) {
+  const fs::path file = folder.Write("old.bin", "old");
+  fs::permissions(file, fs::perms::owner_read | fs::perms::owner_write);
+  WriteFile(file, "new");
+  EXPECT_EQ(fs::status(file).permissions(), fs::perms::owner_read | fs::perms::owner_write);
+}
+
+TEST_F(Files, AreReplacedWhereALinkLeads) {
+  folder.Write("old.bin", "old");
+  fs::create_symlink("old.bin", folder / "link.bin");
+  WriteFile(folder / "link.bin", "new");
+  EXPECT_TRUE(fs::is_symlink(folder / "link.bin"));
+  EXPECT_EQ(Slurp(folder / "old.bin"), "new");
+}
+
+TEST_F(Files, ThatAreDevicesTakeTheirBytesWhereTheyAre) {
+  if (!fs::exists("/dev/null")) {
+    GTEST_SKIP() << "needs the device file";
+  }
+  WriteFile("/dev/null", "bytes");
+  EXPECT_TRUE(fs::is_character_file("/dev/null"));
 }
 
 TEST_F(Files, ThatAreMissingAreNamed) {

@@ -1,4 +1,4 @@
-#include "cli/staged_file.h"
+#include "platform/staged_file.h"
 
 #include <random>
 #include <system_error>
@@ -6,7 +6,7 @@
 
 #include "platform/errors.h"
 
-namespace vendlingua::cli {
+namespace vendlingua {
 
 namespace fs = std::filesystem;
 
@@ -14,7 +14,7 @@ StagedFile::StagedFile(fs::path target) : target_(std::move(target)) {
   std::error_code not_there;
   const fs::path folder = target_.has_parent_path() ? target_.parent_path() : fs::path(".");
   if (!fs::is_directory(folder, not_there)) {
-    throw FileError(target_, "cannot be created: its folder is not there");
+    throw FolderNotReadyError(target_, "cannot be created: its folder is not there");
   }
   std::random_device random;
   do {
@@ -37,4 +37,4 @@ void StagedFile::Commit() {
   }
 }
 
-}  // namespace vendlingua::cli
+}  // namespace vendlingua

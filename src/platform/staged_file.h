@@ -1,14 +1,15 @@
-#ifndef VENDLINGUA_CLI_STAGED_FILE_H_
-#define VENDLINGUA_CLI_STAGED_FILE_H_
+#ifndef VENDLINGUA_PLATFORM_STAGED_FILE_H_
+#define VENDLINGUA_PLATFORM_STAGED_FILE_H_
 
 #include <filesystem>
 
-namespace vendlingua::cli {
+namespace vendlingua {
 
-/// A new file that takes its name only when it is complete, so that a command that is refused
-/// half-way leaves neither a piece of a file nor a damaged old one.
+/// A new file that takes its name only when it is complete, so that what fails half-way leaves
+/// neither a piece of a file nor a damaged old one.
 class StagedFile {
  public:
+  /// Throws FolderNotReadyError when the folder of `target` is not there.
   explicit StagedFile(std::filesystem::path target);
   StagedFile(const StagedFile&) = delete;
   StagedFile& operator=(const StagedFile&) = delete;
@@ -25,6 +26,6 @@ class StagedFile {
   std::filesystem::path staging_;
 };
 
-}  // namespace vendlingua::cli
+}  // namespace vendlingua
 
-#endif  // VENDLINGUA_CLI_STAGED_FILE_H_
+#endif  // VENDLINGUA_PLATFORM_STAGED_FILE_H_

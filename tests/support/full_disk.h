@@ -1,5 +1,5 @@
-#ifndef VENDLINGUA_TESTS_GUI_SUPPORT_FULL_DISK_H_
-#define VENDLINGUA_TESTS_GUI_SUPPORT_FULL_DISK_H_
+#ifndef VENDLINGUA_TESTS_SUPPORT_FULL_DISK_H_
+#define VENDLINGUA_TESTS_SUPPORT_FULL_DISK_H_
 
 #include <sys/resource.h>
 
@@ -23,4 +23,4 @@ class FullDisk {
 
 }  // namespace vendlingua::test
 
-#endif  // VENDLINGUA_TESTS_GUI_SUPPORT_FULL_DISK_H_
+#endif  // VENDLINGUA_TESTS_SUPPORT_FULL_DISK_H_

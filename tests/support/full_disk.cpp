@@ -1,4 +1,4 @@
-#include "gui/support/full_disk.h"
+#include "support/full_disk.h"
 
 namespace vendlingua::test {
 
