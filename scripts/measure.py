@@ -111,12 +111,13 @@ def measure_compile(folder: Path) -> str:
     command = [str(PROGRAMS / "vendlingua-cli"), "compile", str(ROOT / "data/samples/FW0417AB.MES")]
     command += ["--languages", "1,2,3,4,5,6,7,8,9", "--output", str(flash), "--copy", str(copy)]
     run_once(command, [])
+    written = [flash, copy, *folder.glob("FW0417AB.[mS]*")]
     offset = ["-offset", "-0xFF0000"]
     to_image = ["srec_cat", str(flash), *offset, "-o", str(image), "-binary"]
     subprocess.run(to_image, check=True, stderr=subprocess.DEVNULL)
     figures = compare(
         {
-            "vendlingua": (command, [flash, copy]),
+            "vendlingua": (command, written),
             "objcopy": (["objcopy", "-I", "binary", "-O", "srec", str(image), str(theirs)], [theirs]),
             "srec_cat": (
                 ["srec_cat", str(image), "-binary", "-o", str(theirs), "-motorola"],
@@ -127,6 +128,11 @@ def measure_compile(folder: Path) -> str:
     )
     size = f"{image.stat().st_size:,} bytes"
     return table(f"Compiling nine languages; the others convert its {size}", figures)
+
+
+def duration(value: float, unit: str) -> str:
+    microseconds = value * {"ns": 1e-3, "us": 1, "ms": 1e3}[unit]
+    return f"{microseconds:.0f} µs" if microseconds < 1000 else f"{microseconds / 1000:.1f} ms"
 
 
 def measure_engine() -> str:
@@ -141,7 +147,7 @@ def measure_engine() -> str:
         rate = bench.get("bytes_per_second")
         name = bench["name"].replace("OpenSample/", "")
         rows.append(
-            f"| {name} | {bench['cpu_time']:.1f} {bench['time_unit']} "
+            f"| {name} | {duration(bench['cpu_time'], bench['time_unit'])} "
             f"| {f'{rate / MIB:.0f} MiB/s' if rate else ''} |"
         )
     return "\n".join(rows) + "\n"

@@ -143,11 +143,17 @@ std::filesystem::path QtDialogs::SaveFile(const FileRequest& request) {
   return Answer(dialog, request);
 }
 
+// Some operations ask for it at every line of a file; nobody sees more than one picture a frame.
 void QtDialogs::LetPendingEventsRun() {
+  constexpr qint64 kFrame = 16;  // milliseconds
+  if (since_events_ran_.isValid() && since_events_ran_.elapsed() < kFrame) {
+    return;
+  }
   if (refresh_) {
     refresh_();
   }
   QApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+  since_events_ran_.start();
 }
 
 void QtDialogs::BeforeDialog() {

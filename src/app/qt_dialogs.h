@@ -1,6 +1,7 @@
 #ifndef VENDLINGUA_APP_QT_DIALOGS_H_
 #define VENDLINGUA_APP_QT_DIALOGS_H_
 
+#include <QElapsedTimer>
 #include <functional>
 
 #include "model/ui_text.h"
@@ -32,6 +33,7 @@ class QtDialogs : public Dialogs {
   std::function<void()> refresh_;
   const UiText* ui_text_ = nullptr;
   int opened_ = 0;
+  QElapsedTimer since_events_ran_;
 };
 
 }  // namespace vendlingua

@@ -1,6 +1,7 @@
 #include "flash/section_files.h"
 
 #include <algorithm>
+#include <span>
 
 #include "msgfiles/hex.h"
 #include "msgfiles/text_lines.h"
@@ -64,10 +65,12 @@ void SectionFiles::StoreRecord(std::string_view line) {
     return;
   }
   NoteSectionUse(count, static_cast<std::int32_t>(address));
-  const std::size_t stored =
-      std::min<std::size_t>(static_cast<std::size_t>(count), memory_picture_.size() - address);
-  for (std::size_t k = 0; k < stored; ++k) {
-    memory_picture_.at(address + k) = static_cast<char>(HexPairOrZero(line, kDataColumn + 2 * k));
+  const auto behind = std::span(memory_picture_).subspan(address);
+  std::size_t column = kDataColumn;
+  const auto stored_bytes = std::min(behind.size(), static_cast<std::size_t>(count));
+  for (char& stored : behind.first(stored_bytes)) {
+    stored = static_cast<char>(HexPairOrZero(line, column));
+    column += 2;
   }
 }
 

@@ -1,9 +1,13 @@
 #include "msgfiles/hex.h"
 
+#include <bit>
+
 namespace vendlingua {
 namespace {
 
 constexpr std::string_view kDigits = "0123456789ABCDEF";
+constexpr std::size_t kMostDigits = 16;
+
 constexpr std::array<std::uint8_t, 256> MakeDigitValues() {
   std::array<std::uint8_t, 256> values{};
   values.fill(kNoHexDigit);
@@ -57,13 +61,25 @@ std::string HexField(std::uint64_t value, std::size_t width) {
 }
 
 std::string Hex(std::uint64_t value, std::size_t least_digits) {
-  std::array<char, 16> digits;
-  std::size_t first = digits.size();
-  do {
-    digits[--first] = kDigits[value & 0xFU];
-    value >>= 4U;
-  } while (value != 0 || digits.size() - first < least_digits);
-  return {digits.data() + first, digits.size() - first};
+  std::string digits(std::max(least_digits, kMostDigits), '0');
+  digits.resize(
+      static_cast<std::size_t>(PutHex(digits.data(), value, least_digits) - digits.data()));
+  return digits;
+}
+
+char* PutHex(char* at, std::uint64_t value, std::size_t least_digits) {
+  constexpr std::size_t kBitsPerDigit = 4;
+  const auto bits = static_cast<std::size_t>(std::bit_width(value));
+  const std::size_t digits = std::max(least_digits, (bits + kBitsPerDigit - 1) / kBitsPerDigit);
+  char* next = at + digits;
+  for (; next - at >= 2; value >>= 2 * kBitsPerDigit) {
+    const HexPair& pair = kHexPairs[value & 0xFFU];
+    next = std::copy_backward(pair.begin(), pair.end(), next);
+  }
+  if (next != at) {
+    *at = kDigits[value & 0xFU];
+  }
+  return at + digits;
 }
 
 void AppendHexByte(std::string& out, std::uint8_t byte) {

@@ -23,6 +23,10 @@ std::string HexField(std::uint64_t value, std::size_t width);
 /// Upper-case digits, as many as the value has but at least `least_digits`.
 std::string Hex(std::uint64_t value, std::size_t least_digits = 1);
 
+/// Puts the digits of Hex() at `at`, where there is room for 16 or `least_digits`, and returns
+/// their end.
+char* PutHex(char* at, std::uint64_t value, std::size_t least_digits);
+
 /// The two upper-case digits of every byte.
 using HexPair = std::array<char, 2>;
 extern const std::array<HexPair, 256> kHexPairs;

@@ -11,27 +11,22 @@ constexpr std::size_t kBytesPerRecord = 16;
 // "S2", count, address, data, checksum, CR LF: usually with 6 digits of address, at most with 16.
 constexpr std::size_t kUsualLineLength = 2 + 2 + 6 + 2 * kBytesPerRecord + 2 + 2;
 constexpr std::size_t kLongestLine = kUsualLineLength - 6 + 16;
-
 constexpr std::size_t AddressBytes(SRecordType type) { return type == SRecordType::kS1 ? 2 : 3; }
-
-std::uint32_t ValueOf(std::string_view hex_digits) {
-  std::uint32_t value = 0;
-  for (const char digit : hex_digits) {
-    value = (value << 4U) | kHexDigitValues[static_cast<unsigned char>(digit)];
-  }
-  return value;
-}
 
 // The bytes of an address as the board's loader sums them: read back from its digits, the first
 // pair, the last pair and, in S2 records, the pair between. An address without padding may have
 // fewer digits or more.
-std::uint32_t AddressSum(std::string_view digits, SRecordType type) {
-  const std::size_t last = digits.size() < 2 ? 0 : digits.size() - 2;
-  std::uint32_t sum = ValueOf(digits.substr(0, 2)) + ValueOf(digits.substr(last));
-  if (type == SRecordType::kS2 && digits.size() > 2) {
-    sum += ValueOf(digits.substr(2, 2));
-  }
-  return sum;
+std::uint32_t AddressSum(std::uint64_t address, std::size_t digits, SRecordType type) {
+  const auto pair_from = [&](std::size_t first) -> std::uint32_t {
+    if (first >= digits) {
+      return 0;
+    }
+    const std::size_t end = std::min(first + 2, digits);
+    const std::uint64_t mask = end - first == 2 ? 0xFF : 0xF;
+    return static_cast<std::uint32_t>((address >> (4 * (digits - end))) & mask);
+  };
+  const std::uint32_t sum = pair_from(0) + pair_from(digits < 2 ? 0 : digits - 2);
+  return type == SRecordType::kS2 ? sum + pair_from(2) : sum;
 }
 
 char* PutText(char* at, std::string_view text) { return std::copy(text.begin(), text.end(), at); }
@@ -41,18 +36,28 @@ char* PutByte(char* at, std::uint8_t byte) {
   return std::copy(digits.begin(), digits.end(), at);
 }
 
-void AppendRecord(std::string& out, SRecordType type, std::string_view address,
-                  std::span<const std::uint8_t> data) {
+// The number of bytes is part of the type, so that the loop of a full record is unrolled.
+template <std::size_t kExtent>
+char* PutData(char* at, std::span<const std::uint8_t, kExtent> data, std::uint32_t& sum) {
+  for (const std::uint8_t byte : data) {
+    at = PutByte(at, byte);
+    sum += byte;
+  }
+  return at;
+}
+
+void AppendRecord(std::string& out, SRecordType type, std::uint64_t address,
+                  std::size_t address_digits, std::span<const std::uint8_t> data) {
   const auto count = static_cast<std::uint8_t>(AddressBytes(type) + 1 + data.size());
-  std::uint32_t sum = count + AddressSum(address, type);
   std::array<char, kLongestLine> line;
   char* end = PutText(line.data(), type == SRecordType::kS1 ? "S1" : "S2");
   end = PutByte(end, count);
-  end = PutText(end, address);
-  for (const std::uint8_t byte : data) {
-    end = PutByte(end, byte);
-    sum += byte;
-  }
+  const char* address_start = end;
+  end = PutHex(end, address, address_digits);
+  std::uint32_t sum =
+      count + AddressSum(address, static_cast<std::size_t>(end - address_start), type);
+  end = data.size() == kBytesPerRecord ? PutData(end, data.first<kBytesPerRecord>(), sum)
+                                       : PutData(end, data, sum);
   end = PutByte(end, SRecordChecksum(sum));
   end = PutText(end, kCrLf);
   out.append(line.data(), end);
@@ -103,8 +108,7 @@ std::string FormatSRecords(std::span<const std::uint8_t> image, std::uint32_t st
   std::string lines;
   lines.reserve((image.size() / kBytesPerRecord + 1) * kUsualLineLength);
   for (std::size_t i = 0; i < image.size(); i += kBytesPerRecord) {
-    const std::string address = Hex(std::uint64_t{start} + i, address_digits);
-    AppendRecord(lines, type, address,
+    AppendRecord(lines, type, std::uint64_t{start} + i, address_digits,
                  image.subspan(i, std::min(kBytesPerRecord, image.size() - i)));
   }
   return lines;

@@ -56,6 +56,25 @@ void RequireWritable(const fs::path& path) {
   }
 }
 
+void CreateFile(const fs::path& path, std::initializer_list<std::string_view> pieces) {
+  try {
+    WritePieces(path, path, pieces);
+  } catch (const FileError&) {
+    std::error_code ignored;
+    fs::remove(path, ignored);
+    throw;
+  }
+}
+
+void ReplaceFile(const fs::path& path, const fs::file_status& status,
+                 std::initializer_list<std::string_view> pieces) {
+  RequireWritable(path);
+  StagedFile staged(fs::is_symlink(path) ? fs::canonical(path) : path);
+  WritePieces(staged.path(), path, pieces);
+  fs::permissions(staged.path(), status.permissions());
+  staged.Commit();
+}
+
 }  // namespace
 
 std::string ReadFile(const fs::path& path, std::uint64_t limit) {
@@ -89,15 +108,9 @@ void WriteFile(const fs::path& path, std::initializer_list<std::string_view> pie
   std::error_code not_there;
   const fs::file_status status = fs::status(path, not_there);
   if (!fs::exists(status)) {
-    StagedFile staged(path);
-    WritePieces(staged.path(), path, pieces);
-    staged.Commit();
+    CreateFile(path, pieces);
   } else if (fs::is_regular_file(status)) {
-    RequireWritable(path);
-    StagedFile staged(fs::canonical(path));
-    WritePieces(staged.path(), path, pieces);
-    fs::permissions(staged.path(), status.permissions());
-    staged.Commit();
+    ReplaceFile(path, status, pieces);
   } else {
     // A device takes its bytes where it is; a folder refuses them.
     WritePieces(path, path, pieces);

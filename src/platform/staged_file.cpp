@@ -25,8 +25,10 @@ StagedFile::StagedFile(fs::path target) : target_(std::move(target)) {
 }
 
 StagedFile::~StagedFile() {
-  std::error_code ignored;
-  fs::remove(staging_, ignored);
+  if (!committed_) {
+    std::error_code ignored;
+    fs::remove(staging_, ignored);
+  }
 }
 
 void StagedFile::Commit() {
@@ -35,6 +37,7 @@ void StagedFile::Commit() {
   if (error) {
     throw FileError(target_, "cannot be written: " + error.message());
   }
+  committed_ = true;
 }
 
 }  // namespace vendlingua

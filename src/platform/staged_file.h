@@ -24,6 +24,7 @@ class StagedFile {
  private:
   std::filesystem::path target_;
   std::filesystem::path staging_;
+  bool committed_ = false;
 };
 
 }  // namespace vendlingua

@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <cstdint>
+#include <filesystem>
 #include <fstream>
 #include <iostream>
 #include <span>
@@ -19,9 +20,9 @@
 namespace vendlingua {
 namespace {
 
-constexpr std::uint64_t kFileLimit = 1U << 30U;
-// Image bytes that are converted at a time, so that memory stays small.
-constexpr std::streamsize kChunk = 1 << 14;
+// Bytes that are read at a time, so that memory stays small. The records of so many image bytes
+// fill whole pages.
+constexpr std::streamsize kChunk = 1 << 17;
 
 void WriteRecords(const char* image_file, const char* records_file) {
   constexpr std::size_t kAddressDigits = 6;
@@ -42,16 +43,14 @@ void WriteRecords(const char* image_file, const char* records_file) {
   }
 }
 
-void ReadRecords(const char* records_file, const char* image_file) {
-  const std::string content = ReadFile(records_file, kFileLimit);
-  std::string image;
-  image.reserve(content.size() / 2);
-  TextLines lines(content);
+// Puts the data of whole record lines where their addresses say.
+void PlaceRecords(std::string_view lines_of_records, std::string& image) {
+  TextLines lines(lines_of_records);
   SRecord record;
   while (const auto line = lines.Next()) {
     ParseSRecord(line->text, record);
     if (!record.ChecksumIsRight()) {
-      throw Error("line " + std::to_string(lines.count()) + ": wrong checksum");
+      throw Error("wrong checksum: " + std::string(line->text));
     }
     if (record.type < '1' || record.type > '3') {
       continue;
@@ -59,6 +58,28 @@ void ReadRecords(const char* records_file, const char* image_file) {
     image.resize(std::max(image.size(), std::size_t{record.address} + record.size));
     std::copy(record.Data().begin(), record.Data().end(),
               image.begin() + static_cast<std::ptrdiff_t>(record.address));
+  }
+}
+
+void ReadRecords(const char* records_file, const char* image_file) {
+  std::ifstream records(records_file, std::ios::binary);
+  std::string image;
+  image.reserve(std::filesystem::file_size(records_file) / 2);  // two digits a byte
+  std::string chunk(kChunk, '\0');
+  std::size_t kept = 0;  // of a line that the last chunk cut
+  while (records) {
+    records.read(chunk.data() + kept, static_cast<std::streamsize>(chunk.size() - kept));
+    const std::string_view read(chunk.data(), kept + static_cast<std::size_t>(records.gcount()));
+    const std::size_t whole = records ? read.rfind('\n') + 1 : read.size();
+    PlaceRecords(read.substr(0, whole), image);
+    kept = read.size() - whole;
+    if (kept == chunk.size()) {
+      throw Error(std::string(records_file) + " has a line that is no record");
+    }
+    std::copy(read.begin() + static_cast<std::ptrdiff_t>(whole), read.end(), chunk.begin());
+  }
+  if (!records.eof()) {
+    throw Error(std::string(records_file) + " cannot be read");
   }
   WriteFile(image_file, image);
 }

@@ -239,7 +239,7 @@ class CompilerTest : public DeskTest {
     desk_->user.Type(QStringLiteral("deutsch"));
     desk_->user.Cancel();
     QTest::mouseClick(&Label1(2), Qt::RightButton);
-    QTest::qWait(20);
+    QApplication::processEvents();
     QVERIFY(desk_->program.compiler() != nullptr);
   }
 

@@ -137,7 +137,7 @@ class Tour {
   }
 
   void Picture(QWidget& window, const char* name) {
-    QTest::qWait(20);
+    QApplication::processEvents();
     char file_name[80];
     std::snprintf(file_name, sizeof file_name, "%02d-%s.png", ++pictures_, name);
     const fs::path file = out_ / file_name;

@@ -22,7 +22,6 @@ void MoveAndRelease(QWindow& window, const QPoint& from, const QPoint& to) {
     QTest::mouseRelease(&window, Qt::LeftButton, Qt::NoModifier, to);
   });
   QTest::mouseMove(&window, from + QPoint(0, 2 * QApplication::startDragDistance()));
-  QTest::qWait(2 * kIntoTheDrag);
 }
 
 void DeliverDrop(const QLabel& character, QLineEdit& edit_box, const QPoint& position) {
@@ -48,7 +47,11 @@ void DragCharacter(QLabel& character, QLineEdit& edit_box, const QPoint& positio
     DeliverDrop(character, edit_box, position);
     QTest::mouseRelease(&window, Qt::LeftButton, Qt::NoModifier, from);
   } else {
+    const QString before = edit_box.text();
     MoveAndRelease(window, from, edit_box.mapTo(form, position));
+    if (!QTest::qWaitFor([&] { return edit_box.text() != before; })) {
+      qFatal("the character that was dragged did not arrive");
+    }
   }
 }
 
