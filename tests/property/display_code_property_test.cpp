@@ -55,7 +55,7 @@ RC_GTEST_PROP(DisplayCodeProperty, AnyTextIsTakenAsItStandsUpToWhatHasNoCode, ()
 RC_GTEST_PROP(DisplayCodeProperty, ACharacterThatHasACodeIsTheOneOfThatCode,
               (std::uint32_t character)) {
   const auto code = ToDisplayCode(static_cast<char32_t>(character));
-  RC_ASSERT(!code || ToUnicode(*code) == static_cast<char32_t>(character));
+  RC_ASSERT((!code || ToUnicode(*code) == static_cast<char32_t>(character)));
 }
 
 }  // namespace

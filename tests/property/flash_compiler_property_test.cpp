@@ -104,7 +104,7 @@ struct Compiled {
 
 RC_GTEST_PROP(FlashCompilerProperty, TheFlashFileDecodesToTheChosenLanguages, ()) {
   const RandomMes file = *CompilableFiles();
-  RC_PRE(Number(file.layout.flags) % 2 == 1 || NamesFit(file));
+  RC_PRE((Number(file.layout.flags) % 2 == 1 || NamesFit(file)));
   const auto languages = AnyLanguages(file);
   const Compiled compiled(file, languages);
   const auto records = test::ParseFileStrictly(test::Slurp(compiled.outcome.written.at(0)));
@@ -114,7 +114,7 @@ RC_GTEST_PROP(FlashCompilerProperty, TheFlashFileDecodesToTheChosenLanguages, ()
 
 RC_GTEST_PROP(FlashCompilerProperty, PlaceholdersReachNoFileThatIsWritten, ()) {
   const RandomMes file = *CompilableFiles();
-  RC_PRE(Number(file.layout.flags) % 2 == 1 || NamesFit(file));
+  RC_PRE((Number(file.layout.flags) % 2 == 1 || NamesFit(file)));
   const Compiled compiled(file, AnyLanguages(file));
   for (const auto& path : compiled.outcome.written) {
     const std::string content = test::Slurp(path);
@@ -131,7 +131,7 @@ RC_GTEST_PROP(FlashCompilerProperty, PlaceholdersReachNoFileThatIsWritten, ()) {
 
 RC_GTEST_PROP(FlashCompilerProperty, TheCopyHoldsTheRecordsOfTheFlashFile, ()) {
   const RandomMes file = *CompilableFiles();
-  RC_PRE(Number(file.layout.flags) % 2 == 1 || NamesFit(file));
+  RC_PRE((Number(file.layout.flags) % 2 == 1 || NamesFit(file)));
   const Compiled compiled(file, AnyLanguages(file));
   const std::string copy = test::Slurp(compiled.outcome.written.at(1));
   const std::size_t header_end = copy.find("\r\n") + 2;

@@ -128,7 +128,7 @@ RC_GTEST_PROP(QuotedTextProperty, AnyLineIsReadByTheStepsOrRefused, ()) {
 RC_GTEST_PROP(QuotedTextProperty, AnyBytesAreReadOrRefused, (const std::string& line)) {
   try {
     const auto text = QuotedText(line);
-    RC_ASSERT(!text || text->size() < line.size());
+    RC_ASSERT((!text || text->size() < line.size()));
   } catch (const Error&) {
     RC_SUCCEED("refused");
   }

@@ -55,7 +55,7 @@ RC_GTEST_PROP(SRecordProperty, EveryRecordVerifiesAndTogetherTheyAreTheImage, ()
   RC_ASSERT(test::ImageOf(records, image.start) == image.bytes);
   for (std::size_t i = 0; i < records.size(); ++i) {
     RC_ASSERT(records[i].type == static_cast<char>(image.type));
-    RC_ASSERT(i + 1 == records.size() || records[i].data.size() == 16U);
+    RC_ASSERT((i + 1 == records.size() || records[i].data.size() == 16U));
   }
 }
 
@@ -67,8 +67,9 @@ RC_GTEST_PROP(SRecordProperty, WhatIsWrittenIsFoundSound, ()) {
 RC_GTEST_PROP(SRecordProperty, AnyOtherDigitIsFound, ()) {
   std::string records = (*RandomImages()).Records();
   const std::size_t position = AnyOf(0, records.size() - 1);
-  RC_PRE(records[position] != '\r' && records[position] != '\n');
-  RC_PRE(position == 0 || records[position - 1] != 'S');
+  RC_PRE((records[position] != '\r' && records[position] != '\n'));
+  // Parentheses, because the macro would look at both sides.
+  RC_PRE((position == 0 || records[position - 1] != 'S'));
   const char other = *rc::gen::distinctFrom(
       rc::gen::elementOf(std::string("0123456789ABCDEFabcdefSXYZ #")), records[position]);
   records[position] = other;
