@@ -104,6 +104,22 @@ def measure_records(folder: Path) -> str:
     return text + "\n" + table("Reading them back, checksums checked", read)
 
 
+def measure_sizes(folder: Path) -> str:
+    tool = str(PROGRAMS / "srecord_tool")
+    image, records, back = (folder / name for name in ("image.bin", "a.srec", "back.bin"))
+    rows = ["| Size of the image | writing | reading |", "|---|---|---|"]
+    for size in (1, 4, 16):
+        image.write_bytes(random.Random(size).randbytes(size * MIB))
+        write = [tool, "write", str(image), str(records)]
+        read = [tool, "read", str(records), str(back)]
+        cpu_ms = [
+            statistics.median(run_once(command, [output]) for _ in range(11))
+            for command, output in ((write, records), (read, back))
+        ]
+        rows.append(f"| {size} MiB | {cpu_ms[0]:.1f} ms | {cpu_ms[1]:.1f} ms |")
+    return "\n".join(rows) + "\n"
+
+
 def measure_compile(folder: Path) -> str:
     flash, copy, image, theirs = (
         folder / n for n in ("FW0417AB.MHX", "MP0417AA.MSX", "flash.bin", "theirs.srec")
@@ -155,7 +171,9 @@ def measure_engine() -> str:
 
 def main() -> None:
     with tempfile.TemporaryDirectory() as name:
-        parts = [measure_records(Path(name)), measure_compile(Path(name)), measure_engine()]
+        folder = Path(name)
+        parts = [measure_records(folder), measure_sizes(folder), measure_compile(folder)]
+    parts.append(measure_engine())
     parts += [
         measure_windows.measure_starts(
             {"vendlingua": str(PROGRAMS / "vendlingua"), "Qt Linguist": QT_LINGUIST}
@@ -165,9 +183,9 @@ def main() -> None:
     head = f"""# Performance
 
 Made by `scripts/measure.sh` in one run on {platform.machine()}, {os.cpu_count()} processors. User + system time of
-whole processes is the median of many runs, the programs taking turns; peak memory is the largest. In the table of one
-process the number behind WriteSRecords and ReadSRecords is the size of the image in MiB: the time is linear in it. The windows
-were measured under Xvfb.
+whole processes is the median of many runs, the programs taking turns; peak memory is the largest. The time grows linearly
+with the size of the image. In the table of one process, where the number is that size in MiB, the largest image pays for
+fresh memory besides. The windows were measured under Xvfb.
 
 """
     (ROOT / "docs/performance.md").write_text(head + "\n".join(parts), encoding="utf-8")
