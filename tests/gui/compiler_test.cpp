@@ -161,7 +161,7 @@ class CompilerTest : public DeskTest {
     QVERIFY(desk_->user.files().back().asks_before_overwriting);
   }
 
-  void ShowsTheHourglassWhileACompilationIsNotOver() {
+  void ShowsTheHourglassOfACompilationThatIsNotOverUntilTheWindowIsOpenedAnew() {
     OpenCompiler();
     Check1(1).click();
     Check1(3).click();
@@ -175,6 +175,11 @@ class CompilerTest : public DeskTest {
     QCOMPARE(desk_->program.compiler()->cursor().shape(), Qt::WaitCursor);
     QCOMPARE(desk_->program.window().cursor().shape(), Qt::WaitCursor);
     desk_->program.compiler()->close();
+    QTRY_VERIFY(desk_->program.compiler() == nullptr);
+    desk_->program.Choose("mnuMake");
+    QVERIFY(Command2().isEnabled());
+    QCOMPARE(desk_->program.compiler()->cursor().shape(), Qt::ArrowCursor);
+    QCOMPARE(desk_->program.window().cursor().shape(), Qt::ArrowCursor);
   }
 
   void ACancelledCompilationEnablesTheButtonsAgain() {

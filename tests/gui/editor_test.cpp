@@ -289,6 +289,14 @@ class EditorTest : public DeskTest {
     QVERIFY(desk_->Modified());
   }
 
+  void CopiesNothingWithoutAnOpenDestination() {
+    desk_->Open("A.MES", MesFile().Bytes());
+    desk_->program.Choose("mnuori(1)");
+    QVERIFY(!desk_->program.Entry("mnuCopy").isEnabled());
+    desk_->program.Choose("mnuDes(1)");
+    QVERIFY(desk_->program.Entry("mnuCopy").isEnabled());
+  }
+
   void AbortingTheCopyMenuChangesNothing() {
     desk_->Edit(MesFile());
     desk_->program.Choose("mnuAbor");
