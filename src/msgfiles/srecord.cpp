@@ -11,6 +11,7 @@ constexpr std::size_t kBytesPerRecord = 16;
 // "S2", count, address, data, checksum, CR LF: usually with 6 digits of address, at most with 16.
 constexpr std::size_t kUsualLineLength = 2 + 2 + 6 + 2 * kBytesPerRecord + 2 + 2;
 constexpr std::size_t kLongestLine = kUsualLineLength - 6 + 16;
+
 constexpr std::size_t AddressBytes(SRecordType type) { return type == SRecordType::kS1 ? 2 : 3; }
 
 // The bytes of an address as the board's loader sums them: read back from its digits, the first

@@ -56,7 +56,7 @@ void RequireWritable(const fs::path& path) {
   }
 }
 
-void CreateFile(const fs::path& path, std::initializer_list<std::string_view> pieces) {
+void WriteNewFile(const fs::path& path, std::initializer_list<std::string_view> pieces) {
   try {
     WritePieces(path, path, pieces);
   } catch (const FileError&) {
@@ -71,7 +71,8 @@ void ReplaceFile(const fs::path& path, const fs::file_status& status,
   RequireWritable(path);
   StagedFile staged(fs::is_symlink(path) ? fs::canonical(path) : path);
   WritePieces(staged.path(), path, pieces);
-  fs::permissions(staged.path(), status.permissions());
+  std::error_code ignored;  // not every file system keeps modes
+  fs::permissions(staged.path(), status.permissions(), ignored);
   staged.Commit();
 }
 
@@ -108,7 +109,7 @@ void WriteFile(const fs::path& path, std::initializer_list<std::string_view> pie
   std::error_code not_there;
   const fs::file_status status = fs::status(path, not_there);
   if (!fs::exists(status)) {
-    CreateFile(path, pieces);
+    WriteNewFile(path, pieces);
   } else if (fs::is_regular_file(status)) {
     ReplaceFile(path, status, pieces);
   } else {
