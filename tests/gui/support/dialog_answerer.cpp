@@ -71,11 +71,18 @@ QStringList DialogAnswerer::Surprises() const {
 // so the answer is given in an event of its own.
 void DialogAnswerer::Poll() {
   auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
-  if (dialog != nullptr && dialog->isVisible() && dialog != in_answer_) {
-    in_answer_ = dialog;
-    QMetaObject::invokeMethod(
-        this, [this, dialog] { AnswerNow(*dialog); }, Qt::QueuedConnection);
+  if (dialog == nullptr || !dialog->isVisible() || in_answer_.contains(dialog)) {
+    return;
   }
+  const QPointer<QDialog> waiting(dialog);
+  in_answer_ += waiting;
+  const auto answer = [this, waiting] {
+    if (waiting) {
+      AnswerNow(*waiting);
+    }
+    in_answer_.removeAll(waiting);
+  };
+  QMetaObject::invokeMethod(this, answer, Qt::QueuedConnection);
 }
 
 void DialogAnswerer::AnswerNow(QDialog& dialog) {
@@ -94,7 +101,6 @@ void DialogAnswerer::AnswerNow(QDialog& dialog) {
       Surprise(dialog);
     }
   }
-  in_answer_ = nullptr;
 }
 
 // Some questions are asked until they have an answer.

@@ -2,8 +2,10 @@
 #define VENDLINGUA_TESTS_GUI_SUPPORT_DIALOG_ANSWERER_H_
 
 #include <QDialog>
+#include <QList>
 #include <QMessageBox>
 #include <QObject>
+#include <QPointer>
 #include <QString>
 #include <QStringList>
 #include <QTimer>
@@ -80,7 +82,8 @@ class DialogAnswerer : public QObject {
   static bool AcceptDialog(QDialog& dialog);
 
   QTimer timer_;
-  QDialog* in_answer_ = nullptr;
+  /// Dialogs that are being answered: one, or one inside another.
+  QList<QPointer<QDialog>> in_answer_;
   std::deque<Answer> answers_;
   std::vector<Box> boxes_;
   std::vector<Input> inputs_;
