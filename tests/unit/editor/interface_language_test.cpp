@@ -221,6 +221,19 @@ TEST_F(InitMenuTest, KeepsTheCaptionsOfTheDesign) {
   EXPECT_EQ(menus_.mnuori[0].caption, "Italiano");
 }
 
+TEST(LanguageFiles, HaveATextOnEveryLineAndEndItWithCrLf) {
+  for (const auto& entry : std::filesystem::directory_iterator(VENDLINGUA_LANGUAGES_FOLDER)) {
+    const std::string content = test::Slurp(entry.path());
+    std::size_t start = 0;
+    for (std::size_t end = 0; (end = content.find('\n', start)) != std::string::npos;
+         start = end + 1) {
+      ASSERT_GT(end, start + 1) << entry.path() << " at byte " << start;
+      ASSERT_EQ(content[end - 1], '\r') << entry.path() << " at byte " << end;
+    }
+    EXPECT_EQ(start, content.size()) << entry.path() << " lacks its last line end";
+  }
+}
+
 TEST(LanguageFiles, CanFollowEachOther) {
   Workspace workspace;
   workspace.folders.program = VENDLINGUA_LANGUAGES_FOLDER;
