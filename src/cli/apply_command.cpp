@@ -5,7 +5,7 @@
 
 #include "cli/commands.h"
 #include "cli/csv_table.h"
-#include "platform/files.h"
+#include "core/platform/files.h"
 
 namespace vendlingua::cli {
 namespace {

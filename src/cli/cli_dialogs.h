@@ -8,7 +8,7 @@
 #include <string>
 #include <vector>
 
-#include "platform/dialogs.h"
+#include "core/platform/dialogs.h"
 
 namespace vendlingua::cli {
 

@@ -6,7 +6,8 @@
 #include <vector>
 
 #include "cli/commands.h"
-#include "msgfiles/answers.h"
+#include "core/operations/answers.h"
+#include "core/version.h"
 
 namespace vendlingua::cli {
 namespace {
@@ -175,7 +176,7 @@ void AddVerify(CLI::App& app, Session& session) {
 ExitStatus RunCommandLine(Session& session, int argc, const char* const* argv) {
   CLI::App app("Edits the display messages of vending machines and compiles them into flash files.",
                "vendlingua-cli");
-  app.set_version_flag("--version", "vendlingua-cli " VENDLINGUA_VERSION);
+  app.set_version_flag("--version", "vendlingua-cli " + std::string(kVersion));
   app.add_flag("--json", session.json_output, "print JSON for programs");
   app.require_subcommand(1);
   app.fallthrough();

@@ -2,12 +2,12 @@
 #include <system_error>
 
 #include "cli/commands.h"
-#include "flash/language_selection.h"
-#include "msgfiles/copy_header.h"
-#include "msgfiles/srecord.h"
-#include "msgfiles/text_lines.h"
-#include "platform/errors.h"
-#include "platform/files.h"
+#include "core/flash/language_selection.h"
+#include "core/formats/copy_header.h"
+#include "core/formats/srecord.h"
+#include "core/formats/text_lines.h"
+#include "core/platform/errors.h"
+#include "core/platform/files.h"
 
 namespace vendlingua::cli {
 namespace {

@@ -1,6 +1,6 @@
 #include "cli/commands.h"
 #include "cli/csv_table.h"
-#include "platform/files.h"
+#include "core/platform/files.h"
 
 namespace vendlingua::cli {
 void RunExport(Session& session, const ExportOptions& options) {

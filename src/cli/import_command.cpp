@@ -1,6 +1,6 @@
 #include "cli/commands.h"
-#include "platform/errors.h"
-#include "platform/staged_file.h"
+#include "core/platform/errors.h"
+#include "core/platform/staged_file.h"
 
 namespace vendlingua::cli {
 namespace {

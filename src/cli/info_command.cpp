@@ -1,7 +1,7 @@
 #include <sstream>
 
 #include "cli/commands.h"
-#include "platform/errors.h"
+#include "core/platform/errors.h"
 
 namespace vendlingua::cli {
 namespace {

@@ -1,5 +1,5 @@
 #include "cli/commands.h"
-#include "platform/errors.h"
+#include "core/platform/errors.h"
 
 namespace vendlingua::cli {
 namespace {

@@ -1,7 +1,7 @@
 #include <iostream>
 
 #include "cli/commands.h"
-#include "msgfiles/hex.h"
+#include "core/formats/hex.h"
 
 namespace vendlingua::cli {
 namespace {

@@ -3,9 +3,9 @@
 #include <iostream>
 #include <system_error>
 
-#include "editor/interface_language.h"
-#include "platform/errors.h"
-#include "platform/executable_folder.h"
+#include "core/operations/interface_language.h"
+#include "core/platform/errors.h"
+#include "core/platform/executable_folder.h"
 
 namespace vendlingua::cli {
 namespace {

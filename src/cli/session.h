@@ -6,8 +6,8 @@
 #include <stdexcept>
 #include <string>
 
-#include "app/engine.h"
 #include "cli/cli_dialogs.h"
+#include "core/engine.h"
 
 namespace vendlingua::cli {
 

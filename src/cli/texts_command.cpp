@@ -1,5 +1,5 @@
 #include "cli/commands.h"
-#include "msgfiles/hex.h"
+#include "core/formats/hex.h"
 
 namespace vendlingua::cli {
 void RunTexts(Session& session, const TextsOptions& options) {

@@ -1,6 +1,6 @@
 #include "cli/commands.h"
-#include "msgfiles/file_check.h"
-#include "platform/errors.h"
+#include "core/formats/file_check.h"
+#include "core/platform/errors.h"
 
 namespace vendlingua::cli {
 namespace {

@@ -5,10 +5,10 @@
 #include <string>
 #include <vector>
 
-#include "app/engine.h"
-#include "flash/language_selection.h"
-#include "msgfiles/srecord.h"
-#include "msgfiles/text_lines.h"
+#include "core/engine.h"
+#include "core/flash/language_selection.h"
+#include "core/formats/srecord.h"
+#include "core/formats/text_lines.h"
 
 namespace vendlingua {
 namespace {

@@ -12,10 +12,10 @@
 #include <string_view>
 #include <vector>
 
-#include "msgfiles/srecord.h"
-#include "msgfiles/text_lines.h"
-#include "platform/errors.h"
-#include "platform/files.h"
+#include "core/formats/srecord.h"
+#include "core/formats/text_lines.h"
+#include "core/platform/errors.h"
+#include "core/platform/files.h"
 
 namespace vendlingua {
 namespace {

@@ -1,8 +1,8 @@
 #include <memory>
 
-#include "flash/language_selection.h"
+#include "core/flash/language_selection.h"
+#include "core/platform/files.h"
 #include "fuzz_support.h"
-#include "platform/files.h"
 
 namespace vendlingua {
 

@@ -8,9 +8,9 @@
 #include <memory>
 #include <vector>
 
-#include "msgfiles/file_check.h"
-#include "platform/errors.h"
-#include "platform/files.h"
+#include "core/formats/file_check.h"
+#include "core/platform/errors.h"
+#include "core/platform/files.h"
 
 namespace vendlingua::fuzz {
 namespace {

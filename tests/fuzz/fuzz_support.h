@@ -11,9 +11,9 @@
 #include <string>
 #include <string_view>
 
-#include "app/engine.h"
-#include "platform/dialogs.h"
-#include "platform/errors.h"
+#include "core/engine.h"
+#include "core/platform/dialogs.h"
+#include "core/platform/errors.h"
 
 namespace vendlingua::fuzz {
 

@@ -1,9 +1,9 @@
 #include <memory>
 
-#include "editor/interface_language.h"
-#include "editor/settings.h"
+#include "core/operations/interface_language.h"
+#include "core/operations/settings.h"
+#include "core/platform/files.h"
 #include "fuzz_support.h"
-#include "platform/files.h"
 
 namespace vendlingua {
 

@@ -7,7 +7,7 @@
 #include <string>
 #include <vector>
 
-#include "msgfiles/copy_header.h"
+#include "core/formats/copy_header.h"
 #include "support/message_files.h"
 
 namespace vendlingua {

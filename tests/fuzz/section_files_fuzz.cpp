@@ -1,8 +1,8 @@
 #include <memory>
 
-#include "flash/section_files.h"
+#include "core/flash/section_files.h"
+#include "core/platform/files.h"
 #include "fuzz_support.h"
-#include "platform/files.h"
 
 namespace vendlingua {
 

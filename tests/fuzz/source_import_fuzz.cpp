@@ -1,7 +1,7 @@
 #include <memory>
 
+#include "core/platform/files.h"
 #include "fuzz_support.h"
-#include "platform/files.h"
 
 namespace vendlingua {
 

@@ -1,7 +1,7 @@
 #include <string_view>
 
+#include "core/formats/srecord_check.h"
 #include "fuzz_support.h"
-#include "msgfiles/srecord_check.h"
 
 namespace vendlingua {
 

@@ -2,7 +2,7 @@
 #include <QMenu>
 #include <QProcess>
 
-#include "app/qt_program_starter.h"
+#include "desktop/qt_program_starter.h"
 #include "gui/support/desk_test.h"
 
 namespace vendlingua::test {

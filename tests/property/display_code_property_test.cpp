@@ -3,7 +3,7 @@
 
 #include <set>
 
-#include "model/display_code.h"
+#include "core/document/display_code.h"
 #include "support/message_files.h"
 
 namespace vendlingua {

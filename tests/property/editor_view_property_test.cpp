@@ -3,7 +3,7 @@
 
 #include <set>
 
-#include "editor/editor_view.h"
+#include "core/operations/editor_view.h"
 #include "random_files.h"
 
 namespace vendlingua {

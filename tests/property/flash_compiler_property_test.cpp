@@ -3,8 +3,8 @@
 
 #include <algorithm>
 
-#include "flash/flash_compiler.h"
-#include "flash/language_selection.h"
+#include "core/flash/flash_compiler.h"
+#include "core/flash/language_selection.h"
 #include "random_files.h"
 #include "strict_srecords.h"
 

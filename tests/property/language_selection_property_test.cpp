@@ -3,7 +3,7 @@
 
 #include <set>
 
-#include "flash/language_selection.h"
+#include "core/flash/language_selection.h"
 #include "random_files.h"
 
 namespace vendlingua {

@@ -12,7 +12,7 @@
 #include <utility>
 #include <vector>
 
-#include "app/engine.h"
+#include "core/engine.h"
 #include "support/message_files.h"
 #include "support/scripted_dialogs.h"
 #include "support/temporary_folder.h"

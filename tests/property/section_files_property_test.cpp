@@ -5,7 +5,7 @@
 #include <map>
 #include <optional>
 
-#include "flash/section_files.h"
+#include "core/flash/section_files.h"
 #include "random_files.h"
 
 namespace vendlingua {

@@ -3,8 +3,8 @@
 
 #include <algorithm>
 
-#include "msgfiles/source_import.h"
-#include "platform/errors.h"
+#include "core/operations/source_import.h"
+#include "core/platform/errors.h"
 #include "random_files.h"
 
 namespace vendlingua {

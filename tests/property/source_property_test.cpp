@@ -5,10 +5,10 @@
 #include <optional>
 #include <stdexcept>
 
-#include "model/message_set.h"
-#include "msgfiles/source_line.h"
-#include "msgfiles/source_parser.h"
-#include "platform/errors.h"
+#include "core/document/message_set.h"
+#include "core/formats/source_line.h"
+#include "core/formats/source_parser.h"
+#include "core/platform/errors.h"
 
 namespace vendlingua {
 namespace {

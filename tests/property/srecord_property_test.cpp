@@ -1,8 +1,8 @@
 #include <gtest/gtest.h>
 #include <rapidcheck/gtest.h>
 
-#include "msgfiles/srecord.h"
-#include "msgfiles/srecord_check.h"
+#include "core/formats/srecord.h"
+#include "core/formats/srecord_check.h"
 #include "random_files.h"
 #include "strict_srecords.h"
 

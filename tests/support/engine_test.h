@@ -8,7 +8,7 @@
 #include <string>
 #include <string_view>
 
-#include "app/engine.h"
+#include "core/engine.h"
 #include "support/message_files.h"
 #include "support/scripted_dialogs.h"
 #include "support/temporary_folder.h"

@@ -6,7 +6,7 @@
 #include <string_view>
 #include <vector>
 
-#include "model/display_code.h"
+#include "core/document/display_code.h"
 
 namespace vendlingua::test {
 

@@ -14,10 +14,10 @@
 #include <string>
 #include <vector>
 
+#include "desktop/qt_path.h"
 #include "gui/support/dialog_answerer.h"
 #include "gui/support/drag.h"
 #include "gui/support/running_program.h"
-#include "platform/qt_path.h"
 #include "support/temporary_folder.h"
 
 namespace vendlingua::test {

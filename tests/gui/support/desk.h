@@ -9,10 +9,10 @@
 #include <string>
 #include <string_view>
 
+#include "core/document/display_code.h"
+#include "desktop/qt_path.h"
 #include "gui/support/dialog_answerer.h"
 #include "gui/support/running_program.h"
-#include "model/display_code.h"
-#include "platform/qt_path.h"
 #include "support/message_files.h"
 #include "support/temporary_folder.h"
 

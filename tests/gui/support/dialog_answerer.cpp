@@ -7,7 +7,7 @@
 #include <QLineEdit>
 #include <utility>
 
-#include "platform/qt_path.h"
+#include "desktop/qt_path.h"
 
 namespace vendlingua::test {
 namespace {

@@ -7,8 +7,8 @@
 #include <QTimer>
 #include <QWindow>
 
-#include "editor/destination_edit.h"
-#include "editor/widget_text.h"
+#include "desktop/fonts/widget_text.h"
+#include "desktop/main_window/destination_edit.h"
 
 namespace vendlingua::test {
 namespace {

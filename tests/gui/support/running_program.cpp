@@ -3,8 +3,8 @@
 #include <QMenu>
 #include <filesystem>
 
-#include "app/qt_font_list.h"
-#include "app/start_up.h"
+#include "core/operations/start_up.h"
+#include "desktop/fonts/qt_font_list.h"
 
 namespace vendlingua::test {
 namespace {

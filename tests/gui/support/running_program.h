@@ -8,13 +8,13 @@
 #include <memory>
 #include <vector>
 
-#include "app/engine.h"
-#include "app/frm_mes.h"
-#include "app/qt_dialogs.h"
-#include "flash/frm_make.h"
-#include "info/frm_info.h"
-#include "platform/font_list.h"
-#include "platform/program_starter.h"
+#include "core/engine.h"
+#include "core/platform/font_list.h"
+#include "core/platform/program_starter.h"
+#include "desktop/compiler/frm_make.h"
+#include "desktop/dialogs/qt_dialogs.h"
+#include "desktop/information/frm_info.h"
+#include "desktop/main_window/frm_mes.h"
 
 namespace vendlingua::test {
 

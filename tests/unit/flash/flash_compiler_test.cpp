@@ -1,14 +1,14 @@
-#include "flash/flash_compiler.h"
+#include "core/flash/flash_compiler.h"
 
 #include <gmock/gmock.h>
 
 #include <functional>
 #include <optional>
 
-#include "app/engine.h"
-#include "flash/language_selection.h"
-#include "msgfiles/file_check.h"
-#include "platform/errors.h"
+#include "core/engine.h"
+#include "core/flash/language_selection.h"
+#include "core/formats/file_check.h"
+#include "core/platform/errors.h"
 #include "support/message_files.h"
 #include "support/same_bytes.h"
 #include "support/scripted_dialogs.h"

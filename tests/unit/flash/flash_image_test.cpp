@@ -1,9 +1,9 @@
-#include "flash/flash_image.h"
+#include "core/flash/flash_image.h"
 
 #include <gmock/gmock.h>
 
-#include "msgfiles/mes_file.h"
-#include "platform/errors.h"
+#include "core/formats/mes_file.h"
+#include "core/platform/errors.h"
 #include "support/message_files.h"
 
 namespace vendlingua {

@@ -1,4 +1,4 @@
-#include "flash/identified_copy.h"
+#include "core/flash/identified_copy.h"
 
 #include <gtest/gtest.h>
 

@@ -6,8 +6,8 @@
 #include <string>
 #include <vector>
 
-#include "app/engine.h"
-#include "msgfiles/srecord.h"
+#include "core/engine.h"
+#include "core/formats/srecord.h"
 #include "support/message_files.h"
 #include "support/scripted_dialogs.h"
 #include "support/temporary_folder.h"

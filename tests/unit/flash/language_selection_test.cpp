@@ -1,4 +1,4 @@
-#include "flash/language_selection.h"
+#include "core/flash/language_selection.h"
 
 #include <gmock/gmock.h>
 

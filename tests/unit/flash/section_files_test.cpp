@@ -1,10 +1,10 @@
-#include "flash/section_files.h"
+#include "core/flash/section_files.h"
 
 #include <gmock/gmock.h>
 
 #include <random>
 
-#include "platform/errors.h"
+#include "core/platform/errors.h"
 #include "support/message_files.h"
 #include "support/scripted_dialogs.h"
 #include "support/temporary_folder.h"

@@ -1,4 +1,4 @@
-#include "platform/errors.h"
+#include "core/platform/errors.h"
 
 #include <gmock/gmock.h>
 

@@ -1,4 +1,4 @@
-#include "platform/files.h"
+#include "core/platform/files.h"
 
 #include <gmock/gmock.h>
 
@@ -6,7 +6,7 @@
 #include <functional>
 #include <string>
 
-#include "platform/errors.h"
+#include "core/platform/errors.h"
 #include "support/full_disk.h"
 #include "support/ordinary_user.h"
 #include "support/temporary_folder.h"

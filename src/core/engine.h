@@ -1,0 +1,47 @@
+#ifndef VENDLINGUA_CORE_ENGINE_H_
+#define VENDLINGUA_CORE_ENGINE_H_
+
+#include "core/document/workspace.h"
+#include "core/flash/compiler_state.h"
+#include "core/flash/flash_compiler.h"
+#include "core/flash/flash_image.h"
+#include "core/flash/section_files.h"
+#include "core/operations/editor_view.h"
+#include "core/operations/languages.h"
+#include "core/operations/message_file_opener.h"
+#include "core/operations/message_file_reader.h"
+#include "core/operations/message_file_writer.h"
+#include "core/operations/source_import.h"
+#include "core/platform/dialogs.h"
+
+namespace vendlingua {
+
+/// The state of one program run and the operations on it, wired together. Every program has one,
+/// made by its main() and handed down by reference.
+struct Engine {
+  explicit Engine(Dialogs& dialogs)
+      : view(workspace),
+        reader(workspace, dialogs, view),
+        writer(workspace, dialogs, view, reader),
+        import(workspace, dialogs, view, reader, writer),
+        opener(workspace, dialogs, reader, writer, import),
+        languages(workspace, dialogs, view, writer),
+        compiler(workspace, dialogs, compiler_state, flash_image, section_files) {}
+
+  Workspace workspace;
+  CompilerState compiler_state;
+  FlashImage flash_image;
+  SectionFiles section_files;
+
+  EditorView view;
+  MessageFileReader reader;
+  MessageFileWriter writer;
+  SourceImport import;
+  MessageFileOpener opener;
+  Languages languages;
+  FlashCompiler compiler;
+};
+
+}  // namespace vendlingua
+
+#endif  // VENDLINGUA_CORE_ENGINE_H_

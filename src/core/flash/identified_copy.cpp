@@ -1,0 +1,88 @@
+#include "core/flash/identified_copy.h"
+
+#include <algorithm>
+
+#include "core/document/display_code.h"
+#include "core/formats/copy_header.h"
+#include "core/formats/hex.h"
+#include "core/platform/errors.h"
+
+namespace vendlingua {
+namespace {
+
+bool IsDecimalDigit(DisplayCode code) { return code >= '0' && code <= '9'; }
+
+// The version of a model 0267 board that is loaded is the one before the file's.
+void StepVersionBack(DisplayCodes& identification) {
+  constexpr std::string_view kSteppedBack = "0267A";
+  constexpr std::string_view kCycle = "ABCD";
+  if (BytesFromCodes(identification).starts_with(kSteppedBack)) {
+    const std::size_t place = kCycle.find(static_cast<char>(identification.back()));
+    if (place != std::string_view::npos) {
+      identification.back() =
+          static_cast<DisplayCode>(kCycle[(place + kCycle.size() - 1) % kCycle.size()]);
+    }
+  }
+}
+
+std::string LowerCase(std::string text) {
+  std::transform(text.begin(), text.end(), text.begin(),
+                 [](char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c + 0x20) : c; });
+  return text;
+}
+
+}  // namespace
+
+std::string HeaderFromFirstRecord(std::string_view first_record) {
+  std::string_view identification;
+  for (std::size_t i = 0; i < first_record.size(); i += 2) {
+    if (first_record.substr(i, 2) == "50") {
+      identification = Columns(first_record, i + 3, kIdentificationDigits);
+      break;
+    }
+  }
+  return CopyHeader(identification, Hex(CopyHeaderChecksum(identification)));
+}
+
+std::optional<std::string> HeaderFromBaseName(std::string_view base_name) {
+  constexpr std::size_t kModelStart = 2;
+  constexpr std::size_t kModelDigits = 4;
+  constexpr std::size_t kIdentificationLength = 6;
+  const CodesFromUtf8 name = ToDisplayCodes(base_name);
+  if (name.codes.size() < kModelStart + kIdentificationLength) {
+    return std::nullopt;
+  }
+  const auto start = name.codes.begin() + kModelStart;
+  DisplayCodes identification(start, start + kIdentificationLength);
+  const auto version = identification.begin() + kModelDigits;
+  if (!std::all_of(identification.begin(), version, IsDecimalDigit)) {
+    return std::nullopt;
+  }
+  std::transform(version, identification.end(), version, ToUpper);
+  StepVersionBack(identification);
+  std::string digits;
+  for (const DisplayCode code : identification) {
+    AppendHexByte(digits, code);
+  }
+  return CopyHeader(digits, HexField(CopyHeaderChecksum(digits), 2));
+}
+
+std::optional<CopyName> CopyNameFor(const std::filesystem::path& flash_file) {
+  const std::string path = PathText(flash_file);
+  const std::string lower_path = LowerCase(path);
+  std::string extension = ".MSX";
+  std::size_t dot = lower_path.find(".mhx");
+  if (dot == std::string::npos) {
+    extension = ".HSX";
+    dot = lower_path.find(".hex");
+  }
+  if (dot == std::string::npos) {
+    return std::nullopt;
+  }
+  const std::string before_dot = path.substr(0, dot);
+  const std::size_t separator = before_dot.find_last_of("/\\");
+  const std::size_t start = separator == std::string::npos ? 0 : separator + 1;
+  return CopyName{before_dot.substr(start), extension};
+}
+
+}  // namespace vendlingua

@@ -1,0 +1,93 @@
+#include "core/formats/hex.h"
+
+#include <bit>
+
+namespace vendlingua {
+namespace {
+
+constexpr std::string_view kDigits = "0123456789ABCDEF";
+constexpr std::size_t kMostDigits = 16;
+
+constexpr std::array<std::uint8_t, 256> MakeDigitValues() {
+  std::array<std::uint8_t, 256> values{};
+  values.fill(kNoHexDigit);
+  for (std::uint8_t value = 0; value < 16; ++value) {
+    const auto digit = static_cast<unsigned char>(kDigits[value]);
+    values[digit] = value;
+    if (value >= 10) {
+      values[digit + 'a' - 'A'] = value;
+    }
+  }
+  return values;
+}
+
+constexpr std::array<HexPair, 256> MakePairs() {
+  std::array<HexPair, 256> pairs{};
+  for (std::size_t byte = 0; byte < pairs.size(); ++byte) {
+    pairs[byte] = {kDigits[byte >> 4U], kDigits[byte & 0xFU]};
+  }
+  return pairs;
+}
+
+}  // namespace
+
+constexpr std::array<HexPair, 256> kHexPairs = MakePairs();
+constexpr std::array<std::uint8_t, 256> kHexDigitValues = MakeDigitValues();
+
+std::optional<std::uint32_t> ParseHex(std::string_view digits) {
+  if (digits.empty() || digits.size() > 8) {
+    return std::nullopt;
+  }
+  std::uint32_t value = 0;
+  for (const char digit : digits) {
+    const std::uint8_t digit_value = kHexDigitValues[static_cast<unsigned char>(digit)];
+    if (digit_value == kNoHexDigit) {
+      return std::nullopt;
+    }
+    value = (value << 4U) | digit_value;
+  }
+  return value;
+}
+
+std::uint32_t HexOrZero(std::string_view digits) { return ParseHex(digits).value_or(0); }
+
+std::string HexField(std::uint64_t value, std::size_t width) {
+  std::string field(width, '0');
+  for (std::size_t i = width; i > 0; --i) {
+    field[i - 1] = kDigits[value & 0xFU];
+    value >>= 4U;
+  }
+  return field;
+}
+
+std::string Hex(std::uint64_t value, std::size_t least_digits) {
+  std::string digits(std::max(least_digits, kMostDigits), '0');
+  digits.resize(
+      static_cast<std::size_t>(PutHex(digits.data(), value, least_digits) - digits.data()));
+  return digits;
+}
+
+char* PutHex(char* at, std::uint64_t value, std::size_t least_digits) {
+  constexpr std::size_t kBitsPerDigit = 4;
+  const auto bits = static_cast<std::size_t>(std::bit_width(value));
+  const std::size_t digits = std::max(least_digits, (bits + kBitsPerDigit - 1) / kBitsPerDigit);
+  char* next = at + digits;
+  for (; next - at >= 2; value >>= 2 * kBitsPerDigit) {
+    const HexPair& pair = kHexPairs[value & 0xFFU];
+    next = std::copy_backward(pair.begin(), pair.end(), next);
+  }
+  if (next != at) {
+    *at = kDigits[value & 0xFU];
+  }
+  return at + digits;
+}
+
+void AppendHexByte(std::string& out, std::uint8_t byte) {
+  out.append(kHexPairs[byte].data(), kHexPairs[byte].size());
+}
+
+std::string_view Columns(std::string_view text, std::size_t column, std::size_t length) {
+  return column <= text.size() ? text.substr(column - 1, length) : std::string_view();
+}
+
+}  // namespace vendlingua

@@ -1,0 +1,73 @@
+#ifndef VENDLINGUA_CORE_FORMATS_MES_FILE_H_
+#define VENDLINGUA_CORE_FORMATS_MES_FILE_H_
+
+#include <array>
+#include <cstddef>
+#include <cstdint>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "core/document/message_set.h"
+
+// The layout of ".MES" files: a header of 24 bytes, then language blocks of `BlockLength` bytes,
+// each a name of 20 bytes and `LangStride` + 1 message slots of `LastCol` + 1 bytes. Block 0 is the
+// reference block "Default". Positions in this file are 0-based offsets.
+
+namespace vendlingua {
+
+inline constexpr std::size_t kMesHeaderBytes = 24;
+/// From this value on the first byte of a file says that it is an assembler source.
+inline constexpr std::uint8_t kFirstSourceByte = 32;
+
+using MessageTexts = std::array<DisplayText, kMaxMessages>;
+
+/// The header fields as they stand in the file.
+struct MesHeader {
+  std::uint8_t lang_count;
+  std::uint8_t last_col;
+  std::uint8_t flags;  ///< 4 x display type + 2 x `HeaderBit1` + `HeaderBit0`
+  std::uint16_t header_count;
+  std::uint16_t last_msg;
+  std::uint32_t mem_start;
+  std::uint32_t mem_length;
+
+  std::size_t DisplayType() const { return (flags & 12U) / 4; }
+};
+
+/// Decodes the first 24 bytes of `content`. Throws Error when there are fewer, or when a field is
+/// not hexadecimal.
+MesHeader ParseMesHeader(std::string_view content);
+
+/// The 24 bytes of a header with the dimensions of `set` and the given flags. Of `MemLength` only
+/// the low 16 bits fit.
+std::string FormatMesHeader(const MessageSet& set, std::uint8_t flags);
+
+/// Takes width, flags, `HeaderCount`, `LastMsg` and memory from a header into the set; not
+/// `LangCount`, which a ".MSX" file does not declare. Throws Error when the set would be wider than
+/// 40 cells or hold more than 513 messages.
+void ApplyDimensions(const MesHeader& header, MessageSet& set);
+
+/// Takes the whole header of a ".MES" file: ApplyDimensions, `LangCount`, and the computed
+/// `LangStride` and `BlockLength`. Throws Error also when `LangCount` is 0.
+void ApplyMesHeader(const MesHeader& header, MessageSet& set);
+
+/// Where block `language` begins. Throws Error when a `BlockLength` that wrapped puts it before the
+/// start of the file.
+std::int64_t MesBlockOffset(const MessageSet& set, int language);
+
+/// The names of blocks 0, 1, 2, ... as captions, up to the end of the file and at most 101.
+std::vector<std::string> ReadMesNames(const MessageSet& set, std::string_view content);
+
+/// Where message `message` of block `language` begins.
+std::int64_t MesMessageOffset(const MessageSet& set, int language, std::size_t message);
+
+/// Reads messages 0 to `LastMsg` of block `language` of `CurrentFileName`. A message that lies
+/// wholly behind the end of the file reads as blanks: the last block of a file ends with the last
+/// message that was saved into it. Throws FileError when the file cannot be read or ends inside a
+/// message.
+void ReadMesTexts(const MessageSet& set, int language, MessageTexts& texts);
+
+}  // namespace vendlingua
+
+#endif  // VENDLINGUA_CORE_FORMATS_MES_FILE_H_

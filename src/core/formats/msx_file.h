@@ -1,0 +1,46 @@
+#ifndef VENDLINGUA_CORE_FORMATS_MSX_FILE_H_
+#define VENDLINGUA_CORE_FORMATS_MSX_FILE_H_
+
+#include <cstddef>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "core/formats/mes_file.h"
+
+// The layout of ".MSX" files: an S0 record that names the firmware, then one S2 record a message,
+// language after language, each language `LangStride` lines. The dimensions are fixed.
+
+namespace vendlingua {
+
+/// Where the data of a record begins ("S2", count, 6-digit address stand before), counted from 1.
+inline constexpr std::size_t kMsxDataColumn = 11;
+/// Languages of a ".MSX" file.
+inline constexpr int kMsxLanguages = 9;
+/// Message lines of one language.
+inline constexpr std::size_t kMsxMessages = 455;
+
+/// The dimensions of every ".MSX" file, laid out like the header of a ".MES" file. The leading
+/// blank stands where that has its `LangCount` and is not used.
+inline constexpr std::string_view kMsxConfiguration =
+    " \x0F"
+    "0300AB01C600FF0000FFF0";
+
+/// The names of languages 1, 2, ... as captions; nothing when the file does not begin with an S0
+/// record or holds an S0 record that names a firmware model other than "0417" and "0405". Throws
+/// FileError when a name record cannot be decoded.
+std::optional<std::vector<std::string>> ReadMsxNames(const MessageSet& set,
+                                                     std::string_view content);
+
+/// Reads messages 0 to `LastMsg` of language `language` (counted from 1) of `CurrentFileName`.
+/// Throws FileError when the file cannot be read, a line is missing or a line holds no message.
+void ReadMsxTexts(const MessageSet& set, int language, MessageTexts& texts);
+
+/// The number of lines before the first message line of `language`; language 0, which a ".MSX" file
+/// does not have, counts as the first.
+std::size_t MsxLinesBefore(const MessageSet& set, int language);
+
+}  // namespace vendlingua
+
+#endif  // VENDLINGUA_CORE_FORMATS_MSX_FILE_H_

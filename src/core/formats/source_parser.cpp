@@ -1,0 +1,117 @@
+#include "core/formats/source_parser.h"
+
+#include <optional>
+
+#include "core/document/message_set.h"
+#include "core/formats/source_line.h"
+#include "core/formats/text_lines.h"
+#include "core/platform/errors.h"
+
+namespace vendlingua {
+namespace {
+
+// A line as it may be quoted in a message: as much of it as a box shows.
+std::string Excerpt(std::string_view line) {
+  constexpr std::size_t kMostCharacters = 60;
+  const bool cut = line.size() > kMostCharacters;
+  return ToUtf8(CodesFromBytes(line.substr(0, kMostCharacters))) + (cut ? "..." : "");
+}
+
+[[noreturn]] void FailAt(std::size_t line_number, const std::string& reason) {
+  throw Error("line " + std::to_string(line_number) + ": " + reason);
+}
+
+bool Contains(std::string_view line, std::string_view word) {
+  return line.find(word) != std::string_view::npos;
+}
+
+class SourceParser {
+ public:
+  explicit SourceParser(std::string_view content) : lines_(content) {}
+
+  std::vector<SourceSection> Parse() {
+    while (const auto line = lines_.Next()) {
+      if (line->HasLoneCarriageReturn()) {
+        FailAt(lines_.count(), "it holds a carriage return that does not end it");
+      }
+      if (Contains(line->text, "ORG") || Contains(line->text, ".SECT")) {
+        if (++directives_ > 1) {
+          EndSection();
+          continue;
+        }
+      }
+      if (!TakeLine(line->text)) {
+        section_.width_error = true;
+        EndSection();
+        return sections_;
+      }
+    }
+    section_.ends_file = true;
+    EndSection();
+    return sections_;
+  }
+
+ private:
+  // False when the line's text is shorter than an earlier one.
+  bool TakeLine(std::string_view line) {
+    if (Contains(line, "MNLING")) {
+      section_.name_labels.push_back(static_cast<std::uint16_t>(section_.texts.size()));
+    }
+    section_.has_sdata = section_.has_sdata || Contains(line, ".SDATA");
+    const std::optional<std::string> text = ReadText(line);
+    if (!text) {
+      return true;
+    }
+    if (text->size() > kMaxWidth) {
+      FailAt(lines_.count(), "the text is " + std::to_string(text->size()) +
+                                 " characters long, at most " + std::to_string(kMaxWidth) +
+                                 " can be edited");
+    }
+    if (text->size() < width_) {
+      return false;
+    }
+    width_ = static_cast<std::uint8_t>(text->size());
+    if (section_.texts.size() == kMaxMessages) {
+      FailAt(lines_.count(), "this is text number " + std::to_string(kMaxMessages + 1) +
+                                 " of its section, at most " + std::to_string(kMaxMessages) +
+                                 " can be edited");
+    }
+    section_.texts.push_back(CodesFromBytes(*text));
+    return true;
+  }
+
+  std::optional<std::string> ReadText(std::string_view line) const {
+    try {
+      return QuotedText(line);
+    } catch (const Error& error) {
+      FailAt(lines_.count(), error.what() + (": " + Excerpt(line)));
+    }
+  }
+
+  void EndSection() {
+    if (width_ == 0 || (section_.texts.empty() && !section_.width_error)) {
+      FailAt(lines_.count(), "the section that ends here holds no quoted text");
+    }
+    section_.width = width_;
+    section_.directives = directives_;
+    sections_.push_back(std::move(section_));
+    section_ = SourceSection();
+    // From here on the width counts as the index of the last column, and the next section starts
+    // from that: its texts may be one cell narrower.
+    --width_;
+  }
+
+  TextLines lines_;
+  std::size_t directives_ = 0;
+  std::uint8_t width_ = 0;
+  SourceSection section_;
+  std::vector<SourceSection> sections_;
+};
+
+}  // namespace
+
+std::vector<SourceSection> ParseSource(std::string_view content) {
+  return SourceParser(content).Parse();
+}
+
+}  // namespace vendlingua

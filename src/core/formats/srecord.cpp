@@ -1,0 +1,160 @@
+#include "core/formats/srecord.h"
+
+#include <algorithm>
+
+#include "core/formats/hex.h"
+
+namespace vendlingua {
+namespace {
+
+constexpr std::size_t kBytesPerRecord = 16;
+// "S2", count, address, data, checksum, CR LF: usually with 6 digits of address, at most with 16.
+constexpr std::size_t kUsualLineLength = 2 + 2 + 6 + 2 * kBytesPerRecord + 2 + 2;
+constexpr std::size_t kLongestLine = kUsualLineLength - 6 + 16;
+
+constexpr std::size_t AddressBytes(SRecordType type) { return type == SRecordType::kS1 ? 2 : 3; }
+
+// The bytes of an address as the board's loader sums them: read back from its digits, the first
+// pair, the last pair and, in S2 records, the pair between. An address without padding may have
+// fewer digits or more.
+std::uint32_t AddressSum(std::uint64_t address, std::size_t digits, SRecordType type) {
+  const auto pair_from = [&](std::size_t first) -> std::uint32_t {
+    if (first >= digits) {
+      return 0;
+    }
+    const std::size_t end = std::min(first + 2, digits);
+    const std::uint64_t mask = end - first == 2 ? 0xFF : 0xF;
+    return static_cast<std::uint32_t>((address >> (4 * (digits - end))) & mask);
+  };
+  const std::uint32_t sum = pair_from(0) + pair_from(digits < 2 ? 0 : digits - 2);
+  return type == SRecordType::kS2 ? sum + pair_from(2) : sum;
+}
+
+char* PutText(char* at, std::string_view text) { return std::copy(text.begin(), text.end(), at); }
+
+char* PutByte(char* at, std::uint8_t byte) {
+  const HexPair& digits = kHexPairs[byte];
+  return std::copy(digits.begin(), digits.end(), at);
+}
+
+// The number of bytes is part of the type, so that the loop of a full record is unrolled.
+template <std::size_t kExtent>
+char* PutData(char* at, std::span<const std::uint8_t, kExtent> data, std::uint32_t& sum) {
+  for (const std::uint8_t byte : data) {
+    at = PutByte(at, byte);
+    sum += byte;
+  }
+  return at;
+}
+
+void AppendRecord(std::string& out, SRecordType type, std::uint64_t address,
+                  std::size_t address_digits, std::span<const std::uint8_t> data) {
+  const auto count = static_cast<std::uint8_t>(AddressBytes(type) + 1 + data.size());
+  std::array<char, kLongestLine> line;
+  char* end = PutText(line.data(), type == SRecordType::kS1 ? "S1" : "S2");
+  end = PutByte(end, count);
+  const char* address_start = end;
+  end = PutHex(end, address, address_digits);
+  std::uint32_t sum =
+      count + AddressSum(address, static_cast<std::size_t>(end - address_start), type);
+  end = data.size() == kBytesPerRecord ? PutData(end, data.first<kBytesPerRecord>(), sum)
+                                       : PutData(end, data, sum);
+  end = PutByte(end, SRecordChecksum(sum));
+  end = PutText(end, kCrLf);
+  out.append(line.data(), end);
+}
+
+// Bytes of address by record type; there is no S4 record.
+std::size_t AddressBytesOf(char type) {
+  constexpr std::array<std::size_t, 10> kAddressBytes = {2, 2, 3, 4, 0, 2, 3, 4, 3, 2};
+  const std::size_t bytes = kAddressBytes[static_cast<std::size_t>(type - '0')];
+  if (bytes == 0) {
+    throw SRecordSyntaxError("is an S4 record, which is not defined");
+  }
+  return bytes;
+}
+
+[[noreturn]] void ThrowForCount(std::string_view line, std::size_t count) {
+  throw SRecordSyntaxError("the count is " + std::to_string(count) + ", but the line holds " +
+                           std::to_string(line.size() < 4 ? 0 : (line.size() - 4) / 2) + " bytes" +
+                           (line.size() % 2 != 0 ? " and a half" : ""));
+}
+
+[[noreturn]] void ThrowForDigits(std::string_view line) {
+  std::size_t pair = 2;
+  while (pair < line.size() && ParseHex(line.substr(pair, 1)) &&
+         ParseHex(line.substr(pair + 1, 1))) {
+    pair += 2;
+  }
+  throw SRecordSyntaxError("column " + std::to_string(pair + 1) + ": \"" +
+                           std::string(Columns(line, pair + 1, 2)) + "\" is no hexadecimal pair");
+}
+
+}  // namespace
+
+SRecordType SRecordTypeFor(std::uint32_t start) {
+  return start <= 0xFFFF ? SRecordType::kS1 : SRecordType::kS2;
+}
+
+std::uint32_t SumOfHexPairs(std::string_view text) {
+  std::uint32_t sum = 0;
+  for (std::size_t i = 0; i < text.size(); i += 2) {
+    sum += HexOrZero(text.substr(i, 2));
+  }
+  return sum;
+}
+
+std::string FormatSRecords(std::span<const std::uint8_t> image, std::uint32_t start,
+                           SRecordType type, std::size_t address_digits) {
+  std::string lines;
+  lines.reserve((image.size() / kBytesPerRecord + 1) * kUsualLineLength);
+  for (std::size_t i = 0; i < image.size(); i += kBytesPerRecord) {
+    AppendRecord(lines, type, std::uint64_t{start} + i, address_digits,
+                 image.subspan(i, std::min(kBytesPerRecord, image.size() - i)));
+  }
+  return lines;
+}
+
+void ParseSRecord(std::string_view line, SRecord& record) {
+  if (line.size() < 2 || line[0] != 'S' || line[1] < '0' || line[1] > '9') {
+    throw SRecordSyntaxError("does not begin with S and a digit");
+  }
+  record.type = line[1];
+  const std::size_t address_bytes = AddressBytesOf(record.type);
+
+  // Digits that are none leave their mark here and are looked for when all have been read.
+  std::uint32_t marks = 0;
+  std::uint32_t sum = 0;
+  std::size_t column = 2;
+  const auto next_byte = [&] {
+    const std::uint32_t high = kHexDigitValues[static_cast<unsigned char>(line[column])];
+    const std::uint32_t low = kHexDigitValues[static_cast<unsigned char>(line[column + 1])];
+    column += 2;
+    marks |= high | low;
+    const std::uint32_t byte = ((high << 4U) | low) & 0xFFU;
+    sum += byte;
+    return static_cast<std::uint8_t>(byte);
+  };
+  const std::size_t count = line.size() >= 4 ? next_byte() : 0;
+  if (marks < kNoHexDigit && (count < address_bytes + 1 || line.size() != 4 + 2 * count)) {
+    ThrowForCount(line, count);
+  }
+  if (marks >= kNoHexDigit) {
+    ThrowForDigits(line);
+  }
+  record.address = 0;
+  for (std::size_t i = 0; i < address_bytes; ++i) {
+    record.address = (record.address << 8U) | next_byte();
+  }
+  record.size = count - address_bytes - 1;
+  for (std::size_t i = 0; i < record.size; ++i) {
+    record.buffer[i] = next_byte();
+  }
+  record.sum = static_cast<std::uint8_t>(sum);
+  record.checksum = next_byte();
+  if (marks >= kNoHexDigit) {
+    ThrowForDigits(line);
+  }
+}
+
+}  // namespace vendlingua

@@ -1,0 +1,66 @@
+#ifndef VENDLINGUA_CORE_FORMATS_SRECORD_H_
+#define VENDLINGUA_CORE_FORMATS_SRECORD_H_
+
+#include <array>
+#include <cstddef>
+#include <cstdint>
+#include <span>
+#include <stdexcept>
+#include <string>
+#include <string_view>
+
+namespace vendlingua {
+
+/// The line end of every S-record file.
+inline constexpr std::string_view kCrLf = "\r\n";
+
+/// Data records of the flash files.
+enum class SRecordType : char { kS1 = '1', kS2 = '2' };
+
+/// S1 (16-bit addresses) for a memory that starts at 0xFFFF or below, S2 (24-bit) for any other.
+/// The start alone decides.
+SRecordType SRecordTypeFor(std::uint32_t start);
+
+/// The checksum of a data record: the ones' complement of the low byte of the sum of its count,
+/// address and data bytes.
+constexpr std::uint8_t SRecordChecksum(std::uint32_t sum) {
+  return static_cast<std::uint8_t>(~sum & 0xFFU);
+}
+
+/// The sum of the bytes that `text` spells as pairs of hexadecimal digits; a pair that is not
+/// hexadecimal counts as 0.
+std::uint32_t SumOfHexPairs(std::string_view text);
+
+/// A memory image as data records of 16 bytes, the last one shorter where the length asks for it,
+/// each ended by CR LF. The first byte has the address `start`. Addresses are written as they come,
+/// without padding: an S1 file that passes 0xFFFF gets five digits.
+std::string FormatSRecords(std::span<const std::uint8_t> image, std::uint32_t start,
+                           SRecordType type, std::size_t address_digits = 1);
+
+/// Why a line is no sound S-record.
+class SRecordSyntaxError : public std::runtime_error {
+ public:
+  using std::runtime_error::runtime_error;
+};
+
+/// One record, decoded.
+struct SRecord {
+  char type = '0';  ///< '0' to '9'
+  std::uint32_t address = 0;
+  std::array<std::uint8_t, 255> buffer{};
+  std::size_t size = 0;       ///< data bytes
+  std::uint8_t checksum = 0;  ///< as written
+  std::uint8_t sum = 0;       ///< low byte of the sum of count, address and data
+
+  std::span<const std::uint8_t> Data() const { return std::span(buffer).first(size); }
+  bool ChecksumIsRight() const { return checksum == SRecordChecksum(sum); }
+};
+
+/// Decodes one line into `record`, which is reused from line to line. Throws SRecordSyntaxError
+/// when it is no S-record or its length is not what its count says; a wrong checksum is not an
+/// error here.
+void ParseSRecord(std::string_view line, SRecord& record);
+
+}  // namespace vendlingua
+
+#endif  // VENDLINGUA_CORE_FORMATS_SRECORD_H_

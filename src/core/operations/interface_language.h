@@ -1,0 +1,39 @@
+#ifndef VENDLINGUA_CORE_OPERATIONS_INTERFACE_LANGUAGE_H_
+#define VENDLINGUA_CORE_OPERATIONS_INTERFACE_LANGUAGE_H_
+
+#include <cstddef>
+#include <string>
+#include <string_view>
+
+#include "core/document/workspace.h"
+#include "core/platform/dialogs.h"
+
+namespace vendlingua {
+
+/// The extension of interface language files: text in Windows-1252, one entry a line.
+inline constexpr std::string_view kLanguageFileExtension = ".lng";
+/// The language file that all others follow.
+inline constexpr std::string_view kReferenceLanguageFile = "italiano.lng";
+
+/// Reads the language file `file_name` of the program's folder into the interface texts, from entry
+/// 1 on. Entries behind its last line keep their texts. Throws FileError.
+void LoadLanguageFile(Workspace& workspace, const std::string& file_name);
+
+/// Whether the file `candidate` can take the place of `current`, both in the program's folder: it
+/// has no fewer lines, and every section mark (";--") of `current` stands on the same line of it.
+/// Loads the candidate on the way, so that after false a good file has to be loaded again. Throws
+/// FileError.
+bool CheckLanguageFile(Workspace& workspace, const std::string& current,
+                       const std::string& candidate);
+
+/// Captions all menus in the interface language.
+void InitMenu(Workspace& workspace);
+
+/// `smnuLingue`(index): changes to another interface language, captions the menus and writes the
+/// settings. A file that does not fit the one in use is refused with a warning. Throws FileError;
+/// when a language file cannot be read, the language in use stays.
+void ChooseInterfaceLanguage(Workspace& workspace, Dialogs& dialogs, std::size_t index);
+
+}  // namespace vendlingua
+
+#endif  // VENDLINGUA_CORE_OPERATIONS_INTERFACE_LANGUAGE_H_

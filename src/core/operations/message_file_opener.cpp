@@ -1,0 +1,89 @@
+#include "core/operations/message_file_opener.h"
+
+#include <algorithm>
+
+#include "core/formats/mes_file.h"
+#include "core/platform/errors.h"
+#include "core/platform/files.h"
+
+namespace vendlingua {
+
+std::string MessageFileType(const std::filesystem::path& path) {
+  std::string name = PathText(path.filename());
+  const std::size_t dot = name.find('.');
+  std::string type = dot == std::string::npos ? "" : name.substr(dot);
+  std::transform(type.begin(), type.end(), type.begin(),
+                 [](char c) { return c >= 'a' && c <= 'z' ? static_cast<char>(c - 0x20) : c; });
+  return type;
+}
+
+bool IsAssemblerSource(const std::filesystem::path& path) {
+  const std::string content = ReadFile(path);
+  if (content.empty()) {
+    throw FileError(path, "the file is empty");
+  }
+  return static_cast<std::uint8_t>(content.front()) >= kFirstSourceByte;
+}
+
+MessageFileOpener::MessageFileOpener(Workspace& workspace, Dialogs& dialogs,
+                                     MessageFileReader& reader, MessageFileWriter& writer,
+                                     SourceImport& import)
+    : workspace_(workspace), dialogs_(dialogs), reader_(reader), writer_(writer), import_(import) {}
+
+OpenOutcome MessageFileOpener::Open() {
+  if (!writer_.NonSave()) {
+    return OpenOutcome::kCancelled;
+  }
+  workspace_.folders.current = workspace_.folders.program;
+  const std::filesystem::path path = AskPath();
+  if (path.empty()) {
+    return OpenOutcome::kCancelled;
+  }
+  return OpenPath(path, MessageFileType(path));
+}
+
+OpenOutcome MessageFileOpener::Import(const std::filesystem::path& path) {
+  if (!IsAssemblerSource(path)) {
+    throw FileError(path, "is a binary message file, not an assembler source");
+  }
+  return OpenPath(path, std::string(kMesType));
+}
+
+OpenOutcome MessageFileOpener::OpenPath(const std::filesystem::path& path,
+                                        const std::string& type) {
+  Rollback rollback(workspace_);
+  workspace_.folders.current = path.parent_path();
+  MessageSet& set = workspace_.set;
+  set.CurrentFileName = path;
+  set.CurrentFileType = type;
+  const std::string title = PathText(path.filename());
+  bool opened = false;
+  if (set.IsMsx()) {
+    opened = reader_.OpenMsxFile(title);
+  } else if (set.IsMes()) {
+    opened = OpenMesFile(title);
+  } else {
+    return OpenOutcome::kCancelled;
+  }
+  rollback.Keep();
+  return opened ? OpenOutcome::kOpened : OpenOutcome::kRefused;
+}
+
+// Empty when nothing was chosen.
+std::filesystem::path MessageFileOpener::AskPath() {
+  const std::filesystem::path path =
+      dialogs_.OpenFile({.purpose = FilePurpose::kOpenMessages,
+                         .initial_name = "",
+                         .default_extension = "",
+                         .filter = "Message(*.MES)|*.MES|Message(*.MSX)|*.MSX",
+                         .folder = workspace_.folders.current});
+  return path == "*.MES" || path == "*.MSX" ? std::filesystem::path() : path;
+}
+
+bool MessageFileOpener::OpenMesFile(const std::string& title) {
+  const bool is_source = IsAssemblerSource(workspace_.set.CurrentFileName);
+  reader_.ResetForMes(title);
+  return is_source ? import_.ImportSource() : reader_.Reload();
+}
+
+}  // namespace vendlingua

@@ -1,0 +1,58 @@
+#ifndef VENDLINGUA_CORE_OPERATIONS_MESSAGE_FILE_OPENER_H_
+#define VENDLINGUA_CORE_OPERATIONS_MESSAGE_FILE_OPENER_H_
+
+#include <filesystem>
+#include <string>
+
+#include "core/document/workspace.h"
+#include "core/operations/message_file_reader.h"
+#include "core/operations/message_file_writer.h"
+#include "core/operations/source_import.h"
+#include "core/platform/dialogs.h"
+
+namespace vendlingua {
+
+/// The type of a message file: its name from the first dot on, in upper case. "TEST.MSX.MES" has
+/// the type ".MSX.MES", which is none.
+std::string MessageFileType(const std::filesystem::path& path);
+
+/// Whether a file that is chosen as ".MES" is an assembler source: its first byte, which is the
+/// number of languages of a binary file, is 32 or more. Throws FileError when it cannot be read or
+/// is empty.
+bool IsAssemblerSource(const std::filesystem::path& path);
+
+/// How File, Open ended.
+enum class OpenOutcome {
+  kOpened,
+  kCancelled,  ///< no file was chosen, or one whose type is not known
+  kRefused,    ///< the user was told why, or stopped an import: no language can be chosen
+};
+
+/// Menu File, Open: one door for ".MSX" files, ".MES" files and assembler sources.
+class MessageFileOpener {
+ public:
+  MessageFileOpener(Workspace& workspace, Dialogs& dialogs, MessageFileReader& reader,
+                    MessageFileWriter& writer, SourceImport& import);
+
+  /// Saves pending changes if the user wants it, asks for a file and opens it. Throws Error when
+  /// the file cannot be opened; everything is then as it was.
+  OpenOutcome Open();
+
+  /// Imports the assembler source `path`, whatever its name. Otherwise as Open.
+  OpenOutcome Import(const std::filesystem::path& path);
+
+ private:
+  std::filesystem::path AskPath();
+  OpenOutcome OpenPath(const std::filesystem::path& path, const std::string& type);
+  bool OpenMesFile(const std::string& title);
+
+  Workspace& workspace_;
+  Dialogs& dialogs_;
+  MessageFileReader& reader_;
+  MessageFileWriter& writer_;
+  SourceImport& import_;
+};
+
+}  // namespace vendlingua
+
+#endif  // VENDLINGUA_CORE_OPERATIONS_MESSAGE_FILE_OPENER_H_

@@ -1,0 +1,321 @@
+#include "core/operations/message_file_writer.h"
+
+#include <string_view>
+#include <system_error>
+
+#include "core/formats/hex.h"
+#include "core/formats/mes_file.h"
+#include "core/formats/msx_file.h"
+#include "core/formats/msx_lines.h"
+#include "core/platform/errors.h"
+#include "core/platform/files.h"
+
+namespace vendlingua {
+namespace {
+
+namespace fs = std::filesystem;
+
+// File positions are counted from 1.
+constexpr std::int64_t kFlagsPosition = 3;
+constexpr std::int64_t kLastMsgPosition = 9;
+constexpr std::string_view kReferenceName = "Default             ";
+
+std::string MessageBytes(const DisplayText& text, std::size_t width) {
+  return BytesFromCodes(text.First(width));
+}
+
+// The origin texts of one language block of a new file. Slots that the set has no text for are
+// blank.
+std::string OriginBlock(const MessageSet& set) {
+  std::string block;
+  for (std::size_t i = 0; i <= set.LangStride; ++i) {
+    block +=
+        MessageBytes(i < set.OriginText.size() ? set.OriginText[i] : DisplayText(), set.Width());
+  }
+  return block;
+}
+
+// A file that was cut by another program: with a patch alone it would be no message file any more.
+void RequireHeader(const MessageSet& set, std::uintmax_t file_size) {
+  if (file_size < kMesHeaderBytes) {
+    throw FileError(set.CurrentFileName,
+                    "has only " + std::to_string(file_size) +
+                        " bytes since it was opened, less than its header: save it under another "
+                        "name");
+  }
+}
+
+// A block that does not hold `LastMsg` + 1 messages would be written over the next language.
+void RefuseToOverwriteNextBlock(const MessageSet& set, std::int64_t file_size) {
+  const std::int64_t end = MesMessageOffset(set, set.DestLang, set.MessageCount());
+  const std::int64_t next = MesBlockOffset(set, set.DestLang + 1);
+  if (end > next && file_size > next) {
+    throw FileError(set.CurrentFileName,
+                    "a language block of " +
+                        std::to_string(static_cast<std::int64_t>(set.BlockLength)) +
+                        " bytes does not hold " + std::to_string(set.MessageCount()) +
+                        " messages: saving would overwrite the next language");
+  }
+}
+
+}  // namespace
+
+MessageFileWriter::MessageFileWriter(Workspace& workspace, Dialogs& dialogs,
+                                     EditingView& editing_view, MessageFileReader& reader)
+    : workspace_(workspace), dialogs_(dialogs), editing_view_(editing_view), reader_(reader) {}
+
+SaveOutcome MessageFileWriter::Save() {
+  SaveOutcome outcome = SaveUnderTrap();
+  const UiText& ui_text = workspace_.ui_text;
+  std::string& status = workspace_.view.status;
+  if (outcome.result == SaveOutcome::kSaved) {
+    status = ui_text[54] + " " + PathText(workspace_.set.CurrentFileName);
+    save_failed_ = false;
+  } else if (outcome.result == SaveOutcome::kFailed) {
+    status = ui_text[55] + " " + outcome.reason;
+    save_failed_ = true;
+  }
+  return outcome;
+}
+
+// One trap for the whole save: only a folder that is not there gets a box.
+SaveOutcome MessageFileWriter::SaveUnderTrap() {
+  try {
+    std::optional<NameField> new_name;
+    if (workspace_.set.DestLang == 0) {
+      new_name = AskNewLanguageName();
+    }
+    SaveOutcome outcome = Write(new_name);
+    if (outcome.result == SaveOutcome::kSaved) {
+      workspace_.file_content = ReadFile(workspace_.set.CurrentFileName);
+    }
+    return outcome;
+  } catch (const FolderNotReadyError& error) {
+    dialogs_.MessageBox({MessageIcon::kCritical, " Directory not ready", ""});
+    return {SaveOutcome::kFailed, error.what()};
+  } catch (const Error& error) {
+    return {SaveOutcome::kFailed, error.what()};
+  }
+}
+
+SaveOutcome MessageFileWriter::Write(const std::optional<NameField>& new_name) {
+  if (workspace_.set.IsMes()) {
+    return workspace_.view.Command1Enabled ? PatchMes(new_name) : WriteNewMes(new_name);
+  }
+  if (workspace_.set.IsMsx()) {
+    return PatchMsx();
+  }
+  return {SaveOutcome::kNothingWritten, ""};
+}
+
+NameField MessageFileWriter::AskNewLanguageName() {
+  const UiText& ui_text = workspace_.ui_text;
+  for (;;) {
+    const std::string answer =
+        dialogs_.InputBox({InputPurpose::kNewLanguageName, ui_text[45], ui_text[46], ""});
+    try {
+      NameField name = NameField::FromAnswer(answer);
+      if (name.IsBlank()) {
+        dialogs_.MessageBox({MessageIcon::kCritical, ui_text[32], ""});
+      } else if (NameIsTaken(name)) {
+        dialogs_.MessageBox({MessageIcon::kExclamation,
+                             ui_text[34] + "\n" + name.PaddedText() + "\n" + ui_text[35], ""});
+      } else {
+        return name;
+      }
+    } catch (const Error& error) {
+      dialogs_.MessageBox({MessageIcon::kCritical, error.what(), "ERROR"});
+    }
+  }
+}
+
+bool MessageFileWriter::NameIsTaken(const NameField& name) const {
+  const auto& destinations = workspace_.menus.mnuDes;
+  for (std::size_t i = 1; i < destinations.size(); ++i) {
+    if (destinations[i].caption == name.Caption()) {
+      return true;
+    }
+  }
+  return false;
+}
+
+// Display type 3, and any type while its menu is disabled, is stored as 0: boards in the field
+// expect the file so.
+std::uint8_t MessageFileWriter::HeaderFlags() const {
+  constexpr std::size_t kStoredTypes = 3;
+  const MenuState& menus = workspace_.menus;
+  std::size_t type = 0;
+  for (std::size_t i = 0; i < kStoredTypes && menus.mnuTLCD.enabled; ++i) {
+    if (menus.mnuLCD[i].checked) {
+      type = i;
+    }
+  }
+  const MessageSet& set = workspace_.set;
+  return static_cast<std::uint8_t>(4 * type + (set.HeaderBit1 != kFalse ? 2U : 0U) +
+                                   (set.HeaderBit0 != kFalse ? 1U : 0U));
+}
+
+// Empty when nothing was chosen.
+fs::path MessageFileWriter::AskSavePath() {
+  const std::string& type = workspace_.set.CurrentFileType;
+  const std::string wildcard = "*" + type;
+  fs::path path = dialogs_.SaveFile({.purpose = FilePurpose::kSaveMessages,
+                                     .initial_name = wildcard,
+                                     .default_extension = type.substr(1),
+                                     .filter = "Message(" + wildcard + ")|" + wildcard,
+                                     .overwrite_prompt = true,
+                                     .folder = workspace_.folders.current});
+  if (path == wildcard) {
+    return {};
+  }
+  if (!path.empty()) {
+    workspace_.folders.current = path.parent_path();
+  }
+  return path;
+}
+
+SaveOutcome MessageFileWriter::WriteNewMes(const std::optional<NameField>& new_name) {
+  MessageSet& set = workspace_.set;
+  const fs::path path = AskSavePath();
+  if (path.empty()) {
+    return {SaveOutcome::kNothingWritten, ""};
+  }
+  set.CurrentFileName = path;
+  workspace_.view.caption = PathText(path.filename());
+  set.Modified = kFalse;
+
+  const std::string origin_block = OriginBlock(set);
+  std::string content = FormatMesHeader(set, HeaderFlags());
+  content += kReferenceName;
+  content += origin_block;
+  if (new_name) {
+    content += new_name->Bytes();
+  }
+  content += origin_block;
+  PatchFile file(path, PatchFile::IfMissing::kCreate);
+  file.WriteAt(1, content);
+  file.Close();
+
+  workspace_.menus.mnuDes[0].visible = true;
+  workspace_.menus.mnuDes[1].visible = true;
+  return {};
+}
+
+SaveOutcome MessageFileWriter::PatchMes(const std::optional<NameField>& new_name) {
+  MessageSet& set = workspace_.set;
+  auto& destinations = workspace_.menus.mnuDes;
+  editing_view_.StoreCurrentMessage();
+  if (new_name) {
+    set.DestLang = TakeFreeDestination();
+    destinations[set.DestLang].visible = true;
+  }
+  try {
+    WriteMesBlock(new_name ? *new_name
+                           : NameField::FromCaption(destinations[set.DestLang].caption));
+  } catch (const Error&) {
+    // The language is not in the file: it stays a new one, which the next save names again.
+    if (new_name) {
+      destinations[set.DestLang].visible = false;
+      set.DestLang = 0;
+    }
+    throw;
+  }
+  if (new_name && workspace_.menus.mnuDest.enabled) {
+    reader_.Reload();
+  }
+  return {};
+}
+
+std::uint8_t MessageFileWriter::TakeFreeDestination() {
+  const auto& destinations = workspace_.menus.mnuDes;
+  for (std::size_t k = 1; k < destinations.size(); ++k) {
+    if (!destinations[k].visible) {
+      return static_cast<std::uint8_t>(k);
+    }
+  }
+  throw FileError(workspace_.set.CurrentFileName, "the file already holds 100 languages");
+}
+
+void MessageFileWriter::WriteMesBlock(const NameField& name) {
+  MessageSet& set = workspace_.set;
+  set.Modified = kFalse;
+  set.BlockLength = MesBlockLength(set.LastCol, set.LangStride);
+  const std::int64_t block = MesBlockOffset(set, set.DestLang) + 1;
+  std::error_code no_such_file;
+  const auto file_size = fs::file_size(set.CurrentFileName, no_such_file);
+  if (!no_such_file) {
+    RequireHeader(set, file_size);
+    RefuseToOverwriteNextBlock(set, static_cast<std::int64_t>(file_size));
+  }
+
+  std::string content = name.Bytes();
+  for (std::size_t i = 0; i < set.MessageCount(); ++i) {
+    content += MessageBytes(set.DestText[i], set.Width());
+  }
+  PatchFile file(set.CurrentFileName, PatchFile::IfMissing::kFail);
+  file.WriteAt(kFlagsPosition, HexField(HeaderFlags(), 2));
+  file.WriteAt(kLastMsgPosition, HexField(set.LastMsg, 4));
+  file.WriteAt(block, content);
+  file.Close();
+}
+
+SaveOutcome MessageFileWriter::PatchMsx() {
+  MessageSet& set = workspace_.set;
+  editing_view_.StoreCurrentMessage();
+  set.Modified = kFalse;
+  const MsxLines lines = BuildMsxLines(set, ReadFile(set.CurrentFileName));
+  PatchFile file(set.CurrentFileName, PatchFile::IfMissing::kFail);
+  file.WriteAt(lines.position, lines.content);
+  file.Close();
+  return {};
+}
+
+SaveOutcome MessageFileWriter::SaveAs() {
+  MessageSet& set = workspace_.set;
+  if (!set.IsMes() && !set.IsMsx()) {
+    throw Error("No message file is open: open one before saving it under another name.");
+  }
+  const fs::path old_path = set.CurrentFileName;
+  const fs::path path = AskSavePath();
+  if (path.empty()) {
+    return {SaveOutcome::kNothingWritten, ""};
+  }
+  std::error_code not_there;
+  if (!fs::equivalent(old_path, path, not_there)) {
+    WriteFile(path, ContentToCopy());
+  }
+  set.CurrentFileName = path;
+  workspace_.view.caption = PathText(path.filename());
+  return Save();
+}
+
+// A file that is gone or shorter than it was is not what the user opened: the copy then begins as
+// the file was.
+std::string MessageFileWriter::ContentToCopy() const {
+  try {
+    std::string content = ReadFile(workspace_.set.CurrentFileName);
+    if (content.size() >= workspace_.file_content.size()) {
+      return content;
+    }
+  } catch (const FileError&) {
+  }
+  return workspace_.file_content;
+}
+
+bool MessageFileWriter::NonSave() {
+  MessageSet& set = workspace_.set;
+  if (set.Modified == kFalse && !save_failed_) {
+    return true;
+  }
+  const UiText& ui_text = workspace_.ui_text;
+  const MessageAnswer answer = dialogs_.MessageBox(
+      {MessageIcon::kQuestion, ui_text[43], ui_text[42], MessageButtons::kYesNo});
+  if (answer == MessageAnswer::kYes) {
+    return Save().result != SaveOutcome::kFailed;
+  }
+  set.Modified = kFalse;
+  save_failed_ = false;
+  return true;
+}
+
+}  // namespace vendlingua

@@ -1,0 +1,114 @@
+#include "core/operations/start_up.h"
+
+#include <algorithm>
+#include <array>
+#include <filesystem>
+#include <string_view>
+#include <system_error>
+#include <utility>
+#include <vector>
+
+#include "core/operations/interface_language.h"
+#include "core/operations/settings.h"
+#include "core/platform/errors.h"
+
+namespace vendlingua {
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr std::array<std::string_view, kDisplayTypes> kFontNames = {"LCD", "LCD_CY", "LCD KTV",
+                                                                    "LCD HBR"};
+
+std::string UpperCase(std::string text) {
+  std::transform(text.begin(), text.end(), text.begin(),
+                 [](char c) { return c >= 'a' && c <= 'z' ? static_cast<char>(c - 0x20) : c; });
+  return text;
+}
+
+// The names of the interface language files in `folder`, less their extension, in alphabetical
+// order without regard to case.
+std::vector<std::string> LanguageNames(const fs::path& folder) {
+  std::vector<std::string> names;
+  std::error_code error;
+  for (const auto& entry : fs::directory_iterator(folder, error)) {
+    if (entry.path().extension() == kLanguageFileExtension) {
+      names.push_back(PathText(entry.path().stem()));
+    }
+  }
+  std::sort(names.begin(), names.end(), [](const std::string& a, const std::string& b) {
+    return std::pair(UpperCase(a), a) < std::pair(UpperCase(b), b);
+  });
+  return names;
+}
+
+}  // namespace
+
+int FontMask(std::span<const std::string> families) {
+  int mask = 0;
+  for (const std::string& family : families) {
+    const auto* found = std::find(kFontNames.begin(), kFontNames.end(), UpperCase(family));
+    if (found != kFontNames.end()) {
+      mask |= 1 << (found - kFontNames.begin());
+    }
+  }
+  return mask;
+}
+
+StartUp::StartUp(Workspace& workspace, Dialogs& dialogs, const FontList& fonts)
+    : workspace_(workspace), dialogs_(dialogs), fonts_(fonts) {}
+
+bool StartUp::Form_Load() try {
+  Folders& folders = workspace_.folders;
+  folders.current = folders.program;
+  if (LanguageNames(folders.program).empty()) {
+    ReportMissingFile();
+    return false;
+  }
+  LoadLanguageFile(workspace_, std::string(kReferenceLanguageFile));
+  if (FontMask(fonts_.Families()) != kAllDisplayFonts) {
+    const UiText& ui_text = workspace_.ui_text;
+    dialogs_.MessageBox({MessageIcon::kCritical, ui_text[28] + "\n" + ui_text[41], ui_text[29]});
+    return false;
+  }
+  folders.current = folders.program;
+  ReadSettings(workspace_);
+  if (!CeckLingue()) {
+    return false;
+  }
+  InitMenu(workspace_);
+  workspace_.view.caption = kApplicationTitle;
+  return true;
+} catch (const Error& error) {
+  dialogs_.MessageBox({MessageIcon::kCritical, error.what(), "ERROR"});
+  return false;
+}
+
+bool StartUp::CeckLingue() {
+  const std::vector<std::string> names = LanguageNames(workspace_.folders.current);
+  if (names.empty()) {
+    ReportMissingFile();
+    return false;
+  }
+  auto& entries = workspace_.menus.smnuLingue;
+  for (std::size_t i = 0; i < std::min(names.size(), entries.size()); ++i) {
+    entries[i].caption = names[i];
+    entries[i].visible = true;
+  }
+  std::string& language = workspace_.LanguageName;
+  auto chosen = std::find_if(entries.begin(), entries.end(),
+                             [&](const MenuEntry& entry) { return entry.caption == language; });
+  if (language.empty() || chosen >= entries.end() - 1) {
+    chosen = entries.begin();
+  }
+  LoadLanguageFile(workspace_, chosen->caption + std::string(kLanguageFileExtension));
+  chosen->checked = true;
+  language = chosen->caption;
+  return true;
+}
+
+void StartUp::ReportMissingFile() {
+  dialogs_.MessageBox({MessageIcon::kCritical, "File missing!\nReinstall program", "Error"});
+}
+
+}  // namespace vendlingua

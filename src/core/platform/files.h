@@ -1,0 +1,55 @@
+#ifndef VENDLINGUA_CORE_PLATFORM_FILES_H_
+#define VENDLINGUA_CORE_PLATFORM_FILES_H_
+
+#include <cstddef>
+#include <cstdint>
+#include <filesystem>
+#include <fstream>
+#include <initializer_list>
+#include <string>
+#include <string_view>
+
+namespace vendlingua {
+
+/// What a message file, a source or a language file may at most hold. The largest of them, a ".MES"
+/// file with 101 blocks of 32,767 bytes, stays below 4 MiB.
+inline constexpr std::uint64_t kMessageFileLimit = 16U << 20U;
+
+/// The whole content of the regular file `path`, byte by byte. Throws FileError when it is missing,
+/// is no regular file, cannot be read or is longer than `limit` bytes.
+std::string ReadFile(const std::filesystem::path& path, std::uint64_t limit = kMessageFileLimit);
+
+/// Creates or replaces the file `path` with `pieces`, one behind the other. A file is replaced as a
+/// whole or stays as it was. Throws FileError.
+void WriteFile(const std::filesystem::path& path, std::initializer_list<std::string_view> pieces);
+
+/// Creates or replaces the file `path` with `content`. Throws FileError.
+inline void WriteFile(const std::filesystem::path& path, std::string_view content) {
+  WriteFile(path, {content});
+}
+
+/// A file that is changed in place: opened without truncation, bytes that are not written keep
+/// their values. Every operation throws FileError when it fails, FolderNotReadyError when the
+/// folder is gone.
+class PatchFile {
+ public:
+  enum class IfMissing { kFail, kCreate };
+
+  PatchFile(std::filesystem::path path, IfMissing if_missing);
+
+  /// Writes `bytes` from `position` on, counted from 1. A gap behind the old end is filled with 0.
+  void WriteAt(std::int64_t position, std::string_view bytes);
+
+  /// Hands everything to the system; only then has the patch succeeded.
+  void Close();
+
+ private:
+  [[noreturn]] void Fail(const std::string& action) const;
+
+  std::filesystem::path path_;
+  std::fstream stream_;
+};
+
+}  // namespace vendlingua
+
+#endif  // VENDLINGUA_CORE_PLATFORM_FILES_H_

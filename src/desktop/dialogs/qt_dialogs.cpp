@@ -1,0 +1,171 @@
+#include "desktop/dialogs/qt_dialogs.h"
+
+#include <QApplication>
+#include <QFileDialog>
+#include <QInputDialog>
+#include <QKeyEvent>
+#include <QMessageBox>
+#include <QPushButton>
+#include <utility>
+
+#include "desktop/qt_path.h"
+#include "desktop/qt_text.h"
+
+namespace vendlingua {
+namespace {
+
+// Entries of the interface texts.
+constexpr std::size_t kYes = 62;
+constexpr std::size_t kNo = 63;
+constexpr std::size_t kCancel = 64;
+
+QMessageBox::Icon IconOf(MessageIcon icon) {
+  switch (icon) {
+    case MessageIcon::kCritical:
+      return QMessageBox::Critical;
+    case MessageIcon::kExclamation:
+      return QMessageBox::Warning;
+    case MessageIcon::kQuestion:
+      return QMessageBox::Question;
+    case MessageIcon::kInformation:
+      break;
+  }
+  return QMessageBox::Information;
+}
+
+// A question is answered by its buttons alone: were the Escape key a No, it would drop edits.
+class Box : public QMessageBox {
+ public:
+  Box(bool question, QWidget* parent) : QMessageBox(parent), question_(question) {}
+
+ protected:
+  void keyPressEvent(QKeyEvent* event) override {
+    if (!question_ || event->key() != Qt::Key_Escape) {
+      QMessageBox::keyPressEvent(event);
+    }
+  }
+
+  void closeEvent(QCloseEvent* event) override {
+    if (question_) {
+      event->ignore();
+    } else {
+      QMessageBox::closeEvent(event);
+    }
+  }
+
+ private:
+  bool question_;
+};
+
+// "Caption|*.EXT|Caption|*.EXT" as the filters of a Qt dialog. Some desktops mind the case.
+QStringList NameFilters(const std::string& filter) {
+  const QStringList parts = FromUtf8(filter).split(QLatin1Char('|'));
+  QStringList filters;
+  for (qsizetype i = 0; i + 1 < parts.size(); i += 2) {
+    const QString caption = parts[i].section(QLatin1Char('('), 0, 0);
+    const QString& pattern = parts[i + 1];
+    filters += caption + QStringLiteral(" (%1 %2)").arg(pattern, pattern.toLower());
+  }
+  return filters;
+}
+
+void Prepare(QFileDialog& dialog, const FileRequest& request) {
+  dialog.setNameFilters(NameFilters(request.filter));
+  dialog.setDirectory(ToQString(request.folder));
+  dialog.setDefaultSuffix(FromUtf8(request.default_extension));
+  dialog.setOption(QFileDialog::DontConfirmOverwrite, !request.overwrite_prompt);
+  if (!request.initial_name.empty()) {
+    dialog.selectFile(FromUtf8(request.initial_name));
+  }
+}
+
+// What was chosen; the name that stood there at first is no choice.
+std::filesystem::path Answer(QFileDialog& dialog, const FileRequest& request) {
+  if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) {
+    return {};
+  }
+  const std::filesystem::path path = ToPath(dialog.selectedFiles().constFirst());
+  return path.filename() == request.initial_name ? path.filename() : path;
+}
+
+}  // namespace
+
+void QtDialogs::Attach(std::function<void()> refresh, const UiText& ui_text) {
+  refresh_ = std::move(refresh);
+  ui_text_ = &ui_text;
+}
+
+MessageAnswer QtDialogs::MessageBox(const MessageRequest& request) {
+  BeforeDialog();
+  const bool question = request.buttons == MessageButtons::kYesNo;
+  Box box(question, QApplication::activeWindow());
+  box.setIcon(IconOf(request.icon));
+  box.setWindowTitle(FromUtf8(request.title));
+  box.setTextFormat(Qt::PlainText);
+  box.setText(FromUtf8(request.text));
+  if (!question) {
+    box.setStandardButtons(QMessageBox::Ok);
+    box.exec();
+    return MessageAnswer::kOk;
+  }
+  box.setStandardButtons(QMessageBox::Yes | QMessageBox::No);
+  box.setDefaultButton(QMessageBox::Yes);
+  box.button(QMessageBox::Yes)->setText(FromUtf8(Caption(kYes, "&Yes")));
+  box.button(QMessageBox::No)->setText(FromUtf8(Caption(kNo, "&No")));
+  return box.exec() == QMessageBox::Yes ? MessageAnswer::kYes : MessageAnswer::kNo;
+}
+
+std::string QtDialogs::InputBox(const InputRequest& request) {
+  BeforeDialog();
+  QInputDialog dialog(QApplication::activeWindow());
+  dialog.setWindowTitle(FromUtf8(request.title));
+  dialog.setLabelText(FromUtf8(request.prompt));
+  dialog.setTextValue(FromUtf8(request.default_answer));
+  dialog.setCancelButtonText(FromUtf8(Caption(kCancel, "Cancel")));
+  return dialog.exec() == QDialog::Accepted ? dialog.textValue().toStdString() : std::string();
+}
+
+std::filesystem::path QtDialogs::OpenFile(const FileRequest& request) {
+  BeforeDialog();
+  QFileDialog dialog(QApplication::activeWindow());
+  dialog.setAcceptMode(QFileDialog::AcceptOpen);
+  dialog.setFileMode(QFileDialog::ExistingFile);
+  Prepare(dialog, request);
+  return Answer(dialog, request);
+}
+
+std::filesystem::path QtDialogs::SaveFile(const FileRequest& request) {
+  BeforeDialog();
+  QFileDialog dialog(QApplication::activeWindow());
+  dialog.setAcceptMode(QFileDialog::AcceptSave);
+  dialog.setFileMode(QFileDialog::AnyFile);
+  Prepare(dialog, request);
+  return Answer(dialog, request);
+}
+
+// Some operations ask for it at every line of a file; nobody sees more than one picture a frame.
+void QtDialogs::LetPendingEventsRun() {
+  constexpr qint64 kFrame = 16;  // milliseconds
+  if (since_events_ran_.isValid() && since_events_ran_.elapsed() < kFrame) {
+    return;
+  }
+  if (refresh_) {
+    refresh_();
+  }
+  QApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+  since_events_ran_.start();
+}
+
+void QtDialogs::BeforeDialog() {
+  ++opened_;
+  if (refresh_) {
+    refresh_();
+  }
+}
+
+std::string QtDialogs::Caption(std::size_t number, const char* without_texts) const {
+  const std::string text = ui_text_ != nullptr ? (*ui_text_)[number] : "";
+  return text.empty() ? without_texts : text;
+}
+
+}  // namespace vendlingua

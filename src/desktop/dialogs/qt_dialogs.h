@@ -1,0 +1,41 @@
+#ifndef VENDLINGUA_DESKTOP_DIALOGS_QT_DIALOGS_H_
+#define VENDLINGUA_DESKTOP_DIALOGS_QT_DIALOGS_H_
+
+#include <QElapsedTimer>
+#include <functional>
+
+#include "core/platform/dialogs.h"
+#include "core/texts/ui_text.h"
+
+namespace vendlingua {
+
+/// The dialogs of the desktop. Each is a child of the window that is active when it opens.
+class QtDialogs : public Dialogs {
+ public:
+  /// Before a dialog opens and before window events run, `refresh` is called, so that the windows
+  /// show how far the operation came. Buttons are captioned from `ui_text`.
+  void Attach(std::function<void()> refresh, const UiText& ui_text);
+
+  /// How many dialogs were opened so far: who compares it knows whether it was a dialog of ours
+  /// that took the focus away.
+  int opened() const { return opened_; }
+
+  MessageAnswer MessageBox(const MessageRequest& request) override;
+  std::string InputBox(const InputRequest& request) override;
+  std::filesystem::path OpenFile(const FileRequest& request) override;
+  std::filesystem::path SaveFile(const FileRequest& request) override;
+  void LetPendingEventsRun() override;
+
+ private:
+  void BeforeDialog();
+  std::string Caption(std::size_t number, const char* without_texts) const;
+
+  std::function<void()> refresh_;
+  const UiText* ui_text_ = nullptr;
+  int opened_ = 0;
+  QElapsedTimer since_events_ran_;
+};
+
+}  // namespace vendlingua
+
+#endif  // VENDLINGUA_DESKTOP_DIALOGS_QT_DIALOGS_H_

@@ -1,0 +1,42 @@
+#include "desktop/fonts/qt_font_list.h"
+
+#include <QFontDatabase>
+#include <QString>
+#include <QStringList>
+#include <array>
+
+#include "desktop/qt_path.h"
+
+namespace vendlingua {
+namespace {
+
+struct FontFile {
+  const char* family;
+  const char* file;
+};
+
+constexpr std::array<FontFile, 4> kFontFiles = {{{"LCD", "LCD.ttf"},
+                                                 {"LCD_CY", "LCD_CY.ttf"},
+                                                 {"LCD KTV", "LCD_KTV.ttf"},
+                                                 {"LCD HBR", "LCD_HBR.ttf"}}};
+
+}  // namespace
+
+QtFontList::QtFontList(const std::filesystem::path& folder) {
+  const QStringList installed = QFontDatabase::families();
+  for (const FontFile& font : kFontFiles) {
+    if (!installed.contains(QLatin1String(font.family), Qt::CaseInsensitive)) {
+      QFontDatabase::addApplicationFont(ToQString(folder / font.file));
+    }
+  }
+}
+
+std::vector<std::string> QtFontList::Families() const {
+  std::vector<std::string> families;
+  for (const QString& family : QFontDatabase::families()) {
+    families.push_back(family.toStdString());
+  }
+  return families;
+}
+
+}  // namespace vendlingua

@@ -1,0 +1,60 @@
+#ifndef VENDLINGUA_DESKTOP_MAIN_WINDOW_DESTINATION_EDIT_H_
+#define VENDLINGUA_DESKTOP_MAIN_WINDOW_DESTINATION_EDIT_H_
+
+#include <QClipboard>
+#include <QLineEdit>
+#include <QString>
+
+#include "core/document/display_code.h"
+#include "core/presentation/view_state.h"
+
+namespace vendlingua {
+
+/// The type of data that a character of the map is dragged as: one byte, its display code.
+inline constexpr QLatin1String kDraggedCodeType("application/x-vendlingua-display-code");
+
+/// The destination edit box (`Text1`): its characters stand under the origin cells, it takes
+/// characters from the map and it can type any code with Alt + 0nnn.
+class DestinationEdit : public QLineEdit {
+  Q_OBJECT
+
+ public:
+  explicit DestinationEdit(QWidget* parent);
+
+  /// Shows the text of the view, the caret where it was; another message begins at its first
+  /// character.
+  void Show(const ViewState& view);
+
+ signals:
+  /// The user changed the text.
+  void TextChanged(const DisplayCodes& text);
+
+  /// A key that stands for `code` was pressed.
+  void KeyPressed(DisplayCode code);
+
+  /// `code` was dropped `x` pixels from the left edge.
+  void CharacterDropped(DisplayCode code, int x);
+
+  /// `character` has no display code and was not taken.
+  void Refused(const QString& character);
+
+ protected:
+  void dragEnterEvent(QDragEnterEvent* event) override;
+  void dragMoveEvent(QDragMoveEvent* event) override;
+  void dropEvent(QDropEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
+  void keyReleaseEvent(QKeyEvent* event) override;
+
+ private:
+  void LimitLength(int limit);
+  bool TakeAltDigit(const QKeyEvent& event);
+  void TypeAltCode();
+  void PutPlainTextOnClipboard(QClipboard::Mode mode);
+
+  QString alt_digits_;
+  int message_ = 0;
+};
+
+}  // namespace vendlingua
+
+#endif  // VENDLINGUA_DESKTOP_MAIN_WINDOW_DESTINATION_EDIT_H_

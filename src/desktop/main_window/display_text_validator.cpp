@@ -1,0 +1,33 @@
+#include "desktop/main_window/display_text_validator.h"
+
+#include <algorithm>
+
+#include "desktop/fonts/widget_text.h"
+
+namespace vendlingua {
+
+QValidator::State DisplayTextValidator::validate(QString& input, int& caret) const {
+  QString taken;
+  QString refused;
+  int position = 0;
+  int taken_before_caret = 0;
+  for (const char32_t character : input.toUcs4()) {
+    const auto code = FromWidgetCharacter(character);
+    const QString text = QString::fromUcs4(&character, 1);
+    if (code) {
+      taken += ToWidgetCharacter(*code);
+      taken_before_caret += position < caret ? 1 : 0;
+    } else if (refused.isEmpty()) {
+      refused = text;
+    }
+    position += static_cast<int>(text.size());
+  }
+  input = taken;
+  caret = taken_before_caret;
+  if (!refused.isEmpty()) {
+    emit Refused(refused);
+  }
+  return Acceptable;
+}
+
+}  // namespace vendlingua

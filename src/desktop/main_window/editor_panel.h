@@ -1,0 +1,80 @@
+#ifndef VENDLINGUA_DESKTOP_MAIN_WINDOW_EDITOR_PANEL_H_
+#define VENDLINGUA_DESKTOP_MAIN_WINDOW_EDITOR_PANEL_H_
+
+#include <QFrame>
+#include <QLabel>
+#include <QPoint>
+#include <QPushButton>
+#include <QWidget>
+#include <array>
+#include <optional>
+
+#include "core/document/workspace.h"
+#include "desktop/main_window/character_map.h"
+#include "desktop/main_window/destination_edit.h"
+#include "desktop/main_window/message_selector.h"
+#include "desktop/main_window/origin_label.h"
+
+namespace vendlingua {
+
+/// The editing view of the main window. It shows the state of the view and says what the user does;
+/// it changes nothing by itself but the preview.
+class EditorPanel : public QWidget {
+  Q_OBJECT
+
+ public:
+  explicit EditorPanel(QWidget* parent);
+
+  /// Shows `Workspace::view` and the checked display type.
+  void Show(const Workspace& workspace);
+
+  /// Captions the controls in the interface language.
+  void SetEditorCaptions(const UiText& ui_text);
+
+  /// One message back or forward.
+  void Step(int messages) { HScroll1_->setValue(HScroll1_->value() + messages); }
+
+ signals:
+  void Scrolled(int value);
+  void TextChanged(const DisplayCodes& text);
+  void KeyPressed();
+  /// `code` was dropped `x` pixels from the left edge of the edit box, which is `box_width` wide.
+  void CharacterDropped(DisplayCode code, int x, int box_width);
+  /// `character` was typed or pasted and has no display code.
+  void CharacterRefused(const QString& character);
+  /// The copy menu is wanted at `position`, relative to this panel.
+  void CopyMenuWanted(const QPoint& position);
+  void HeightToggled();
+  void MessageAdded();
+
+ protected:
+  void resizeEvent(QResizeEvent* event) override;
+
+ private:
+  void PlaceControls();
+  void ConnectControls();
+  QLabel* AddLabel(const QString& name);
+  void ShowDisplayType(const MenuState& menus);
+  void ShowStatus();
+  void SetTextWidth(int label_width);
+  void Preview(DisplayCode code);
+
+  std::array<OriginLabel*, kOriginCells> Label5_{};
+  DestinationEdit* Text1_ = nullptr;
+  MessageSelector* HScroll1_;
+  QLabel* Label6_;
+  QLabel* Label7_;
+  std::array<QLabel*, 2> Label8_{};
+  std::array<QLabel*, 2> Label9_{};
+  QPushButton* Command1_;
+  QPushButton* Command2_;
+  CharacterMap* map_ = nullptr;
+  QFrame* edit_frame_;
+  QLabel* status_;
+  QString status_text_;
+  std::optional<std::size_t> display_type_;
+};
+
+}  // namespace vendlingua
+
+#endif  // VENDLINGUA_DESKTOP_MAIN_WINDOW_EDITOR_PANEL_H_

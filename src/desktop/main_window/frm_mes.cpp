@@ -1,0 +1,215 @@
+#include "desktop/main_window/frm_mes.h"
+
+#include <QCloseEvent>
+#include <QIcon>
+#include <QKeySequence>
+#include <QMenuBar>
+#include <QShortcut>
+#include <algorithm>
+#include <exception>
+#include <memory>
+
+#include "core/operations/exit.h"
+#include "core/operations/interface_language.h"
+#include "core/presentation/twips.h"
+#include "desktop/qt_text.h"
+
+// Resources of a static library have to be asked for, outside of any namespace.
+static void RegisterIcons() { Q_INIT_RESOURCE(icons); }
+
+namespace vendlingua {
+namespace {
+
+constexpr int kWindowWidth = 5205;  // twips
+
+// All menus have to fit the width of the window in every language.
+constexpr QLatin1String kMenuBarStyle(
+    "QMenuBar { font-size: 12px; background: palette(window); border: none; }"
+    "QMenuBar::item { padding: 3px 4px; background: transparent; }"
+    "QMenuBar::item:selected { background: palette(highlight); color: palette(highlighted-text); }"
+    "QMenuBar::item:disabled { color: palette(placeholder-text); }");
+
+}  // namespace
+
+FrmMes::FrmMes(Engine& engine, QtDialogs& dialogs, ProgramStarter& starter)
+    : engine_(engine),
+      dialogs_(dialogs),
+      starter_(starter),
+      menus_(new MainMenus(*menuBar(), *this)),
+      panel_(new EditorPanel(this)),
+      dialogs_seen_(dialogs.opened()) {
+  RegisterIcons();
+  setObjectName(QStringLiteral("FrmMes"));
+  setAccessibleName(QStringLiteral("Vendlingua"));
+  setWindowIcon(QIcon(QStringLiteral(":/icons/vendlingua.svg")));
+  setContextMenuPolicy(Qt::NoContextMenu);
+  menuBar()->setStyleSheet(kMenuBarStyle);
+  setCentralWidget(panel_);
+  ConnectMenus();
+  ConnectPanel();
+  AddShortcuts();
+  panel_->SetEditorCaptions(engine_.workspace.ui_text);
+  dialogs_.Attach([this] { Mirror(); }, engine_.workspace.ui_text);
+  Mirror();
+}
+
+void FrmMes::ConnectMenus() {
+  const auto run = [this](auto signal, auto command) {
+    connect(menus_, signal, this,
+            [this, command](auto... arguments) { Run([&] { command(arguments...); }); });
+  };
+  run(&MainMenus::OpenChosen, [this] { engine_.opener.Open(); });
+  run(&MainMenus::SaveChosen, [this] { engine_.writer.Save(); });
+  run(&MainMenus::SaveAsChosen, [this] { engine_.writer.SaveAs(); });
+  run(&MainMenus::OriginChosen, [this](int i) { engine_.languages.ChooseOrigin(i); });
+  run(&MainMenus::DestinationMenuOpens, [this] { engine_.languages.OpenDestinationMenu(); });
+  run(&MainMenus::DestinationChosen, [this](int i) { engine_.languages.ChooseDestination(i); });
+  run(&MainMenus::NewLanguageChosen, [this](int i) { engine_.languages.StartNewLanguage(i); });
+  run(&MainMenus::DisplayTypeChosen,
+      [this](int i) { engine_.view.ChooseDisplayType(static_cast<std::size_t>(i)); });
+  run(&MainMenus::InterfaceLanguageChosen, [this](int i) { ChooseLanguage(i); });
+  run(&MainMenus::CopyChosen, [this] { engine_.view.CopyOrigin(); });
+  run(&MainMenus::CompilerChosen, [this] { OpenCompiler(); });
+  run(&MainMenus::InfoChosen, [this] { OpenInfo(); });
+  connect(menus_, &MainMenus::ExitChosen, this, &QWidget::close);
+}
+
+void FrmMes::ConnectPanel() {
+  const auto run = [this](auto signal, auto command) {
+    connect(panel_, signal, this,
+            [this, command](const auto&... arguments) { Run([&] { command(arguments...); }); });
+  };
+  run(&EditorPanel::Scrolled, [this](int value) { engine_.view.Scroll(value); });
+  run(&EditorPanel::TextChanged, [this](const DisplayCodes& text) { ChangeText(text); });
+  run(&EditorPanel::KeyPressed, [this] { engine_.view.KeyPressed(); });
+  run(&EditorPanel::CharacterDropped,
+      [this](DisplayCode code, int x, int box_width) { engine_.view.Drop(code, x, box_width); });
+  run(&EditorPanel::HeightToggled, [this] { ToggleHeight(); });
+  run(&EditorPanel::MessageAdded, [this] { engine_.view.AddMessage(dialogs_); });
+  connect(panel_, &EditorPanel::CopyMenuWanted, this,
+          [this](const QPoint& position) { menus_->PopUpCopyMenu(panel_->mapToGlobal(position)); });
+  // The edit box is still taking its new text when it refuses a character.
+  connect(
+      panel_, &EditorPanel::CharacterRefused, this,
+      [this](const QString& character) {
+        Run([&] {
+          engine_.workspace.view.status =
+              engine_.workspace.ui_text[53] + " " + character.toStdString();
+        });
+      },
+      Qt::QueuedConnection);
+}
+
+void FrmMes::AddShortcuts() {
+  const auto step = [this](QKeyCombination key, int messages) {
+    auto* shortcut = new QShortcut(QKeySequence(key), this);
+    connect(shortcut, &QShortcut::activated, this, [this, messages] { panel_->Step(messages); });
+  };
+  step(Qt::Key_PageUp, -1);
+  step(Qt::Key_PageDown, 1);
+  step(Qt::ALT | Qt::Key_Left, -1);
+  step(Qt::ALT | Qt::Key_Right, 1);
+}
+
+void FrmMes::Run(const std::function<void()>& command) {
+  engine_.workspace.view.status.clear();
+  try {
+    command();
+  } catch (const std::exception& error) {
+    dialogs_.MessageBox({MessageIcon::kCritical, error.what(), "ERROR"});
+  }
+  Mirror();
+}
+
+void FrmMes::Mirror() {
+  const Workspace& workspace = engine_.workspace;
+  setWindowTitle(FromUtf8(workspace.view.caption));
+  setFixedSize(PixelsFromTwips(kWindowWidth), PixelsFromTwips(workspace.view.height));
+  menus_->Show(workspace.menus, workspace.view.Text1.enabled);
+  panel_->Show(workspace);
+  if (engine_.compiler_state.hourglass) {
+    setCursor(Qt::WaitCursor);
+  } else {
+    unsetCursor();
+  }
+  if (frm_make_) {
+    frm_make_->Mirror();
+  }
+}
+
+void FrmMes::changeEvent(QEvent* event) {
+  QMainWindow::changeEvent(event);
+  if (event->type() != QEvent::ActivationChange || !isActiveWindow()) {
+    return;
+  }
+  // A message box that closes gives the focus back to its window: that is no activation.
+  if (dialogs_seen_ == dialogs_.opened()) {
+    Form_Activate();
+  }
+  dialogs_seen_ = dialogs_.opened();
+}
+
+void FrmMes::Form_Activate() {
+  if (frm_make_) {
+    frm_make_->close();
+  }
+  if (!isMinimized() && !isMaximized()) {
+    move(x(), PixelsFromTwips(window_top_.Activate(TwipsFromPixels(y()))));
+  }
+}
+
+void FrmMes::closeEvent(QCloseEvent* event) {
+  bool may_end = false;
+  Run([&] { may_end = Form_Unload(engine_.workspace, starter_, engine_.writer); });
+  if (!may_end) {
+    event->ignore();
+    return;
+  }
+  delete frm_make_;
+  delete frm_info_;
+  event->accept();
+}
+
+void FrmMes::ChooseLanguage(int index) {
+  ChooseInterfaceLanguage(engine_.workspace, dialogs_, static_cast<std::size_t>(index));
+  panel_->SetEditorCaptions(engine_.workspace.ui_text);
+}
+
+void FrmMes::ChangeText(const DisplayCodes& text) {
+  if (engine_.view.ChangeText(text)) {
+    engine_.workspace.view.status = engine_.workspace.ui_text[60];
+  }
+  engine_.view.KeyPressed();
+}
+
+// The window never leaves the screen at its top.
+void FrmMes::ToggleHeight() {
+  const int down = PixelsFromTwips(engine_.view.ToggleHeight());
+  move(x(), std::max(y() + down, 0));
+}
+
+void FrmMes::OpenCompiler() {
+  if (!frm_make_) {
+    auto form = std::make_unique<FrmMake>(
+        CompilerParts{engine_.workspace, engine_.compiler_state, engine_.compiler, engine_.writer,
+                      dialogs_},
+        [this](const std::function<void()>& command) { Run(command); }, this);
+    if (!form->Load()) {
+      return;
+    }
+    frm_make_ = form.release();
+    connect(frm_make_, &FrmMake::Activated, this, [this] { dialogs_seen_ = dialogs_.opened(); });
+  }
+  frm_make_->show();
+  frm_make_->activateWindow();
+}
+
+void FrmMes::OpenInfo() {
+  if (!frm_info_) {
+    frm_info_ = new FrmInfo(this);
+  }
+  frm_info_->show();
+  frm_info_->activateWindow();
+}
+
+}  // namespace vendlingua

@@ -1,0 +1,61 @@
+#ifndef VENDLINGUA_DESKTOP_MAIN_WINDOW_FRM_MES_H_
+#define VENDLINGUA_DESKTOP_MAIN_WINDOW_FRM_MES_H_
+
+#include <QMainWindow>
+#include <QPointer>
+#include <functional>
+
+#include "core/engine.h"
+#include "core/platform/program_starter.h"
+#include "core/presentation/window_top.h"
+#include "desktop/compiler/frm_make.h"
+#include "desktop/dialogs/qt_dialogs.h"
+#include "desktop/information/frm_info.h"
+#include "desktop/main_window/editor_panel.h"
+#include "desktop/main_window/main_menus.h"
+
+namespace vendlingua {
+
+/// The main window. It passes every command on to the engine and then shows what the engine's state
+/// has become.
+class FrmMes : public QMainWindow {
+  Q_OBJECT
+
+ public:
+  FrmMes(Engine& engine, QtDialogs& dialogs, ProgramStarter& starter);
+
+ protected:
+  void changeEvent(QEvent* event) override;
+  void closeEvent(QCloseEvent* event) override;
+
+ private:
+  void ConnectMenus();
+  void ConnectPanel();
+  void AddShortcuts();
+
+  /// Does what the user asked for. The one place where errors are shown.
+  void Run(const std::function<void()>& command);
+  /// Makes the windows show the state of the engine.
+  void Mirror();
+
+  void Form_Activate();
+  void ChooseLanguage(int index);
+  void ChangeText(const DisplayCodes& text);
+  void ToggleHeight();
+  void OpenCompiler();
+  void OpenInfo();
+
+  Engine& engine_;
+  QtDialogs& dialogs_;
+  ProgramStarter& starter_;
+  MainMenus* menus_;
+  EditorPanel* panel_;
+  QPointer<FrmMake> frm_make_;
+  QPointer<FrmInfo> frm_info_;
+  WindowTop window_top_;
+  int dialogs_seen_ = 0;
+};
+
+}  // namespace vendlingua
+
+#endif  // VENDLINGUA_DESKTOP_MAIN_WINDOW_FRM_MES_H_

@@ -1,0 +1,152 @@
+#include "desktop/main_window/main_menus.h"
+
+#include <QIcon>
+#include <QKeySequence>
+#include <QString>
+
+#include "desktop/qt_text.h"
+
+namespace vendlingua {
+namespace {
+
+// A caption of the interface language marks its mnemonic with "&"; in a name out of a file "&" is a
+// character like any other.
+enum class Caption { kInterfaceText, kName };
+
+void ShowEntry(QAction& action, const MenuEntry& entry, Caption caption = Caption::kInterfaceText) {
+  QString text = FromUtf8(entry.caption);
+  if (caption == Caption::kName) {
+    text.replace(QLatin1Char('&'), QStringLiteral("&&"));
+  }
+  action.setText(text);
+  action.setVisible(entry.visible);
+  action.setEnabled(entry.enabled);
+  if (action.isCheckable()) {
+    action.setChecked(entry.checked);
+  }
+}
+
+template <typename Entries>
+void ShowEntries(const std::vector<QAction*>& actions, const Entries& entries, Caption caption) {
+  for (std::size_t i = 0; i < actions.size(); ++i) {
+    ShowEntry(*actions[i], entries.at(i), caption);
+  }
+}
+
+QString ElementName(const char* array, std::size_t index) {
+  return QStringLiteral("%1(%2)").arg(QLatin1String(array)).arg(index);
+}
+
+QMenu* AddMenu(QMenuBar& menu_bar, const char* name) {
+  QMenu* menu = menu_bar.addMenu(QString());
+  menu->setObjectName(QLatin1String(name));
+  menu->menuAction()->setObjectName(QLatin1String(name));
+  return menu;
+}
+
+template <typename Container>
+QAction* AddAction(Container& container, const char* name) {
+  QAction* action = container.addAction(QString());
+  action->setObjectName(QLatin1String(name));
+  return action;
+}
+
+}  // namespace
+
+MainMenus::MainMenus(QMenuBar& menu_bar, QWidget& window) : QObject(&window) {
+  BuildFileMenu(menu_bar);
+  BuildLanguageMenus(menu_bar);
+  mnuMake_ = AddAction(menu_bar, "mnuMake");
+  connect(mnuMake_, &QAction::triggered, this, &MainMenus::CompilerChosen);
+  mnuTLCD_ = AddMenu(menu_bar, "mnuTLCD");
+  mnuLCD_ = AddArray(*mnuTLCD_, "mnuLCD", 0, kDisplayTypes, &MainMenus::DisplayTypeChosen, true);
+  mnuLingue_ = AddMenu(menu_bar, "mnuLingue");
+  smnuLingue_ = AddArray(*mnuLingue_, "smnuLingue", 0, kInterfaceLanguages,
+                         &MainMenus::InterfaceLanguageChosen, true);
+  mnuInf_ = AddAction(menu_bar, "mnuInf");
+  connect(mnuInf_, &QAction::triggered, this, &MainMenus::InfoChosen);
+  BuildCopyMenu(window);
+}
+
+void MainMenus::BuildFileMenu(QMenuBar& menu_bar) {
+  mnuFile_ = AddMenu(menu_bar, "mnuFile");
+  mnuOpen_ = AddAction(*mnuFile_, "mnuOpen");
+  mnuOpen_->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_O));
+  connect(mnuOpen_, &QAction::triggered, this, &MainMenus::OpenChosen);
+  mnuSave_ = AddAction(*mnuFile_, "mnuSave");
+  mnuSave_->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_S));
+  connect(mnuSave_, &QAction::triggered, this, &MainMenus::SaveChosen);
+  mnuSaas_ = AddAction(*mnuFile_, "mnuSaas");
+  mnuSaas_->setShortcut(QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_S));
+  connect(mnuSaas_, &QAction::triggered, this, &MainMenus::SaveAsChosen);
+  mnuFile_->addSeparator();
+  mnuEsci_ = AddAction(*mnuFile_, "mnuEsci");
+  mnuEsci_->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_Q));
+  mnuEsci_->setMenuRole(QAction::QuitRole);
+  connect(mnuEsci_, &QAction::triggered, this, &MainMenus::ExitChosen);
+}
+
+void MainMenus::BuildLanguageMenus(QMenuBar& menu_bar) {
+  mnuOrig_ = AddMenu(menu_bar, "mnuOrig");
+  mnuori_ = AddArray(*mnuOrig_, "mnuori", 0, kLanguageEntries, &MainMenus::OriginChosen, false);
+
+  mnuDest_ = AddMenu(menu_bar, "mnuDest");
+  connect(mnuDest_, &QMenu::aboutToShow, this, &MainMenus::DestinationMenuOpens);
+  mnuDes0_ = mnuDest_->addMenu(QIcon(QStringLiteral(":/icons/plus.svg")), QString());
+  mnuDes0_->setObjectName(ElementName("mnuDes", 0));
+  mnuDes0_->menuAction()->setObjectName(ElementName("mnuDes", 0));
+  mnuNew_ =
+      AddArray(*mnuDes0_, "mnuNew", 0, kLanguageEntries, &MainMenus::NewLanguageChosen, false);
+  mnuDes_ =
+      AddArray(*mnuDest_, "mnuDes", 1, kLanguageEntries - 1, &MainMenus::DestinationChosen, false);
+  mnuDes_.insert(mnuDes_.begin(), mnuDes0_->menuAction());
+}
+
+void MainMenus::BuildCopyMenu(QWidget& window) {
+  mCopy_ = new QMenu(&window);
+  mCopy_->setObjectName(QStringLiteral("mCopy"));
+  mCopy_->menuAction()->setObjectName(QStringLiteral("mCopy"));
+  mnuAbor_ = AddAction(*mCopy_, "mnuAbor");
+  mnuCopy_ = AddAction(*mCopy_, "mnuCopy");
+  connect(mnuCopy_, &QAction::triggered, this, &MainMenus::CopyChosen);
+}
+
+std::vector<QAction*> MainMenus::AddArray(QMenu& menu, const char* name, std::size_t first,
+                                          std::size_t count, ArraySignal chosen, bool checkable) {
+  std::vector<QAction*> actions;
+  for (std::size_t i = first; i < first + count; ++i) {
+    QAction* action = menu.addAction(QString());
+    action->setObjectName(ElementName(name, i));
+    action->setCheckable(checkable);
+    connect(action, &QAction::triggered, this,
+            [this, chosen, i] { emit(this->*chosen)(static_cast<int>(i)); });
+    actions.push_back(action);
+  }
+  return actions;
+}
+
+void MainMenus::Show(const MenuState& menus, bool destination_open) {
+  ShowEntry(*mnuFile_->menuAction(), menus.mnuFile);
+  ShowEntry(*mnuOpen_, menus.mnuOpen);
+  ShowEntry(*mnuSave_, menus.mnuSave);
+  ShowEntry(*mnuSaas_, menus.mnuSaas);
+  ShowEntry(*mnuEsci_, menus.mnuEsci);
+  ShowEntry(*mnuOrig_->menuAction(), menus.mnuOrig);
+  ShowEntry(*mnuDest_->menuAction(), menus.mnuDest);
+  ShowEntry(*mnuMake_, menus.mnuMake);
+  ShowEntry(*mnuTLCD_->menuAction(), menus.mnuTLCD);
+  ShowEntry(*mnuLingue_->menuAction(), menus.mnuLingue);
+  ShowEntry(*mnuInf_, menus.mnuInf);
+  ShowEntry(*mCopy_->menuAction(), menus.mCopy);
+  mCopy_->setTitle(FromUtf8(menus.mCopy.caption));
+  ShowEntry(*mnuAbor_, menus.mnuAbor);
+  ShowEntry(*mnuCopy_, menus.mnuCopy);
+  mnuCopy_->setEnabled(menus.mnuCopy.enabled && destination_open);
+  ShowEntries(mnuori_, menus.mnuori, Caption::kName);
+  ShowEntries(mnuDes_, menus.mnuDes, Caption::kName);
+  ShowEntries(mnuNew_, menus.mnuNew, Caption::kName);
+  ShowEntries(mnuLCD_, menus.mnuLCD, Caption::kInterfaceText);
+  ShowEntries(smnuLingue_, menus.smnuLingue, Caption::kName);
+}
+
+}  // namespace vendlingua

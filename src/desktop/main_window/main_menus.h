@@ -1,0 +1,77 @@
+#ifndef VENDLINGUA_DESKTOP_MAIN_WINDOW_MAIN_MENUS_H_
+#define VENDLINGUA_DESKTOP_MAIN_WINDOW_MAIN_MENUS_H_
+
+#include <QAction>
+#include <QMenu>
+#include <QMenuBar>
+#include <QObject>
+#include <QPoint>
+#include <vector>
+
+#include "core/presentation/menu_state.h"
+
+namespace vendlingua {
+
+/// The menus of the main window: they show `Workspace::menus` and say what was chosen.
+class MainMenus : public QObject {
+  Q_OBJECT
+
+ public:
+  MainMenus(QMenuBar& menu_bar, QWidget& window);
+
+  /// Shows captions, visibility, enabled and checked states. The copy entry needs an open
+  /// destination besides.
+  void Show(const MenuState& menus, bool destination_open);
+
+  /// Opens the copy menu.
+  void PopUpCopyMenu(const QPoint& global_position) { mCopy_->popup(global_position); }
+
+ signals:
+  void OpenChosen();
+  void SaveChosen();
+  void SaveAsChosen();
+  void ExitChosen();
+  void OriginChosen(int language);
+  void DestinationMenuOpens();
+  void DestinationChosen(int language);
+  void NewLanguageChosen(int language);
+  void CompilerChosen();
+  void DisplayTypeChosen(int type);
+  void InterfaceLanguageChosen(int index);
+  void InfoChosen();
+  void CopyChosen();
+
+ private:
+  using ArraySignal = void (MainMenus::*)(int);
+
+  void BuildFileMenu(QMenuBar& menu_bar);
+  void BuildLanguageMenus(QMenuBar& menu_bar);
+  void BuildCopyMenu(QWidget& window);
+  std::vector<QAction*> AddArray(QMenu& menu, const char* name, std::size_t first,
+                                 std::size_t count, ArraySignal chosen, bool checkable);
+
+  QMenu* mnuFile_ = nullptr;
+  QAction* mnuOpen_ = nullptr;
+  QAction* mnuSave_ = nullptr;
+  QAction* mnuSaas_ = nullptr;
+  QAction* mnuEsci_ = nullptr;
+  QMenu* mnuOrig_ = nullptr;
+  QMenu* mnuDest_ = nullptr;
+  QMenu* mnuDes0_ = nullptr;
+  QAction* mnuMake_ = nullptr;
+  QMenu* mnuTLCD_ = nullptr;
+  QMenu* mnuLingue_ = nullptr;
+  QAction* mnuInf_ = nullptr;
+  QMenu* mCopy_ = nullptr;
+  QAction* mnuAbor_ = nullptr;
+  QAction* mnuCopy_ = nullptr;
+  std::vector<QAction*> mnuori_;
+  std::vector<QAction*> mnuDes_;
+  std::vector<QAction*> mnuNew_;
+  std::vector<QAction*> mnuLCD_;
+  std::vector<QAction*> smnuLingue_;
+};
+
+}  // namespace vendlingua
+
+#endif  // VENDLINGUA_DESKTOP_MAIN_WINDOW_MAIN_MENUS_H_

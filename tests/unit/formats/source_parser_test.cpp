@@ -1,0 +1,235 @@
+#include "core/formats/source_parser.h"
+
+#include <gmock/gmock.h>
+
+#include <random>
+
+#include "core/platform/errors.h"
+#include "support/message_files.h"
+
+namespace vendlingua {
+namespace {
+
+using test::Codes;
+using testing::ElementsAre;
+using testing::HasSubstr;
+using testing::IsEmpty;
+using testing::SizeIs;
+
+std::string Line(std::string_view text) { return " DC.B '" + std::string(text) + "'\n"; }
+
+std::string Lines(std::size_t count, std::string_view text) {
+  std::string lines;
+  for (std::size_t i = 0; i < count; ++i) {
+    lines += Line(text);
+  }
+  return lines;
+}
+
+std::string ReasonOfRefusal(std::string_view source) {
+  try {
+    ParseSource(source);
+  } catch (const Error& error) {
+    return error.what();
+  }
+  return "not refused";
+}
+
+TEST(ParseSource, TakesTheQuotedTextsInOrder) {
+  const auto sections = ParseSource("; messages\n" + Line("ABCD") + "LABEL:\n" + Line("EFGH"));
+  ASSERT_THAT(sections, SizeIs(1));
+  EXPECT_THAT(sections[0].texts, ElementsAre(Codes("ABCD"), Codes("EFGH")));
+}
+
+TEST(ParseSource, EndsTheOnlySectionWithTheFile) {
+  const auto sections = ParseSource(Line("ABCD"));
+  ASSERT_THAT(sections, SizeIs(1));
+  EXPECT_TRUE(sections[0].ends_file);
+  EXPECT_EQ(sections[0].directives, 0U);
+}
+
+TEST(ParseSource, ReadsLinesThatEndInCrLf) {
+  const auto sections = ParseSource(" DC.B 'ABCD'\r\n DC.B 'EFGH'\r\n");
+  EXPECT_THAT(sections.at(0).texts, ElementsAre(Codes("ABCD"), Codes("EFGH")));
+}
+
+TEST(ParseSource, CountsALastLineWithoutItsEnd) {
+  EXPECT_THAT(ParseSource(Line("ABCD") + " DC.B 'EFGH'").at(0).texts,
+              ElementsAre(Codes("ABCD"), Codes("EFGH")));
+}
+
+TEST(ParseSource, RefusesACarriageReturnThatEndsNoLine) {
+  EXPECT_THAT(ReasonOfRefusal(Line("ABCD") + " DC.B 'EFGH'\r DC.B 'IJKL'\r"), HasSubstr("line 2"));
+}
+
+TEST(ParseSource, KeepsPlaceholders) {
+  EXPECT_THAT(ParseSource(Line("Rev. \xFE.\xFE")).at(0).texts,
+              ElementsAre(Codes("Rev. \xFE.\xFE")));
+}
+
+TEST(ParseSource, DoesNotEndASectionWithTheFirstDirective) {
+  const auto sections = ParseSource(Line("ABCD") + " ORG $6000\n" + Line("EFGH"));
+  ASSERT_THAT(sections, SizeIs(1));
+  EXPECT_THAT(sections[0].texts, SizeIs(2));
+  EXPECT_EQ(sections[0].directives, 1U);
+}
+
+TEST(ParseSource, EndsASectionWithEveryFurtherDirective) {
+  const auto sections = ParseSource(" ORG $6000\n" + Line("ABCD") + " .SECT two\n" + Line("EFGH") +
+                                    " ORG $8000\n" + Line("IJKL"));
+  ASSERT_THAT(sections, SizeIs(3));
+  EXPECT_THAT(sections[0].texts, ElementsAre(Codes("ABCD")));
+  EXPECT_THAT(sections[1].texts, ElementsAre(Codes("EFGH")));
+  EXPECT_THAT(sections[2].texts, ElementsAre(Codes("IJKL")));
+}
+
+TEST(ParseSource, CountsTheDirectivesSeenAtTheEndOfEachSection) {
+  const auto sections = ParseSource(" ORG 1\n" + Line("ABCD") + " ORG 2\n" + Line("EFGH") +
+                                    " ORG 3\n" + Line("IJKL"));
+  ASSERT_THAT(sections, SizeIs(3));
+  EXPECT_EQ(sections[0].directives, 2U);
+  EXPECT_EQ(sections[1].directives, 3U);
+  EXPECT_EQ(sections[2].directives, 3U);
+  EXPECT_FALSE(sections[1].ends_file);
+  EXPECT_TRUE(sections[2].ends_file);
+}
+
+TEST(ParseSource, FindsADirectiveInsideAnyWord) {
+  EXPECT_THAT(ParseSource("; FORGET\n" + Line("ABCD") + "XORGX\n" + Line("EFGH")), SizeIs(2));
+}
+
+TEST(ParseSource, TellsDirectivesByCase) {
+  EXPECT_THAT(ParseSource(" ORG 1\n" + Line("ABCD") + " org 2\n .sect 3\n" + Line("EFGH")),
+              SizeIs(1));
+}
+
+TEST(ParseSource, ReadsTheTextOfTheLineWithTheFirstDirective) {
+  EXPECT_THAT(ParseSource(" ORG 'ABCD'\n").at(0).texts, ElementsAre(Codes("ABCD")));
+}
+
+TEST(ParseSource, DoesNotLookFurtherAtTheLineThatEndsASection) {
+  const auto sections =
+      ParseSource(" ORG 1\n" + Line("ABCD") + "MNLING .SDATA ORG 'EFGH'\n" + Line("IJKL"));
+  ASSERT_THAT(sections, SizeIs(2));
+  EXPECT_THAT(sections[0].texts, ElementsAre(Codes("ABCD")));
+  EXPECT_THAT(sections[1].texts, ElementsAre(Codes("IJKL")));
+  EXPECT_THAT(sections[1].name_labels, IsEmpty());
+  EXPECT_FALSE(sections[1].has_sdata);
+}
+
+TEST(ParseSource, NotesHowManyTextsStandBeforeTheNameLabel) {
+  const auto sections = ParseSource(Lines(11, "ABCD") + "MNLING DC.B 'NAME'\n" + Line("EFGH"));
+  EXPECT_THAT(sections.at(0).name_labels, ElementsAre(11));
+}
+
+TEST(ParseSource, NotesEveryLineWithTheNameLabel) {
+  const auto sections = ParseSource("MNLING:\n" + Line("ABCD") + "MNLING:\n");
+  EXPECT_THAT(sections.at(0).name_labels, ElementsAre(0, 1));
+}
+
+TEST(ParseSource, CountsTheTextsBeforeTheNameLabelAnewInEachSection) {
+  const auto sections =
+      ParseSource(" ORG 1\n" + Lines(3, "ABCD") + " ORG 2\n" + Line("EFGH") + "MNLING:\n");
+  EXPECT_THAT(sections.at(1).name_labels, ElementsAre(1));
+}
+
+TEST(ParseSource, NotesSdata) {
+  EXPECT_TRUE(ParseSource(" .SDATA\n" + Line("ABCD")).at(0).has_sdata);
+  EXPECT_FALSE(ParseSource(" .sdata\n" + Line("ABCD")).at(0).has_sdata);
+}
+
+TEST(ParseSource, GivesTheWidthOfTheWidestText) {
+  EXPECT_EQ(ParseSource(Line("AB") + Line("ABCD")).at(0).width, 4);
+}
+
+TEST(ParseSource, StopsAtATextThatIsShorterThanOneBefore) {
+  const auto sections = ParseSource(Line("ABCD") + Line("ABC") + Line("EFGH"));
+  ASSERT_THAT(sections, SizeIs(1));
+  EXPECT_TRUE(sections[0].width_error);
+  EXPECT_FALSE(sections[0].ends_file);
+  EXPECT_THAT(sections[0].texts, ElementsAre(Codes("ABCD")));
+}
+
+// The width is lowered by one when a section is saved, and the next section starts from that.
+TEST(ParseSource, LetsTheTextsOfTheNextSectionBeOneCellNarrower) {
+  const auto sections = ParseSource(" ORG 1\n" + Line("ABCD") + " ORG 2\n" + Line("EFG"));
+  ASSERT_THAT(sections, SizeIs(2));
+  EXPECT_FALSE(sections[1].width_error);
+  EXPECT_EQ(sections[1].width, 3);
+}
+
+TEST(ParseSource, StopsAtATextOfTheNextSectionThatIsTwoCellsNarrower) {
+  const auto sections = ParseSource(" ORG 1\n" + Line("ABCD") + " ORG 2\n" + Line("EF"));
+  ASSERT_THAT(sections, SizeIs(2));
+  EXPECT_FALSE(sections[0].width_error);
+  EXPECT_TRUE(sections[1].width_error);
+}
+
+TEST(ParseSource, TakesTextsOf40Cells) {
+  EXPECT_EQ(ParseSource(Line(std::string(40, 'x'))).at(0).width, 40);
+}
+
+TEST(ParseSource, RefusesAWiderTextNamingItsLineAndWidth) {
+  EXPECT_THAT(ReasonOfRefusal(Line("ABCD") + Line(std::string(41, 'x'))),
+              testing::AllOf(HasSubstr("line 2"), HasSubstr("41")));
+}
+
+TEST(ParseSource, Takes513TextsASection) {
+  const auto sections = ParseSource(" ORG 1\n" + Lines(513, "AB") + " ORG 2\n" + Lines(513, "CD"));
+  ASSERT_THAT(sections, SizeIs(2));
+  EXPECT_THAT(sections[0].texts, SizeIs(513));
+  EXPECT_THAT(sections[1].texts, SizeIs(513));
+}
+
+TEST(ParseSource, RefusesAFurtherTextNamingItsLineAndNumber) {
+  EXPECT_THAT(ReasonOfRefusal("; first\n" + Lines(514, "AB")),
+              testing::AllOf(HasSubstr("line 515"), HasSubstr("514")));
+}
+
+TEST(ParseSource, RefusesAQuoteAloneNamingItsLine) {
+  EXPECT_THAT(ReasonOfRefusal(Line("ABCD") + "; don't\n"), HasSubstr("line 2"));
+}
+
+TEST(ParseSource, RefusesASourceWithoutTexts) {
+  EXPECT_THAT(ReasonOfRefusal("; nothing\n ORG 1\n"), HasSubstr("line 2"));
+  EXPECT_NE(ReasonOfRefusal(""), "not refused");
+}
+
+TEST(ParseSource, RefusesALaterSectionWithoutTexts) {
+  EXPECT_THAT(ReasonOfRefusal(" ORG 1\n" + Line("ABCD") + " ORG 2\n\n ORG 3\n" + Line("EFGH")),
+              HasSubstr("line 5"));
+}
+
+TEST(ParseSource, ReadsOrRefusesASourceCutAnywhere) {
+  const std::string source =
+      " ORG 1\n.SDATA\nMNLING DC.B 'AB''CD'\r\n DC.B \"EF\"\"GH\"\n ORG 2\n" + Line("IJKL") +
+      " ORG 3\n" + Line("MNOP");
+  for (std::size_t length = 0; length <= source.size(); ++length) {
+    try {
+      EXPECT_THAT(ParseSource(std::string_view(source).substr(0, length)), testing::Not(IsEmpty()));
+    } catch (const Error& error) {
+      EXPECT_THAT(error.what(), HasSubstr("line "));
+    }
+  }
+}
+
+TEST(ParseSource, ReadsOrRefusesRandomBytes) {
+  std::mt19937 random(2);
+  constexpr std::string_view kBytes = "'\"'\"AB ORG.SECT\r\n\n\xFE";
+  for (int round = 0; round < 2000; ++round) {
+    std::string source(random() % 200, ' ');
+    for (char& byte : source) {
+      byte = kBytes[random() % kBytes.size()];
+    }
+    try {
+      for (const SourceSection& section : ParseSource(source)) {
+        EXPECT_LE(section.width, 40);
+      }
+    } catch (const Error& error) {
+      EXPECT_THAT(error.what(), HasSubstr("line "));
+    }
+  }
+}
+
+}  // namespace
+}  // namespace vendlingua

@@ -1,0 +1,177 @@
+#include "core/formats/srecord_check.h"
+
+#include <gmock/gmock.h>
+
+#include <random>
+#include <set>
+
+#include "support/message_files.h"
+
+namespace vendlingua {
+namespace {
+
+using test::S2Line;
+using testing::ElementsAre;
+using testing::HasSubstr;
+using testing::IsEmpty;
+using testing::StartsWith;
+
+constexpr std::string_view kHeader = "S013000044543034313741422020202020202020E7";
+constexpr std::string_view kLastLine = "S214FFFFF00FFFFFFFFFFFFFFFFFFFFFFFFFFFFFFFC";
+const std::string kFirst = S2Line(0xFF0000, "0123456789ABCDEF");
+const std::string kSecond = S2Line(0xFF0010, "fedcba9876543210");
+const std::string kThird = S2Line(0xFF0020, "xxxxxxxxxxxxxxxx");
+
+std::string File(std::initializer_list<std::string_view> lines) {
+  std::string file;
+  for (const std::string_view line : lines) {
+    file.append(line).append("\r\n");
+  }
+  return file;
+}
+
+TEST(CheckSRecords, FindsNothingInASoundFile) {
+  EXPECT_THAT(CheckSRecords(File({kFirst, kSecond})), IsEmpty());
+}
+
+TEST(CheckSRecords, KnowsRecordsOfEveryType) {
+  EXPECT_THAT(CheckSRecords(File({"S00600004844521B", "S1076000010203048E", "S5030001FB",
+                                  "S9036000"
+                                  "9C"})),
+              IsEmpty());
+  EXPECT_THAT(CheckSRecords(File({"S3060000600041"
+                                  "58",
+                                  "S70500006000"
+                                  "9A"})),
+              IsEmpty());
+}
+
+TEST(CheckSRecords, TakesLinesThatEndInLfAndALastLineWithoutEnd) {
+  EXPECT_THAT(CheckSRecords(kFirst + "\n" + kSecond), IsEmpty());
+}
+
+TEST(CheckSRecords, KnowsTheHeaderChecksumOfAnIdentifiedCopy) {
+  EXPECT_THAT(CheckSRecords(File({kHeader, kFirst})), IsEmpty());
+}
+
+TEST(CheckSRecords, KnowsTheLastLineOfANineLanguageCopy) {
+  EXPECT_THAT(CheckSRecords(File({kHeader, kFirst, kLastLine})), IsEmpty());
+}
+
+TEST(CheckSRecords, ReportsTheLastLineOfACopyInAnyOtherPlace) {
+  EXPECT_THAT(CheckSRecords(File({kHeader, kFirst, kLastLine, kSecond})),
+              ElementsAre(StartsWith("line 3: ")));
+  EXPECT_THAT(CheckSRecords(File({kFirst, kLastLine})), ElementsAre(StartsWith("line 2: ")));
+}
+
+TEST(CheckSRecords, ReportsTheHeaderOfACopyBehindTheFirstLine) {
+  EXPECT_THAT(CheckSRecords(File({kFirst, kHeader})), ElementsAre(StartsWith("line 2: ")));
+}
+
+TEST(CheckSRecords, ReportsAWrongChecksumWithBothValues) {
+  EXPECT_THAT(CheckSRecords("S10760000102030400\r\n"),
+              ElementsAre("line 1: the checksum is 00 instead of 8E"));
+}
+
+TEST(CheckSRecords, ReportsAWrongCount) {
+  EXPECT_THAT(CheckSRecords(File({"S1086000010203048D", kFirst})),
+              ElementsAre(StartsWith("line 1: the count is 8, but the line holds 7")));
+}
+
+TEST(CheckSRecords, ReportsAnOddNumberOfDigits) {
+  EXPECT_THAT(CheckSRecords(File({kFirst + "0"})).at(0), StartsWith("line 1: the count is 20"));
+}
+
+TEST(CheckSRecords, ReportsWhatIsNotHexadecimalWithItsColumn) {
+  EXPECT_THAT(CheckSRecords(File({"S10760000102GG048E", kFirst})),
+              ElementsAre(testing::AllOf(StartsWith("line 1: column 13"), HasSubstr("GG"))));
+}
+
+TEST(CheckSRecords, ReportsLowerCaseDigits) {
+  EXPECT_THAT(CheckSRecords("S1076000010203048e\r\n"),
+              ElementsAre("line 1: lower-case hexadecimal digits"));
+}
+
+TEST(CheckSRecords, ReportsLinesThatAreNoRecords) {
+  EXPECT_THAT(CheckSRecords(File({"", "S", "SX", ":10000000", "s1076000010203048E", kFirst})),
+              ElementsAre(StartsWith("line 1: "), StartsWith("line 2: "), StartsWith("line 3: "),
+                          StartsWith("line 4: "), StartsWith("line 5: ")));
+}
+
+TEST(CheckSRecords, ReportsAnS4Record) {
+  EXPECT_THAT(CheckSRecords(File({"S40560000102"
+                                  "97",
+                                  kFirst})),
+              ElementsAre(StartsWith("line 1: is an S4 record")));
+}
+
+TEST(CheckSRecords, ReportsALoneCarriageReturn) {
+  EXPECT_THAT(CheckSRecords(kFirst + "\r" + kSecond), testing::Not(IsEmpty()));
+}
+
+TEST(CheckSRecords, ReportsAGapOnTheLineBehindIt) {
+  EXPECT_THAT(CheckSRecords(File({kFirst, kThird})),
+              ElementsAre("line 2: gap: address FF0020 follows FF000F"));
+}
+
+TEST(CheckSRecords, ReportsARecordThatIsGivenTwice) {
+  EXPECT_THAT(CheckSRecords(File({kFirst, kFirst})),
+              ElementsAre("line 2: address FF0000 goes back behind FF000F",
+                          "line 2: overlap: bytes from address FF0000 on were given before"));
+}
+
+TEST(CheckSRecords, ReportsAnOverlapOfOneByte) {
+  EXPECT_THAT(CheckSRecords(File({kFirst, S2Line(0xFF000F, "0123456789ABCDEF")})),
+              testing::Contains(HasSubstr("overlap")));
+}
+
+TEST(CheckSRecords, ReportsAnOverlapWithAnyEarlierRecord) {
+  const auto findings = CheckSRecords(File({kSecond, kThird, kFirst, S2Line(0xFF001F, "x")}));
+  EXPECT_THAT(findings, ElementsAre("line 3: address FF0000 goes back behind FF002F",
+                                    "line 4: gap: address FF001F follows FF000F",
+                                    "line 4: overlap: bytes from address FF001F on were given "
+                                    "before"));
+}
+
+TEST(CheckSRecords, TakesRecordsInAnyOrderForNoOverlap) {
+  EXPECT_THAT(CheckSRecords(File({kThird, kFirst, kSecond})),
+              testing::Not(testing::Contains(HasSubstr("overlap"))));
+}
+
+TEST(CheckSRecords, ReportsAFileWithoutData) {
+  EXPECT_THAT(CheckSRecords(""), ElementsAre("the file holds no data record"));
+  EXPECT_THAT(CheckSRecords(File({kHeader})), ElementsAre("the file holds no data record"));
+}
+
+// The loader's own files: addresses of an S1 file that passes 0xFFFF have five digits.
+TEST(CheckSRecords, ReportsAnAddressOfFiveDigitsInAnS1Record) {
+  EXPECT_THAT(CheckSRecords("S113FFF0" + std::string(32, '0') + "FD\r\nS11310000" +
+                            std::string(32, '0') + "DC\r\n"),
+              ElementsAre(StartsWith("line 2: ")));
+}
+
+TEST(CheckSRecords, FindsEveryFileThatIsCutInsideALine) {
+  const std::string file = File({kHeader, kFirst, kSecond});
+  const std::set<std::size_t> sound_lengths = {file.size() - kSecond.size() - 4,
+                                               file.size() - kSecond.size() - 2, file.size() - 2};
+  for (std::size_t length = 0; length < file.size(); ++length) {
+    EXPECT_EQ(CheckSRecords(std::string_view(file).substr(0, length)).empty(),
+              sound_lengths.contains(length))
+        << length;
+  }
+}
+
+TEST(CheckSRecords, TakesRandomBytesWithoutHarm) {
+  std::mt19937 random(3);
+  constexpr std::string_view kBytes = "S0S1S2S30123456789ABCDEFaf\r\n\n";
+  for (int round = 0; round < 2000; ++round) {
+    std::string file(random() % 300, ' ');
+    for (char& byte : file) {
+      byte = kBytes[random() % kBytes.size()];
+    }
+    EXPECT_THAT(CheckSRecords(file), testing::Not(IsEmpty()));
+  }
+}
+
+}  // namespace
+}  // namespace vendlingua

@@ -1,0 +1,297 @@
+#include "core/operations/languages.h"
+
+#include <gmock/gmock.h>
+
+#include <filesystem>
+
+#include "core/platform/errors.h"
+#include "support/engine_test.h"
+
+namespace vendlingua {
+namespace {
+
+using test::MesFile;
+using test::MsxFile;
+using test::MsxMessage;
+using test::Slurp;
+using test::Text;
+using testing::IsEmpty;
+using testing::SizeIs;
+
+class MesLanguagesTest : public test::EngineTest {
+ protected:
+  MesLanguagesTest() { Open("FILE.MES", file_.Bytes()); }
+
+  MesFile file_{.names = {"Default", "ITALIANO", "ENGLISH"}};
+};
+
+class MsxLanguagesTest : public test::EngineTest {
+ protected:
+  MsxLanguagesTest() { Open("FILE.MSX", MsxFile(2)); }
+};
+
+// A file with the greatest number of languages.
+class FullFileTest : public test::EngineTest {
+ protected:
+  FullFileTest() {
+    MesFile file;
+    while (file.names.size() <= 100) {
+      file.names.push_back("LANGUAGE " + std::to_string(file.names.size()));
+    }
+    Open("FULL.MES", file.Bytes());
+  }
+};
+
+TEST_F(MesLanguagesTest, TakesTheOriginFromItsBlock) {
+  engine_.languages.ChooseOrigin(0);
+  EXPECT_EQ(Origin(0), file_.Message(0, 0));
+  engine_.languages.ChooseOrigin(2);
+  EXPECT_EQ(Origin(0), "2000");
+  EXPECT_EQ(Origin(1), "2111");
+  EXPECT_EQ(Origin(2), "2222");
+}
+
+TEST_F(MesLanguagesTest, StoresTextsLeftAlignedIn40Cells) {
+  engine_.languages.ChooseOrigin(1);
+  EXPECT_EQ(Text(set_.OriginText[1].Cells()), "1111" + std::string(36, ' '));
+}
+
+TEST_F(MesLanguagesTest, LaysTheViewOutForTheOrigin) {
+  engine_.languages.ChooseOrigin(1);
+  EXPECT_EQ(view_.HScroll1.max, 2);
+  EXPECT_EQ(view_.Text1.max_length, 5U);
+  EXPECT_EQ(view_.label_width, 186 * 3 + 206);
+}
+
+TEST_F(MesLanguagesTest, ShowsTheOrigin) {
+  engine_.languages.ChooseOrigin(1);
+  EXPECT_EQ(view_.Label5[0].caption, '1');
+  EXPECT_EQ(view_.Label5[1].caption, '0');
+  EXPECT_TRUE(view_.Label5[3].visible);
+  EXPECT_FALSE(view_.Label5[4].visible);
+  EXPECT_TRUE(view_.Label8Enabled[0]);
+  EXPECT_TRUE(view_.HScroll1.enabled);
+  EXPECT_TRUE(menus_.mnuDest.enabled);
+}
+
+TEST_F(MesLanguagesTest, DoesNotMarkTheSetChangedForAnOrigin) {
+  engine_.languages.ChooseOrigin(1);
+  EXPECT_EQ(set_.Modified, kFalse);
+}
+
+TEST_F(MesLanguagesTest, TakesTheDestinationFromItsBlock) {
+  EXPECT_TRUE(engine_.languages.ChooseDestination(2));
+  EXPECT_EQ(set_.DestLang, 2);
+  EXPECT_EQ(Destination(0), "2000");
+  EXPECT_EQ(Destination(2), "2222");
+}
+
+TEST_F(MesLanguagesTest, OpensTheDestinationForEditing) {
+  engine_.languages.ChooseDestination(1);
+  EXPECT_TRUE(view_.Label8Enabled[1]);
+  EXPECT_TRUE(view_.Command1Enabled);
+  EXPECT_TRUE(view_.Text1.enabled);
+  EXPECT_TRUE(menus_.mnuTLCD.enabled);
+  EXPECT_TRUE(menus_.mnuSave.enabled);
+  EXPECT_TRUE(menus_.mnuSaas.enabled);
+}
+
+TEST_F(MesLanguagesTest, ShowsTheDestination) {
+  engine_.languages.ChooseDestination(2);
+  EXPECT_EQ(Text(view_.Text1.text), "2000");
+}
+
+TEST_F(MesLanguagesTest, HasNoEffectOfItsOwnForDestinationZero) {
+  set_.Modified = kTrue;
+  set_.DestLang = 1;
+  EXPECT_FALSE(engine_.languages.ChooseDestination(0));
+  EXPECT_THAT(dialogs_.messages, IsEmpty());
+  EXPECT_EQ(set_.DestLang, 1);
+  EXPECT_EQ(set_.Modified, kTrue);
+  EXPECT_FALSE(view_.Text1.enabled);
+}
+
+TEST_F(MesLanguagesTest, SavesPendingChangesBeforeAnotherDestinationWhenTheUserWantsIt) {
+  engine_.languages.ChooseOrigin(0);
+  engine_.languages.ChooseDestination(1);
+  engine_.view.ChangeText(test::Codes("abcd"));
+  set_.Modified = kTrue;
+  dialogs_.yes_no_answers = {MessageAnswer::kYes};
+  engine_.languages.ChooseDestination(2);
+  EXPECT_EQ(dialogs_.messages.at(0).text, "text 43");
+  EXPECT_EQ(dialogs_.messages.at(0).title, "text 42");
+  EXPECT_EQ(Slurp(folder_ / "FILE.MES").substr(24 + 36 + 20, 4), "abcd");
+  EXPECT_EQ(set_.DestLang, 2);
+  EXPECT_EQ(Destination(0), "2000");
+}
+
+TEST_F(MesLanguagesTest, DropsPendingChangesWhenTheUserDeclines) {
+  engine_.languages.ChooseOrigin(0);
+  engine_.languages.ChooseDestination(1);
+  engine_.view.ChangeText(test::Codes("abcd"));
+  set_.Modified = kTrue;
+  dialogs_.yes_no_answers = {MessageAnswer::kNo};
+  engine_.languages.ChooseDestination(2);
+  EXPECT_EQ(Slurp(folder_ / "FILE.MES"), file_.Bytes());
+  EXPECT_EQ(Destination(0), "2000");
+  EXPECT_EQ(set_.Modified, kFalse);
+}
+
+// Going on would lose the edits that could not be saved.
+TEST_F(MesLanguagesTest, KeepsTheDestinationWhenSavingFails) {
+  engine_.languages.ChooseOrigin(0);
+  engine_.languages.ChooseDestination(1);
+  engine_.view.ChangeText(test::Codes("abcd"));
+  set_.Modified = kTrue;
+  std::filesystem::remove(folder_ / "FILE.MES");
+  dialogs_.yes_no_answers = {MessageAnswer::kYes};
+  EXPECT_FALSE(engine_.languages.ChooseDestination(2));
+  EXPECT_EQ(set_.DestLang, 1);
+  EXPECT_EQ(Text(view_.Text1.text), "abcd");
+}
+
+TEST_F(MesLanguagesTest, StartsANewLanguageBlank) {
+  engine_.languages.ChooseDestination(1);
+  engine_.languages.StartNewLanguage(0);
+  for (std::size_t message = 0; message <= 2; ++message) {
+    EXPECT_EQ(set_.DestText[message], DisplayText()) << message;
+  }
+}
+
+TEST_F(MesLanguagesTest, StartsANewLanguageFromTheTextsOfAnother) {
+  engine_.languages.StartNewLanguage(2);
+  EXPECT_EQ(Destination(1), "2111");
+}
+
+TEST_F(MesLanguagesTest, MarksTheSetChangedForANewLanguageWithoutAName) {
+  engine_.languages.StartNewLanguage(2);
+  EXPECT_EQ(set_.DestLang, 0);
+  EXPECT_EQ(set_.Modified, kTrue);
+  EXPECT_TRUE(view_.Text1.enabled);
+}
+
+TEST_F(MesLanguagesTest, StartsNoNewLanguageFromTextsThatCannotBeRead) {
+  engine_.languages.ChooseDestination(1);
+  std::filesystem::remove(folder_ / "FILE.MES");
+  EXPECT_THROW(engine_.languages.StartNewLanguage(2), FileError);
+  EXPECT_EQ(set_.DestLang, 1);
+  EXPECT_EQ(set_.Modified, kFalse);
+  EXPECT_EQ(Destination(0), "1000");
+}
+
+TEST_F(MesLanguagesTest, AsksToSaveANewLanguageThatIsLeft) {
+  engine_.languages.StartNewLanguage(0);
+  dialogs_.yes_no_answers = {MessageAnswer::kNo};
+  engine_.writer.NonSave();
+  ASSERT_THAT(dialogs_.messages, SizeIs(1));
+  EXPECT_EQ(dialogs_.messages[0].text, "text 43");
+}
+
+TEST_F(MesLanguagesTest, AllowsANewDestinationWhenTheMenuOpens) {
+  menus_.mnuDes[0].enabled = false;
+  engine_.languages.OpenDestinationMenu();
+  EXPECT_TRUE(menus_.mnuDes[0].enabled);
+}
+
+TEST_F(MesLanguagesTest, ReadsMessagesBehindTheEndOfTheFileAsBlanks) {
+  engine_.languages.ChooseDestination(1);
+  engine_.languages.ChooseDestination(5);
+  EXPECT_EQ(set_.DestText[0], DisplayText());
+}
+
+TEST_F(MesLanguagesTest, ChangesNothingWhenTheFileCannotBeRead) {
+  engine_.languages.ChooseOrigin(0);
+  engine_.languages.ChooseDestination(1);
+  std::filesystem::remove(folder_ / "FILE.MES");
+  EXPECT_THROW(engine_.languages.ChooseOrigin(2), FileError);
+  EXPECT_THROW(engine_.languages.ChooseDestination(2), FileError);
+  EXPECT_EQ(Origin(0), "0000");
+  EXPECT_EQ(Destination(0), "1000");
+  EXPECT_EQ(set_.DestLang, 1);
+}
+
+TEST_F(MesLanguagesTest, ChangesNothingWhenTheFileEndsInsideAMessage) {
+  engine_.languages.ChooseDestination(1);
+  folder_.Write("FILE.MES", file_.Bytes().substr(0, 24 + 2 * 36 + 20 + 6));
+  EXPECT_THROW(engine_.languages.ChooseDestination(2), FileError);
+  EXPECT_EQ(Destination(0), "1000");
+  EXPECT_EQ(set_.DestLang, 1);
+}
+
+TEST_F(FullFileTest, DisablesTheNewDestinationWhenTheMenuOpens) {
+  engine_.languages.OpenDestinationMenu();
+  EXPECT_FALSE(menus_.mnuDes[0].enabled);
+}
+
+TEST_F(FullFileTest, RefusesANewLanguage) {
+  EXPECT_FALSE(engine_.languages.ChooseDestination(kNewLanguage));
+  ASSERT_THAT(dialogs_.messages, SizeIs(1));
+  EXPECT_EQ(dialogs_.messages[0].text, "text 31");
+  EXPECT_EQ(dialogs_.messages[0].title, "text 30");
+  EXPECT_EQ(dialogs_.messages[0].icon, MessageIcon::kInformation);
+}
+
+TEST_F(FullFileTest, ChangesNothingWhenItRefusesANewLanguage) {
+  engine_.languages.ChooseDestination(3);
+  engine_.languages.StartNewLanguage(0);
+  EXPECT_THAT(dialogs_.messages, SizeIs(1));
+  EXPECT_EQ(set_.DestLang, 3);
+  EXPECT_EQ(set_.Modified, kFalse);
+  EXPECT_EQ(Destination(0), "3000");
+}
+
+TEST_F(FullFileTest, OpensItsLastLanguage) {
+  engine_.languages.ChooseDestination(100);
+  EXPECT_EQ(set_.DestLang, 100);
+  EXPECT_EQ(Destination(1), "0111");  // the digit of block 100
+}
+
+TEST_F(MsxLanguagesTest, TakesOriginZeroFromTheBuiltInTable) {
+  engine_.languages.ChooseOrigin(0);
+  EXPECT_EQ(Origin(0), "    MP0417AA    ");
+  EXPECT_EQ(Origin(2), "    Diagnosi    ");
+  EXPECT_EQ(Origin(454), "  454 Messaggio ");
+}
+
+TEST_F(MsxLanguagesTest, TakesAnotherOriginFromItsLines) {
+  engine_.languages.ChooseOrigin(2);
+  EXPECT_EQ(Origin(0), MsxMessage(2, 0));
+  EXPECT_EQ(Origin(169), "   LANGUAGE 2   ");
+  EXPECT_EQ(Origin(454), MsxMessage(2, 454));
+}
+
+TEST_F(MsxLanguagesTest, LeavesTheChecksumOutOfTheText) {
+  engine_.languages.ChooseOrigin(1);
+  EXPECT_EQ(Text(set_.OriginText[3].Cells()), MsxMessage(1, 3) + std::string(24, ' '));
+}
+
+TEST_F(MsxLanguagesTest, LoadsTheBuiltInTableForEveryOrigin) {
+  engine_.languages.ChooseOrigin(1);
+  EXPECT_EQ(Text(set_.DefaultMessages[2]), "    Diagnosi    ");
+}
+
+TEST_F(MsxLanguagesTest, TakesTheDestinationFromItsLines) {
+  engine_.languages.ChooseOrigin(0);
+  engine_.languages.ChooseDestination(1);
+  EXPECT_EQ(set_.DestLang, 1);
+  EXPECT_EQ(Destination(7), MsxMessage(1, 7));
+}
+
+TEST_F(MsxLanguagesTest, NeverAllowsANewDestinationWhenTheMenuOpens) {
+  menus_.mnuDes[0].enabled = true;
+  engine_.languages.OpenDestinationMenu();
+  EXPECT_FALSE(menus_.mnuDes[0].enabled);
+}
+
+TEST_F(MsxLanguagesTest, ChangesNothingWhenLinesAreMissing) {
+  engine_.languages.ChooseOrigin(0);
+  engine_.languages.ChooseDestination(1);
+  EXPECT_THROW(engine_.languages.ChooseDestination(3), FileError);
+  EXPECT_THROW(engine_.languages.ChooseOrigin(3), FileError);
+  EXPECT_EQ(set_.DestLang, 1);
+  EXPECT_EQ(Destination(0), MsxMessage(1, 0));
+  EXPECT_EQ(Origin(2), "    Diagnosi    ");
+}
+
+}  // namespace
+}  // namespace vendlingua

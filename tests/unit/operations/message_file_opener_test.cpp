@@ -1,0 +1,328 @@
+#include "core/operations/message_file_opener.h"
+
+#include <gmock/gmock.h>
+
+#include <filesystem>
+#include <random>
+#include <string>
+#include <string_view>
+#include <utility>
+#include <vector>
+
+#include "core/platform/errors.h"
+#include "support/engine_test.h"
+#include "support/ordinary_user.h"
+
+namespace vendlingua {
+namespace {
+
+namespace fs = std::filesystem;
+using test::MesFile;
+using test::MsxFile;
+using test::Slurp;
+using ::testing::HasSubstr;
+using ::testing::IsEmpty;
+using ::testing::SizeIs;
+
+class MessageFileOpenerTest : public test::EngineTest {
+ protected:
+  // Opens a file in which "1000" of language 1 is being edited.
+  void EditAFile() {
+    Open("EDITED.MES", MesFile().Bytes());
+    engine_.languages.ChooseOrigin(0);
+    engine_.languages.ChooseDestination(1);
+    dialogs_.open_requests.clear();
+  }
+
+  void Modify() {
+    engine_.view.ChangeText(test::Codes("NEW"));
+    engine_.view.KeyPressed();
+  }
+
+  void ExpectTheEditedFileStillOpen() const {
+    EXPECT_EQ(set_.CurrentFileName, folder_ / "EDITED.MES");
+    EXPECT_EQ(set_.CurrentFileType, ".MES");
+    EXPECT_EQ(set_.LangCount, 2);
+    EXPECT_EQ(set_.DestLang, 1);
+    EXPECT_EQ(Destination(1), "1111");
+    EXPECT_EQ(menus_.mnuDes[1].caption, "ITALIANO");
+    EXPECT_TRUE(menus_.mnuSave.enabled);
+    EXPECT_TRUE(view_.Text1.enabled);
+    EXPECT_EQ(view_.caption, "EDITED.MES");
+  }
+
+  std::string ReasonAgainst(const fs::path& path) {
+    try {
+      Open(path);
+    } catch (const FileError& error) {
+      return error.what();
+    }
+    return "none";
+  }
+
+  // Whatever a file holds, it is opened or refused, and so are its texts; it is not changed.
+  void ExpectNoAccident(std::string_view name, std::string_view content) {
+    try {
+      if (Open(name, content) == OpenOutcome::kOpened) {
+        engine_.languages.ChooseOrigin(1);
+      }
+    } catch (const Error& error) {
+      EXPECT_THAT(error.what(), HasSubstr((folder_ / name).string()));
+    }
+    EXPECT_EQ(Slurp(folder_ / name), content);
+  }
+};
+
+TEST(MessageFileType, IsTheNameFromTheFirstDotOnInUpperCase) {
+  EXPECT_EQ(MessageFileType("FW0417AB.MES"), ".MES");
+  EXPECT_EQ(MessageFileType("fw0417ab.msx"), ".MSX");
+  EXPECT_EQ(MessageFileType("TEST.MSX.MES"), ".MSX.MES");
+  EXPECT_EQ(MessageFileType(".MES"), ".MES");
+}
+
+TEST(MessageFileType, IsEmptyWithoutADot) {
+  EXPECT_EQ(MessageFileType("FW0417AB"), "");
+  EXPECT_EQ(MessageFileType(""), "");
+}
+
+TEST(MessageFileType, DoesNotLookAtFolders) {
+  EXPECT_EQ(MessageFileType(fs::path("v1.2.MSX") / "TEST.MES"), ".MES");
+  EXPECT_EQ(MessageFileType(fs::path("v1.2.MSX") / "TEST"), "");
+}
+
+TEST_F(MessageFileOpenerTest, TellsASourceByAFirstByteOf32OrMore) {
+  EXPECT_FALSE(IsAssemblerSource(folder_.Write("A.MES", std::string(1, '\0'))));
+  EXPECT_FALSE(IsAssemblerSource(folder_.Write("B.MES", "\x1F")));
+  EXPECT_TRUE(IsAssemblerSource(folder_.Write("C.MES", "\x20")));
+  EXPECT_TRUE(IsAssemblerSource(folder_.Write("D.MES", "\xFF")));
+}
+
+TEST_F(MessageFileOpenerTest, CannotTellAnEmptyOrMissingFile) {
+  EXPECT_THROW(IsAssemblerSource(folder_.Write("A.MES", "")), FileError);
+  EXPECT_THROW(IsAssemblerSource(folder_ / "none.MES"), FileError);
+}
+
+TEST_F(MessageFileOpenerTest, AsksForAMessageFile) {
+  engine_.workspace.folders.program = folder_.path();
+  Open("");
+  ASSERT_THAT(dialogs_.open_requests, SizeIs(1));
+  const FileRequest& request = dialogs_.open_requests[0];
+  EXPECT_EQ(request.purpose, FilePurpose::kOpenMessages);
+  EXPECT_EQ(request.initial_name, "");
+  EXPECT_EQ(request.filter, "Message(*.MES)|*.MES|Message(*.MSX)|*.MSX");
+  EXPECT_EQ(request.folder, folder_.path());
+}
+
+TEST_F(MessageFileOpenerTest, StartsInTheProgramsFolderEveryTime) {
+  engine_.workspace.folders.program = "program";
+  Open("FILE.MES", MesFile().Bytes());
+  EXPECT_EQ(engine_.workspace.folders.current, folder_.path());
+  Open("");
+  EXPECT_EQ(dialogs_.open_requests.back().folder, "program");
+  EXPECT_EQ(engine_.workspace.folders.current, "program");
+}
+
+TEST_F(MessageFileOpenerTest, OpensMesFiles) {
+  EXPECT_EQ(Open("FILE.MES", MesFile().Bytes()), OpenOutcome::kOpened);
+  EXPECT_EQ(set_.CurrentFileName, folder_ / "FILE.MES");
+  EXPECT_EQ(set_.CurrentFileType, ".MES");
+  EXPECT_EQ(menus_.mnuDes[1].caption, "ITALIANO");
+}
+
+TEST_F(MessageFileOpenerTest, OpensMsxFiles) {
+  EXPECT_EQ(Open("FILE.MSX", MsxFile(1)), OpenOutcome::kOpened);
+  EXPECT_EQ(set_.CurrentFileName, folder_ / "FILE.MSX");
+  EXPECT_EQ(set_.CurrentFileType, ".MSX");
+  EXPECT_EQ(menus_.mnuDes[1].caption, "LANGUAGE 1");
+}
+
+TEST_F(MessageFileOpenerTest, KnowsTypesInLowerCase) {
+  EXPECT_EQ(Open("file.mes", MesFile().Bytes()), OpenOutcome::kOpened);
+  EXPECT_EQ(set_.CurrentFileType, ".MES");
+  EXPECT_EQ(Open("file.msx", MsxFile(1)), OpenOutcome::kOpened);
+  EXPECT_EQ(set_.CurrentFileType, ".MSX");
+}
+
+TEST_F(MessageFileOpenerTest, LeavesEverythingAsItWasWhenCancelled) {
+  EditAFile();
+  for (const char* answer : {"", "*.MES", "*.MSX"}) {
+    EXPECT_EQ(Open(answer), OpenOutcome::kCancelled) << answer;
+  }
+  ExpectTheEditedFileStillOpen();
+}
+
+TEST_F(MessageFileOpenerTest, IgnoresAFileOfAnotherType) {
+  EditAFile();
+  for (const char* name : {"TEST.MSX.MES", "TEST.MES.bak", "TEST.TXT", "TEST"}) {
+    EXPECT_EQ(Open(name, MesFile().Bytes()), OpenOutcome::kCancelled) << name;
+  }
+  ExpectTheEditedFileStillOpen();
+  EXPECT_THAT(dialogs_.messages, IsEmpty());
+}
+
+TEST_F(MessageFileOpenerTest, OffersToSaveChangesBeforeItAsksForAFile) {
+  EditAFile();
+  Modify();
+  dialogs_.yes_no_answers = {MessageAnswer::kYes};
+  Open("FILE.MES", MesFile().Bytes());
+  ASSERT_THAT(dialogs_.messages, SizeIs(1));
+  EXPECT_EQ(dialogs_.messages[0].text, "text 43");
+  EXPECT_THAT(Slurp(folder_ / "EDITED.MES"), HasSubstr("NEW 11111222"));
+}
+
+TEST_F(MessageFileOpenerTest, HasOfferedToSaveEvenWhenItIsCancelled) {
+  EditAFile();
+  Modify();
+  dialogs_.yes_no_answers = {MessageAnswer::kNo};
+  EXPECT_EQ(Open(""), OpenOutcome::kCancelled);
+  EXPECT_EQ(set_.Modified, kFalse);
+  EXPECT_EQ(Slurp(folder_ / "EDITED.MES"), MesFile().Bytes());
+}
+
+TEST_F(MessageFileOpenerTest, AsksForNoFileWhenChangesCannotBeSaved) {
+  EditAFile();
+  Modify();
+  fs::remove(folder_ / "EDITED.MES");
+  dialogs_.yes_no_answers = {MessageAnswer::kYes};
+  EXPECT_EQ(engine_.opener.Open(), OpenOutcome::kCancelled);
+  EXPECT_THAT(dialogs_.open_requests, IsEmpty());
+  ExpectTheEditedFileStillOpen();
+}
+
+TEST_F(MessageFileOpenerTest, NeverTakesABinaryFileForASource) {
+  for (const std::size_t languages : {1U, 31U}) {
+    EXPECT_EQ(Open("FILE.MES", MesFile{.lang_count = languages}.Bytes()), OpenOutcome::kOpened);
+    EXPECT_EQ(set_.LangCount, languages);
+  }
+  EXPECT_THAT(dialogs_.inputs, IsEmpty());
+}
+
+TEST_F(MessageFileOpenerTest, TakesABinaryFileWith32LanguagesForASource) {
+  const fs::path path = folder_.Write("FILE.MES", MesFile{.lang_count = 32}.Bytes());
+  EXPECT_THAT(ReasonAgainst(path), HasSubstr("no quoted text"));
+}
+
+TEST_F(MessageFileOpenerTest, ImportsASource) {
+  dialogs_.input_answers = {"2", "1", "&H6000", "24", "italiano"};
+  dialogs_.file_answers = {folder_.Write("SOURCE.MES", " DC.B 'ABCD'\n DC.B 'EFGH'\n"),
+                           folder_ / "NEW.MES"};
+  EXPECT_EQ(engine_.opener.Open(), OpenOutcome::kOpened);
+  EXPECT_EQ(set_.CurrentFileName, folder_ / "NEW.MES");
+  EXPECT_EQ(menus_.mnuDes[1].caption, "ITALIANO");
+}
+
+TEST_F(MessageFileOpenerTest, ImportsASourceOfAnyName) {
+  dialogs_.input_answers = {"2", "1", "&H6000", "24", "italiano"};
+  dialogs_.file_answers = {folder_ / "NEW.MES"};
+  EXPECT_EQ(engine_.opener.Import(folder_.Write("firmware.src", " DC.B 'ABCD'\n")),
+            OpenOutcome::kOpened);
+  EXPECT_EQ(set_.CurrentFileName, folder_ / "NEW.MES");
+}
+
+TEST_F(MessageFileOpenerTest, ImportsNoBinaryFile) {
+  EditAFile();
+  const fs::path path = folder_.Write("firmware.src", MesFile().Bytes());
+  EXPECT_THROW(engine_.opener.Import(path), FileError);
+  ExpectTheEditedFileStillOpen();
+}
+
+TEST_F(MessageFileOpenerTest, LeavesEverythingAsItWasWhenAFileIsRefused) {
+  const std::string mes = MesFile().Bytes();
+  const std::string msx = MsxFile(1);
+  const std::size_t name_data = msx.find(test::HexOf("   LANGUAGE 1   "));
+  const std::vector<std::pair<std::string_view, std::string>> refused = {
+      {"WIDE.MES", MesFile{.width = 41}.Bytes()},
+      {"LONG.MES", MesFile{.last_msg = 513, .stride = 513}.Bytes()},
+      {"NONE.MES", MesFile{.lang_count = 0}.Bytes()},
+      {"DIGIT.MES", MesFile{.mem_start = "0000600G"}.Bytes()},
+      {"HEADER.MES", mes.substr(0, 23)},
+      {"NAME.MES", mes.substr(0, 43)},
+      {"QUOTE.MES", " DC.B 'ABCD'\r\n; don't\r\n"},
+      {"EMPTY.MES", "; no text\r\n"},
+      {"NAME.MSX", msx.substr(0, name_data + 20)},
+      {"DIGIT.MSX", std::string(msx).replace(name_data, 1, "G")},
+      {"RETURN.MSX", std::string(msx).replace(msx.find("\r\n"), 2, "\r")},
+  };
+  EditAFile();
+  const std::uint32_t opened = set_.OpenedFiles;
+  for (const auto& [name, content] : refused) {
+    EXPECT_THAT(ReasonAgainst(folder_.Write(name, content)), HasSubstr((folder_ / name).string()));
+    ExpectTheEditedFileStillOpen();
+    EXPECT_EQ(set_.OpenedFiles, opened) << name;
+    EXPECT_EQ(Slurp(folder_ / name), content);
+  }
+  EXPECT_THAT(dialogs_.messages, IsEmpty());
+}
+
+TEST_F(MessageFileOpenerTest, RefusesWhatIsNoReadableFile) {
+  EditAFile();
+  for (const char* name : {"DIR.MES", "DIR.MSX"}) {
+    fs::create_directory(folder_ / name);
+    EXPECT_THAT(ReasonAgainst(folder_ / name), HasSubstr(name));
+  }
+  for (const char* name : {"none.MES", "none.MSX", "none/none.MES"}) {
+    EXPECT_THAT(ReasonAgainst(folder_ / name), HasSubstr(name));
+  }
+  EXPECT_NE(ReasonAgainst(folder_.Write("EMPTY.MES", "")), "none");
+  ExpectTheEditedFileStillOpen();
+}
+
+TEST_F(MessageFileOpenerTest, RefusesAFileThatMayNotBeRead) {
+  EditAFile();
+  for (const char* name : {"LOCKED.MES", "LOCKED.MSX"}) {
+    const fs::path path = folder_.Write(name, MesFile().Bytes());
+    fs::permissions(path, fs::perms::none);
+    const test::OrdinaryUser ordinary_user;
+    if (!ordinary_user.holds()) {
+      GTEST_SKIP() << "this user may read every file";
+    }
+    EXPECT_THAT(ReasonAgainst(path), HasSubstr(path.string()));
+  }
+  ExpectTheEditedFileStillOpen();
+}
+
+TEST_F(MessageFileOpenerTest, RefusesAFileOfGigabytes) {
+  for (const char* name : {"HUGE.MES", "HUGE.MSX"}) {
+    const fs::path path = folder_.Write(name, MsxFile(0));
+    fs::resize_file(path, std::uintmax_t{1} << 31U);
+    EXPECT_THAT(ReasonAgainst(path), HasSubstr("too large"));
+  }
+}
+
+TEST_F(MessageFileOpenerTest, TakesOrRefusesAMesFileCutAtAnyByte) {
+  const std::string content = MesFile().Bytes();
+  for (std::size_t size = 0; size <= content.size(); ++size) {
+    ExpectNoAccident("FILE.MES", content.substr(0, size));
+  }
+}
+
+TEST_F(MessageFileOpenerTest, TakesOrRefusesAnMsxFileCutAnywhere) {
+  const std::string content = MsxFile(1);
+  for (std::size_t size = 0; size < 60; ++size) {
+    ExpectNoAccident("FILE.MSX", content.substr(0, size));
+    ExpectNoAccident("FILE.MSX", content.substr(0, content.size() - size));
+  }
+}
+
+TEST_F(MessageFileOpenerTest, TakesOrRefusesRandomBytes) {
+  std::mt19937 random(417);
+  for (int i = 0; i < 100; ++i) {
+    std::string bytes(random() % 300, '\0');
+    for (char& byte : bytes) {
+      byte = static_cast<char>(random());
+    }
+    ExpectNoAccident("FILE.MSX", bytes);
+    ExpectNoAccident("FILE.MSX", MsxFile(0) + bytes);
+    // Below 32, and so no source.
+    ExpectNoAccident("FILE.MES", static_cast<char>(random() % 32) + bytes);
+    // Random dimensions behind a header that is well formed.
+    std::string mes = MesFile{.lang_count = 1 + random() % 31, .width = 1 + random() % 60}.Bytes();
+    for (std::size_t digit = 2; digit < 24; ++digit) {
+      mes[digit] = "0123456789ABCDEF"[random() % (digit == 8 ? 1 : 16)];
+    }
+    ExpectNoAccident("FILE.MES", mes + bytes);
+  }
+}
+
+}  // namespace
+}  // namespace vendlingua

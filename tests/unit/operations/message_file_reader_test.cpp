@@ -1,0 +1,399 @@
+#include "core/operations/message_file_reader.h"
+
+#include <gmock/gmock.h>
+
+#include <algorithm>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "core/platform/errors.h"
+#include "support/engine_test.h"
+
+namespace vendlingua {
+namespace {
+
+using test::Codes;
+using test::MesFile;
+using test::MsxFile;
+using ::testing::ElementsAre;
+using ::testing::HasSubstr;
+using ::testing::IsEmpty;
+using ::testing::SizeIs;
+
+class MessageFileReaderTest : public test::EngineTest {
+ protected:
+  // Captions of the visible entries of a language menu from entry `first` on.
+  static std::vector<std::string> Visible(const MenuState::LanguageMenu& menu,
+                                          std::size_t first = 0) {
+    std::vector<std::string> captions;
+    for (std::size_t i = first; i < menu.size(); ++i) {
+      if (menu[i].visible) {
+        captions.push_back(menu[i].caption);
+      }
+    }
+    return captions;
+  }
+
+  // Leaves the traces of a file that is being edited everywhere.
+  void EditAnotherFile() {
+    Open("OTHER.MES", MesFile{.flags = "0B", .names = {"Default", "ITALIANO", "ENGLISH"}}.Bytes());
+    engine_.languages.ChooseOrigin(1);
+    engine_.languages.ChooseDestination(2);
+    engine_.view.Scroll(2);
+    set_.DestText.back() = DisplayText(Codes("last"));
+    view_.Label9Visible = true;
+    view_.Command2Visible = true;
+    view_.height = ViewState::kFullHeight;
+    dialogs_.pending_event_runs = 0;
+  }
+
+  void ExpectResetEditor() const {
+    EXPECT_FALSE(std::any_of(view_.Label5.begin(), view_.Label5.end(),
+                             [](const OriginCell& cell) { return cell.visible; }));
+    EXPECT_EQ(view_.Label6, 0);
+    EXPECT_FALSE(view_.Text1.enabled);
+    EXPECT_TRUE(view_.Text1.text.empty());
+    EXPECT_FALSE(view_.Command1Enabled);
+    EXPECT_FALSE(view_.HScroll1.enabled);
+    EXPECT_EQ(view_.HScroll1.value, 0);
+    EXPECT_FALSE(menus_.mnuDest.enabled);
+    EXPECT_FALSE(menus_.mnuSave.enabled);
+    EXPECT_FALSE(menus_.mnuSaas.enabled);
+    EXPECT_FALSE(menus_.mnuTLCD.enabled);
+  }
+
+  void ExpectResetSet() const {
+    EXPECT_EQ(set_.DestLang, 0);
+    EXPECT_EQ(set_.Modified, kFalse);
+    EXPECT_TRUE(std::all_of(set_.DestText.begin(), set_.DestText.end(),
+                            [](const DisplayText& text) { return text == DisplayText(); }));
+  }
+
+  std::string ReasonAgainstOpening(std::string_view name, std::string_view content) {
+    try {
+      Open(name, content);
+    } catch (const FileError& error) {
+      return error.what();
+    }
+    return "none";
+  }
+};
+
+using MesReaderTest = MessageFileReaderTest;
+
+TEST_F(MesReaderTest, TakesTheDimensionsFromTheHeader) {
+  Open("FILE.MES", MesFile{.last_msg = 1,
+                           .flags = "02",
+                           .header_count = "000A",
+                           .mem_start = "00FF8000",
+                           .stride = 5}
+                       .Bytes());
+  EXPECT_EQ(set_.LangCount, 2);
+  EXPECT_EQ(set_.LastCol, 3);
+  EXPECT_EQ(set_.HeaderBit1, 65535);
+  EXPECT_EQ(set_.HeaderBit0, 0);
+  EXPECT_EQ(set_.HeaderCount, 10);
+  EXPECT_EQ(set_.LastMsg, 1);
+  EXPECT_EQ(set_.MemStart, 0xFF8000U);
+  EXPECT_EQ(set_.MemLength, 40U);
+  EXPECT_EQ(set_.LangStride, 5);
+  EXPECT_EQ(set_.BlockLength, 44.0F);
+}
+
+TEST_F(MesReaderTest, SetsBothHeaderBooleansAndDisplayType3ForFlags15) {
+  Open("FILE.MES", MesFile{.flags = "0F"}.Bytes());
+  EXPECT_EQ(set_.HeaderBit1, 65535);
+  EXPECT_EQ(set_.HeaderBit0, 65535);
+  EXPECT_TRUE(menus_.mnuLCD[3].checked);
+}
+
+TEST_F(MesReaderTest, ChecksTheDisplayTypeOfTheFlagsAndNoOther) {
+  const std::vector<std::string> flags = {"00", "04", "08", "0C"};
+  for (std::size_t type = 0; type < flags.size(); ++type) {
+    Open("FILE.MES", MesFile{.flags = flags[type]}.Bytes());
+    for (std::size_t i = 0; i < menus_.mnuLCD.size(); ++i) {
+      EXPECT_EQ(menus_.mnuLCD[i].checked, i == type) << type << ' ' << i;
+    }
+  }
+}
+
+TEST_F(MesReaderTest, NeverTakesTheDisplayTypeOfAFileForAChange) {
+  Open("ONE.MES", MesFile{.flags = "04"}.Bytes());
+  Open("TWO.MES", MesFile{.flags = "08"}.Bytes());
+  EXPECT_EQ(set_.Modified, kFalse);
+}
+
+TEST_F(MesReaderTest, ShowsEveryLanguageInAllThreeMenus) {
+  Open("FILE.MES", MesFile{.names = {"Default", "ITALIANO", "ENGLISH"}}.Bytes());
+  EXPECT_THAT(Visible(menus_.mnuori), ElementsAre("Default", "ITALIANO", "ENGLISH"));
+  EXPECT_THAT(Visible(menus_.mnuDes), ElementsAre("Default", "ITALIANO", "ENGLISH"));
+  EXPECT_THAT(Visible(menus_.mnuNew), ElementsAre("Default", "ITALIANO", "ENGLISH"));
+}
+
+TEST_F(MesReaderTest, ShowsOneOriginForAFileWithOnlyTheDefaultBlock) {
+  Open("FILE.MES", MesFile{.names = {"Default"}}.Bytes());
+  EXPECT_THAT(Visible(menus_.mnuori), ElementsAre("Default"));
+}
+
+TEST_F(MesReaderTest, TrimsNamesOnTheRightOnly) {
+  Open("FILE.MES", MesFile{.names = {"Default", "  ITALIANO  "}}.Bytes());
+  EXPECT_EQ(menus_.mnuDes[1].caption, "  ITALIANO");
+}
+
+TEST_F(MesReaderTest, ShowsNamesInUtf8) {
+  Open("FILE.MES", MesFile{.names = {"Default", "PORTUGU\xCAS"}}.Bytes());
+  EXPECT_EQ(menus_.mnuDes[1].caption, "PORTUGUÊS");
+}
+
+TEST_F(MesReaderTest, ShowsNoLanguageBeyondEntry100) {
+  MesFile file;
+  file.names.assign(103, "X");
+  Open("FILE.MES", file.Bytes());
+  EXPECT_THAT(Visible(menus_.mnuDes), SizeIs(101));
+}
+
+TEST_F(MesReaderTest, OffersOriginAndCompilerButNoDestinationYet) {
+  Open("FILE.MES", MesFile().Bytes());
+  EXPECT_TRUE(menus_.mnuOrig.enabled);
+  EXPECT_TRUE(menus_.mnuMake.enabled);
+  EXPECT_FALSE(menus_.mnuNew[0].enabled);
+  EXPECT_FALSE(menus_.mnuDest.enabled);
+}
+
+TEST_F(MesReaderTest, ResetsTheEditor) {
+  EditAnotherFile();
+  Open("FILE.MES", MesFile().Bytes());
+  ExpectResetEditor();
+  EXPECT_FALSE(view_.Label8Enabled[0] || view_.Label8Enabled[1]);
+  EXPECT_FALSE(view_.Label9Visible);
+  EXPECT_FALSE(view_.Command2Visible);
+  EXPECT_EQ(view_.height, 2925);
+  EXPECT_EQ(view_.caption, "FILE.MES");
+}
+
+TEST_F(MesReaderTest, ResetsTheSet) {
+  EditAnotherFile();
+  Open("FILE.MES", MesFile().Bytes());
+  ExpectResetSet();
+  EXPECT_EQ(set_.HeaderBit1, kFalse);
+  EXPECT_EQ(set_.HeaderBit0, kFalse);
+}
+
+TEST_F(MesReaderTest, ForgetsTheLanguagesOfTheFileBefore) {
+  EditAnotherFile();
+  Open("FILE.MES", MesFile{.names = {"Default"}}.Bytes());
+  for (const auto* menu : {&menus_.mnuori, &menus_.mnuDes, &menus_.mnuNew}) {
+    EXPECT_THAT(Visible(*menu), ElementsAre("Default"));
+    EXPECT_EQ((*menu)[1].caption, "");
+    EXPECT_EQ((*menu)[2].caption, "");
+  }
+}
+
+TEST_F(MesReaderTest, LetsPendingEventsRunOnce) {
+  EditAnotherFile();
+  Open("FILE.MES", MesFile().Bytes());
+  EXPECT_EQ(dialogs_.pending_event_runs, 1);
+}
+
+TEST_F(MesReaderTest, CountsTheFileAsOpened) {
+  Open("FILE.MES", MesFile().Bytes());
+  const std::uint32_t opened = set_.OpenedFiles;
+  Open("FILE.MES", MesFile().Bytes());
+  EXPECT_EQ(set_.OpenedFiles, opened + 1);
+  engine_.reader.Reload();
+  EXPECT_EQ(set_.OpenedFiles, opened + 1);
+}
+
+TEST_F(MesReaderTest, RefusesAHeaderThatIsCut) {
+  for (std::size_t size = 0; size < 24; ++size) {
+    EXPECT_THAT(ReasonAgainstOpening("FILE.MES", MesFile().Bytes().substr(0, size)),
+                HasSubstr((folder_ / "FILE.MES").string()))
+        << size;
+  }
+}
+
+TEST_F(MesReaderTest, RefusesAFileWithoutTheNameOfItsFirstBlock) {
+  const std::string bytes = MesFile().Bytes();
+  EXPECT_NE(ReasonAgainstOpening("FILE.MES", bytes.substr(0, 43)), "none");
+  EXPECT_EQ(ReasonAgainstOpening("FILE.MES", bytes.substr(0, 44)), "none");
+}
+
+TEST_F(MesReaderTest, NamesFilePlaceAndValueOfABadHeaderField) {
+  const std::string reason =
+      ReasonAgainstOpening("FILE.MES", MesFile{.header_count = "0O01"}.Bytes());
+  EXPECT_THAT(reason, HasSubstr((folder_ / "FILE.MES").string()));
+  EXPECT_THAT(reason, HasSubstr("HeaderCount at position 5"));
+  EXPECT_THAT(reason, HasSubstr("\"0O01\""));
+}
+
+TEST_F(MesReaderTest, RefusesLangCountZero) {
+  std::string bytes = MesFile().Bytes();
+  bytes[0] = '\0';
+  EXPECT_THAT(ReasonAgainstOpening("FILE.MES", bytes), HasSubstr("number of languages is 0"));
+}
+
+TEST_F(MesReaderTest, RefusesASetThatIsTooWide) {
+  EXPECT_EQ(ReasonAgainstOpening("FILE.MES", MesFile{.width = 40}.Bytes()), "none");
+  EXPECT_THAT(ReasonAgainstOpening("FILE.MES", MesFile{.width = 41}.Bytes()),
+              HasSubstr("41 cells"));
+}
+
+TEST_F(MesReaderTest, RefusesASetWithTooManyMessages) {
+  EXPECT_EQ(ReasonAgainstOpening("FILE.MES", MesFile{.last_msg = 512, .stride = 512}.Bytes()),
+            "none");
+  EXPECT_THAT(ReasonAgainstOpening("FILE.MES", MesFile{.last_msg = 513, .stride = 513}.Bytes()),
+              HasSubstr("514 messages"));
+}
+
+// 16 x (2047 + 1) + 20 bytes wrap to -32748.
+TEST_F(MesReaderTest, RefusesABlockLengthThatLeadsBeforeTheStartOfTheFile) {
+  const MesFile file{.lang_count = 1, .width = 16, .stride = 2047, .names = {"Default"}};
+  EXPECT_THAT(ReasonAgainstOpening("FILE.MES", file.Bytes()), HasSubstr("-32748"));
+}
+
+// 16 x (4095 + 1) + 20 bytes wrap to 20.
+TEST_F(MesReaderTest, TakesABlockLengthThatWrapsToAPositiveValue) {
+  std::string bytes = MesFile{.lang_count = 1, .width = 16, .names = {"Default"}}.Bytes();
+  bytes.replace(20, 4, "FFF0");
+  Open("FILE.MES", bytes);
+  EXPECT_EQ(set_.LangStride, 4095);
+  EXPECT_EQ(set_.BlockLength, 20.0F);
+  EXPECT_EQ(menus_.mnuDes[1].caption, "00000000000000000111");
+}
+
+using MsxReaderTest = MessageFileReaderTest;
+
+TEST_F(MsxReaderTest, TakesTheBuiltInDimensions) {
+  Open("FILE.MSX", MsxFile(1));
+  EXPECT_EQ(set_.LastCol, 15);
+  EXPECT_EQ(set_.HeaderBit1, kTrue);
+  EXPECT_EQ(set_.HeaderBit0, kTrue);
+  EXPECT_EQ(set_.HeaderCount, 171);
+  EXPECT_EQ(set_.LastMsg, 454);
+  EXPECT_EQ(set_.MemStart, 0xFF0000U);
+  EXPECT_EQ(set_.MemLength, 65520U);
+  EXPECT_EQ(set_.LangStride, 455);
+  EXPECT_TRUE(menus_.mnuLCD[0].checked);
+}
+
+TEST_F(MsxReaderTest, LeavesLangCountAsItIs) {
+  Open("OTHER.MES", MesFile{.lang_count = 3}.Bytes());
+  Open("FILE.MSX", MsxFile(1));
+  EXPECT_EQ(set_.LangCount, 3);
+}
+
+TEST_F(MsxReaderTest, ShowsItsLanguagesFromEntry1On) {
+  Open("FILE.MSX", MsxFile(2));
+  EXPECT_THAT(Visible(menus_.mnuori, 1), ElementsAre("LANGUAGE 1", "LANGUAGE 2"));
+  EXPECT_THAT(Visible(menus_.mnuDes, 1), ElementsAre("LANGUAGE 1", "LANGUAGE 2"));
+}
+
+TEST_F(MsxReaderTest, CaptionsNewLanguagesWithText14AndTheName) {
+  Open("FILE.MSX", MsxFile(2));
+  EXPECT_THAT(Visible(menus_.mnuNew, 1), ElementsAre("text 14 LANGUAGE 1", "text 14 LANGUAGE 2"));
+}
+
+TEST_F(MsxReaderTest, ShowsNineLanguagesAtMost) {
+  Open("FILE.MSX", MsxFile(10));
+  EXPECT_THAT(Visible(menus_.mnuDes, 1), SizeIs(9));
+}
+
+TEST_F(MsxReaderTest, LeavesEntry0OfEveryMenuAsItIs) {
+  menus_.mnuDes[0].caption = "New...";
+  menus_.mnuNew[0].caption = "Blank";
+  Open("FILE.MSX", MsxFile(1));
+  EXPECT_EQ(menus_.mnuori[0].caption, "Italiano");
+  EXPECT_EQ(menus_.mnuDes[0].caption, "New...");
+  EXPECT_EQ(menus_.mnuNew[0].caption, "Blank");
+}
+
+TEST_F(MsxReaderTest, OffersOriginAndCompilerButNoDestinationYet) {
+  Open("FILE.MSX", MsxFile(1));
+  EXPECT_TRUE(menus_.mnuOrig.enabled);
+  EXPECT_TRUE(menus_.mnuMake.enabled);
+  EXPECT_FALSE(menus_.mnuNew[0].enabled);
+  EXPECT_FALSE(menus_.mnuDest.enabled);
+}
+
+TEST_F(MsxReaderTest, ResetsEditorSetAndMenus) {
+  EditAnotherFile();
+  Open("FILE.MSX", MsxFile(1));
+  ExpectResetEditor();
+  ExpectResetSet();
+  EXPECT_THAT(Visible(menus_.mnuori, 1), ElementsAre("LANGUAGE 1"));
+  EXPECT_EQ(menus_.mnuDes[2].caption, "");
+  EXPECT_EQ(menus_.mnuNew[2].caption, "");
+}
+
+TEST_F(MsxReaderTest, ResetsHeadingsAndCaptionAndHidesTheButtonForANewMessage) {
+  EditAnotherFile();
+  Open("FILE.MSX", MsxFile(1));
+  EXPECT_FALSE(view_.Label8Enabled[0] || view_.Label8Enabled[1]);
+  EXPECT_FALSE(view_.Label9Visible);
+  EXPECT_FALSE(view_.Command2Visible);
+  EXPECT_EQ(view_.caption, "FILE.MSX");
+}
+
+TEST_F(MsxReaderTest, KeepsTheHeightOfTheWindow) {
+  EditAnotherFile();
+  Open("FILE.MSX", MsxFile(1));
+  EXPECT_EQ(view_.height, ViewState::kFullHeight);
+}
+
+TEST_F(MsxReaderTest, HidesALanguageThatIsGoneWhenItReadsAgain) {
+  Open("FILE.MSX", MsxFile(2));
+  folder_.Write("FILE.MSX", MsxFile(1));
+  engine_.reader.Reload();
+  EXPECT_THAT(Visible(menus_.mnuori, 1), ElementsAre("LANGUAGE 1"));
+  EXPECT_THAT(Visible(menus_.mnuDes, 1), ElementsAre("LANGUAGE 1"));
+}
+
+TEST_F(MsxReaderTest, TellsThatAFirmwareIsNotManaged) {
+  EXPECT_EQ(Open("FILE.MSX", MsxFile(1, "0267")), OpenOutcome::kRefused);
+  ASSERT_THAT(dialogs_.messages, SizeIs(1));
+  EXPECT_EQ(dialogs_.messages[0].icon, MessageIcon::kCritical);
+  EXPECT_EQ(dialogs_.messages[0].text, " File not managed ! ");
+  EXPECT_EQ(dialogs_.messages[0].title, "ERROR");
+  EXPECT_EQ(dialogs_.messages[0].buttons, MessageButtons::kOk);
+}
+
+TEST_F(MsxReaderTest, ShowsNoLanguageOfAFirmwareThatIsNotManaged) {
+  EditAnotherFile();
+  Open("FILE.MSX", MsxFile(1, "0267"));
+  EXPECT_THAT(Visible(menus_.mnuori, 1), IsEmpty());
+  EXPECT_THAT(Visible(menus_.mnuDes, 1), IsEmpty());
+  EXPECT_THAT(Visible(menus_.mnuNew, 1), IsEmpty());
+  EXPECT_FALSE(menus_.mnuOrig.enabled);
+  EXPECT_FALSE(menus_.mnuMake.enabled);
+  ExpectResetEditor();
+}
+
+TEST_F(MsxReaderTest, RefusesAnEmptyFile) {
+  EXPECT_EQ(Open("FILE.MSX", ""), OpenOutcome::kRefused);
+  EXPECT_THAT(dialogs_.messages, SizeIs(1));
+}
+
+TEST_F(MsxReaderTest, NamesFileAndLineOfABadName) {
+  std::string content = MsxFile(1);
+  content.replace(content.find(test::HexOf("   LANGUAGE 1   ")), 2, "?!");
+  const std::string reason = ReasonAgainstOpening("FILE.MSX", content);
+  EXPECT_THAT(reason, HasSubstr((folder_ / "FILE.MSX").string()));
+  EXPECT_THAT(reason, HasSubstr("line 171 "));
+}
+
+TEST_F(MessageFileReaderTest, ReloadsWhatChangedInTheFile) {
+  Open("FILE.MES", MesFile().Bytes());
+  folder_.Write("FILE.MES", MesFile{.last_msg = 1, .names = {"Default", "X", "Y"}}.Bytes());
+  EXPECT_TRUE(engine_.reader.Reload());
+  EXPECT_EQ(set_.LastMsg, 1);
+  EXPECT_THAT(Visible(menus_.mnuDes), ElementsAre("Default", "X", "Y"));
+}
+
+TEST_F(MessageFileReaderTest, ReloadsNothingWithoutAnOpenFile) {
+  EXPECT_TRUE(engine_.reader.Reload());
+  EXPECT_FALSE(menus_.mnuOrig.enabled);
+}
+
+}  // namespace
+}  // namespace vendlingua

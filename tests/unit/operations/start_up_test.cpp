@@ -1,0 +1,208 @@
+#include "core/operations/start_up.h"
+
+#include <gmock/gmock.h>
+
+#include <filesystem>
+#include <string>
+#include <vector>
+
+#include "support/scripted_dialogs.h"
+#include "support/temporary_folder.h"
+
+namespace vendlingua {
+namespace {
+
+using test::ScriptedDialogs;
+using test::TemporaryFolder;
+using testing::IsEmpty;
+using testing::SizeIs;
+
+class FixedFontList : public FontList {
+ public:
+  std::vector<std::string> families = {"Courier", "LCD", "LCD_CY", "LCD KTV", "LCD HBR"};
+
+  std::vector<std::string> Families() const override { return families; }
+};
+
+// A program folder that holds the language files that a test wants.
+class StartUpTest : public testing::Test {
+ protected:
+  StartUpTest() {
+    workspace_.folders.program = folder_.path();
+    workspace_.folders.settings = folder_ / "vendlingua.ini";
+    workspace_.folders.user_settings = folder_ / "user/vendlingua.ini";
+  }
+
+  // A language file with a name of its own in entry 1 and texts in the others.
+  void AddLanguage(const std::string& name) {
+    std::string content = name + "\r\n";
+    for (int entry = 2; entry <= 60; ++entry) {
+      content += "text " + std::to_string(entry) + "\r\n";
+    }
+    folder_.Write(name + ".lng", content);
+  }
+
+  // "a" to "j" and, tenth in alphabetical order, "italiano".
+  void AddElevenLanguages() {
+    AddLanguage("italiano");
+    for (char letter = 'a'; letter <= 'j'; ++letter) {
+      AddLanguage(std::string(1, letter));
+    }
+  }
+
+  bool Start() { return StartUp(workspace_, dialogs_, fonts_).Form_Load(); }
+
+  std::string CheckedLanguage() const {
+    for (const MenuEntry& entry : workspace_.menus.smnuLingue) {
+      if (entry.checked) {
+        return entry.caption;
+      }
+    }
+    return "";
+  }
+
+  TemporaryFolder folder_;
+  ScriptedDialogs dialogs_;
+  FixedFontList fonts_;
+  Workspace workspace_;
+};
+
+TEST(FontMask, HasABitForEachDisplayFont) {
+  const std::vector<std::string> families = {"LCD", "Arial", "LCD_CY", "LCD HBR"};
+  EXPECT_EQ(FontMask(families), 11);
+}
+
+TEST(FontMask, TakesNamesInAnyCase) {
+  const std::vector<std::string> families = {"lcd_cy"};
+  EXPECT_EQ(FontMask(families), 2);
+}
+
+TEST(FontMask, TakesWholeNamesOnly) {
+  const std::vector<std::string> families = {"LCD Mono", "LCD KTV 2", "XLCD"};
+  EXPECT_EQ(FontMask(families), 0);
+}
+
+TEST_F(StartUpTest, GoesOnWithTheFirstLanguageWithoutSettings) {
+  AddLanguage("italiano");
+  AddLanguage("Dansk");
+  EXPECT_TRUE(Start());
+  EXPECT_EQ(CheckedLanguage(), "Dansk");
+  EXPECT_EQ(workspace_.LanguageName, "Dansk");
+  EXPECT_EQ(workspace_.menus.mnuFile.caption, "Dansk");
+  EXPECT_EQ(workspace_.view.caption, "Vendlingua");
+  EXPECT_THAT(dialogs_.messages, IsEmpty());
+}
+
+TEST_F(StartUpTest, GoesOnWithTheFirstLanguageForAnEmptyNameInTheSettings) {
+  AddLanguage("italiano");
+  AddLanguage("dansk");
+  folder_.Write("vendlingua.ini", "Lingua=\r\n");
+  EXPECT_TRUE(Start());
+  EXPECT_EQ(CheckedLanguage(), "dansk");
+  EXPECT_EQ(workspace_.menus.mnuFile.caption, "dansk");
+}
+
+TEST_F(StartUpTest, ListsLanguagesInAlphabeticalOrderWithoutRegardToCase) {
+  AddLanguage("italiano");
+  AddLanguage("Svenska");
+  AddLanguage("deutsch");
+  EXPECT_TRUE(Start());
+  EXPECT_EQ(workspace_.menus.smnuLingue[0].caption, "deutsch");
+  EXPECT_EQ(workspace_.menus.smnuLingue[1].caption, "italiano");
+  EXPECT_EQ(workspace_.menus.smnuLingue[2].caption, "Svenska");
+  EXPECT_FALSE(workspace_.menus.smnuLingue[3].visible);
+}
+
+TEST_F(StartUpTest, LoadsTheLanguageOfTheSettings) {
+  AddLanguage("dansk");
+  AddLanguage("italiano");
+  folder_.Write("vendlingua.ini", "Lingua=italiano\r\n");
+  EXPECT_TRUE(Start());
+  EXPECT_EQ(CheckedLanguage(), "italiano");
+  EXPECT_EQ(workspace_.menus.mnuFile.caption, "italiano");
+}
+
+TEST_F(StartUpTest, FallsBackWhenTheLanguageOfTheSettingsIsGone) {
+  AddLanguage("dansk");
+  AddLanguage("italiano");
+  folder_.Write("vendlingua.ini", "Lingua=latino\r\n");
+  EXPECT_TRUE(Start());
+  EXPECT_EQ(CheckedLanguage(), "dansk");
+}
+
+TEST_F(StartUpTest, TheUsersOwnSettingsGoFirst) {
+  AddLanguage("dansk");
+  AddLanguage("italiano");
+  folder_.Write("vendlingua.ini", "Lingua=dansk\r\n");
+  std::filesystem::create_directory(folder_ / "user");
+  folder_.Write("user/vendlingua.ini", "Lingua=italiano\r\n");
+  EXPECT_TRUE(Start());
+  EXPECT_EQ(CheckedLanguage(), "italiano");
+}
+
+TEST_F(StartUpTest, ListsTenLanguagesAtMost) {
+  AddElevenLanguages();
+  EXPECT_TRUE(Start());
+  EXPECT_EQ(workspace_.menus.smnuLingue.front().caption, "a");
+  EXPECT_EQ(workspace_.menus.smnuLingue[8].caption, "i");
+  EXPECT_EQ(workspace_.menus.smnuLingue.back().caption, "italiano");
+  EXPECT_TRUE(workspace_.menus.smnuLingue.back().visible);
+}
+
+TEST_F(StartUpTest, NeverLoadsTheTenthLanguage) {
+  AddElevenLanguages();
+  folder_.Write("vendlingua.ini", "Lingua=italiano\r\n");
+  EXPECT_TRUE(Start());
+  EXPECT_EQ(CheckedLanguage(), "a");
+}
+
+TEST_F(StartUpTest, LoadsTheNinthLanguage) {
+  AddElevenLanguages();
+  folder_.Write("vendlingua.ini", "Lingua=i\r\n");
+  EXPECT_TRUE(Start());
+  EXPECT_EQ(CheckedLanguage(), "i");
+}
+
+TEST_F(StartUpTest, EndsWithoutTheDisplayFonts) {
+  AddLanguage("italiano");
+  fonts_.families = {"LCD", "LCD_CY", "LCD HBR"};
+  EXPECT_FALSE(Start());
+  ASSERT_THAT(dialogs_.messages, SizeIs(1));
+  EXPECT_EQ(dialogs_.messages.front().text, "text 28\ntext 41");
+  EXPECT_EQ(dialogs_.messages.front().title, "text 29");
+  EXPECT_EQ(dialogs_.messages.front().icon, MessageIcon::kCritical);
+}
+
+TEST_F(StartUpTest, EndsWithoutLanguageFiles) {
+  EXPECT_FALSE(Start());
+  ASSERT_THAT(dialogs_.messages, SizeIs(1));
+  EXPECT_EQ(dialogs_.messages.front().text, "File missing!\nReinstall program");
+  EXPECT_EQ(dialogs_.messages.front().title, "Error");
+  EXPECT_EQ(dialogs_.messages.front().icon, MessageIcon::kCritical);
+}
+
+TEST_F(StartUpTest, EndsWithoutTheReferenceLanguage) {
+  AddLanguage("dansk");
+  EXPECT_FALSE(Start());
+  ASSERT_THAT(dialogs_.messages, SizeIs(1));
+  EXPECT_EQ(dialogs_.messages.front().title, "ERROR");
+}
+
+TEST_F(StartUpTest, EndsWhenALanguageFileCannotBeRead) {
+  AddLanguage("italiano");
+  std::filesystem::create_directory(folder_ / "dansk.lng");
+  EXPECT_FALSE(Start());
+  ASSERT_THAT(dialogs_.messages, SizeIs(1));
+  EXPECT_EQ(dialogs_.messages.front().title, "ERROR");
+  EXPECT_THAT(dialogs_.messages.front().text, testing::HasSubstr("dansk.lng"));
+}
+
+TEST_F(StartUpTest, WorksInTheProgramsFolder) {
+  AddLanguage("italiano");
+  workspace_.folders.current = "/";
+  EXPECT_TRUE(Start());
+  EXPECT_EQ(workspace_.folders.current, folder_.path());
+}
+
+}  // namespace
+}  // namespace vendlingua

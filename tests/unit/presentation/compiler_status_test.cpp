@@ -1,0 +1,38 @@
+#include "core/presentation/compiler_status.h"
+
+#include <gmock/gmock.h>
+
+namespace vendlingua {
+namespace {
+
+class CompilerStatusTest : public testing::Test {
+ protected:
+  CompilerStatusTest() {
+    ui_text_.Set(57, "Files:");
+    ui_text_.Set(58, "To choose:");
+    ui_text_.Set(59, "chosen:");
+  }
+
+  UiText ui_text_;
+};
+
+TEST_F(CompilerStatusTest, CountsTheTickedLanguages) {
+  CompilerState compiler;
+  EXPECT_EQ(SelectionStatus(compiler, 9, ui_text_), "To choose: 9, chosen: 0");
+  compiler.Check1[1].ticked = true;
+  compiler.Check1[100].ticked = true;
+  EXPECT_EQ(SelectionStatus(compiler, 9, ui_text_), "To choose: 9, chosen: 2");
+}
+
+TEST_F(CompilerStatusTest, NamesTheWrittenFilesWithoutTheirFolders) {
+  CompileOutcome outcome;
+  outcome.written = {"/flash/FW0417AB.MHX", "/elsewhere/MP0417AA.MSX"};
+  EXPECT_EQ(WrittenStatus(outcome, ui_text_), "Files: FW0417AB.MHX, MP0417AA.MSX");
+}
+
+TEST_F(CompilerStatusTest, SaysNothingOfARunThatWroteNothing) {
+  EXPECT_EQ(WrittenStatus(CompileOutcome(), ui_text_), "");
+}
+
+}  // namespace
+}  // namespace vendlingua
