@@ -87,9 +87,7 @@ void RunApply(Session& session, const ApplyOptions& options) {
   const std::vector<Edit> edits = TableReader(session.set(), options.table).Read();
   session.OpenDestination(options.language, edits.empty() ? 0 : edits.front().message);
   for (const Edit& edit : edits) {
-    session.engine.view.Scroll(edit.message);
-    session.engine.view.ChangeText(edit.text);
-    session.engine.view.KeyPressed();
+    session.set().SetText(static_cast<std::size_t>(edit.message), edit.text);
   }
   if (!edits.empty()) {
     session.Save();

@@ -2,7 +2,6 @@
 #include <system_error>
 
 #include "cli/commands.h"
-#include "core/flash/language_selection.h"
 #include "core/formats/copy_header.h"
 #include "core/formats/srecord.h"
 #include "core/formats/text_lines.h"
@@ -21,17 +20,16 @@ void TickLanguages(Session& session, std::vector<int> languages) {
   MessageSet& set = session.set();
   std::sort(languages.begin(), languages.end());
   CompilerState& compiler = session.engine.compiler_state;
-  LoadEntries(session.engine.workspace, compiler);
   for (const int language : languages) {
     session.LanguageName(language);
     if (language == 0) {
       throw CommandFailed("--languages: language 0 is the reference and is not compiled");
     }
-    CompilerState::Entry& entry = compiler.Check1[static_cast<std::size_t>(language)];
-    if (entry.ticked) {
+    bool& ticked = compiler.ticked.at(static_cast<std::size_t>(language));
+    if (ticked) {
       throw CommandFailed("--languages: " + std::to_string(language) + " is given twice");
     }
-    entry.ticked = true;
+    ticked = true;
   }
   if (languages.size() != set.LangCount) {
     throw CommandFailed("--languages: the board has " + std::to_string(set.LangCount) +

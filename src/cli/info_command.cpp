@@ -6,20 +6,10 @@
 namespace vendlingua::cli {
 namespace {
 
-std::size_t CheckedDisplayType(const MenuState& menus) {
-  std::size_t type = 0;
-  while (type + 1 < kDisplayTypes && !menus.mnuLCD[type].checked) {
-    ++type;
-  }
-  return type;
-}
-
-Json LanguagesAsJson(const MenuState& menus) {
+Json LanguagesAsJson(const MessageSet& set) {
   Json languages = Json::array();
-  for (std::size_t i = 0; i < menus.mnuori.size(); ++i) {
-    if (menus.mnuori[i].visible) {
-      languages.push_back({{"index", i}, {"name", menus.mnuori[i].caption}});
-    }
+  for (std::size_t i = 0; i < set.language_names.size(); ++i) {
+    languages.push_back({{"index", i}, {"name", set.language_names[i]}});
   }
   return languages;
 }
@@ -44,21 +34,20 @@ std::string AsText(const Json& info) {
 void RunInfo(Session& session, const InfoOptions& options) {
   session.Open(options.file);
   const MessageSet& set = session.set();
-  const MenuState& menus = session.engine.workspace.menus;
   const Json info = {{"file", options.file},
                      {"type", set.CurrentFileType},
                      {"langCount", set.LangCount},
                      {"lastCol", set.LastCol},
                      {"headerBit1", set.HeaderBit1 != kFalse},
                      {"headerBit0", set.HeaderBit0 != kFalse},
-                     {"displayType", CheckedDisplayType(menus)},
+                     {"displayType", set.DisplayType},
                      {"headerCount", set.HeaderCount},
                      {"lastMsg", set.LastMsg},
                      {"memStart", set.MemStart},
                      {"memLength", set.MemLength},
                      {"langStride", set.LangStride},
                      {"blockLength", static_cast<int>(set.BlockLength)},
-                     {"languages", LanguagesAsJson(menus)}};
+                     {"languages", LanguagesAsJson(set)}};
   session.Print(info, AsText(info));
 }
 

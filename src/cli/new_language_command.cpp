@@ -5,11 +5,9 @@ namespace vendlingua::cli {
 namespace {
 
 // Entry 0 of the menu starts blank; its texts as a start are copied message by message.
-void CopyReference(Session& session) {
-  const MessageSet& set = session.set();
+void CopyReference(MessageSet& set) {
   for (std::size_t message = 0; message < set.MessageCount(); ++message) {
-    session.engine.view.Scroll(static_cast<int>(message));
-    session.engine.view.ChangeText(set.OriginText[message].First(set.Width()));
+    set.SetText(message, set.OriginText[message].First(set.Width()));
   }
 }
 
@@ -23,12 +21,11 @@ void RunNewLanguage(Session& session, const NewLanguageOptions& options) {
   const int from = options.from.value_or(0);
   session.LanguageName(from);
   session.engine.languages.ChooseOrigin(0);
-  session.engine.languages.StartNewLanguage(from);
-  if (session.set().Modified == kFalse) {
+  if (session.engine.languages.StartNewLanguage(from) != DestinationOutcome::kOpened) {
     throw CommandFailed(options.file + ": no new language was started");
   }
   if (options.from == 0) {
-    CopyReference(session);
+    CopyReference(session.set());
   }
   session.dialogs.inputs[InputPurpose::kNewLanguageName] = {options.name};
   session.Save();

@@ -26,15 +26,15 @@ void RunPut(Session& session, const PutOptions& options) {
       options.hex ? CodesFromHex(*options.hex) : DisplayCodesOf(options.text.value_or(""));
   session.Open(options.file);
   session.OpenDestination(options.language, options.message);
-  const bool cut = session.engine.view.ChangeText(codes);
-  session.engine.view.KeyPressed();
+  MessageSet& set = session.set();
+  const auto message = static_cast<std::size_t>(options.message);
+  const bool cut = codes.size() > set.Width();
+  set.SetText(message, codes);
   session.Save();
-  const MessageSet& set = session.set();
   if (cut) {
     std::cerr << "the text was cut to " << set.Width() << " cells\n";
   }
-  const std::string stored =
-      ToUtf8(set.DestText[static_cast<std::size_t>(options.message)].First(set.Width()));
+  const std::string stored = ToUtf8(set.DestText[message].First(set.Width()));
   session.Print({{"file", options.file},
                  {"language", options.language},
                  {"message", options.message},

@@ -67,7 +67,7 @@ void Session::OpenDestination(int language, int message) {
   }
   engine.languages.ChooseOrigin(0);
   // Moving stores the message that is left, so the move comes before the texts are read.
-  engine.view.Scroll(message);
+  engine.editing.GoTo(static_cast<std::size_t>(message));
   engine.languages.ChooseDestination(language);
 }
 
@@ -79,13 +79,11 @@ void Session::Save() {
 }
 
 const std::string& Session::LanguageName(int language) {
-  const auto& languages = engine.workspace.menus.mnuori;
-  const auto index = static_cast<std::size_t>(language);
-  if (language < 0 || index >= languages.size() || !languages[index].visible) {
+  if (!set().HoldsLanguage(language)) {
     throw CommandFailed(PathText(set().CurrentFileName) + ": has no language " +
                         std::to_string(language));
   }
-  return languages[index].caption;
+  return set().language_names[static_cast<std::size_t>(language)];
 }
 
 void Session::Print(const Json& json, const std::string& text) const {

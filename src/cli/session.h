@@ -39,13 +39,14 @@ class Session {
   /// Opens a message file. Throws CommandFailed or Error when it is none.
   void Open(const std::filesystem::path& file);
 
-  /// Opens language `language` as destination with message `message` shown, and entry 0 as origin.
+  /// Opens language `language` as destination with message `message` as the current one, and entry
+  /// 0 as origin.
   void OpenDestination(int language, int message);
 
   /// Saves the open file in place.
   void Save();
 
-  /// The name of language `language` as the menus show it. Throws CommandFailed when the file has
+  /// The name of language `language`. Throws CommandFailed when the file has
   /// no such language.
   const std::string& LanguageName(int language);
 

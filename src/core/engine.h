@@ -6,7 +6,7 @@
 #include "core/flash/flash_compiler.h"
 #include "core/flash/flash_image.h"
 #include "core/flash/section_files.h"
-#include "core/operations/editor_view.h"
+#include "core/operations/editing.h"
 #include "core/operations/languages.h"
 #include "core/operations/message_file_opener.h"
 #include "core/operations/message_file_reader.h"
@@ -20,12 +20,12 @@ namespace vendlingua {
 /// made by its main() and handed down by reference.
 struct Engine {
   explicit Engine(Dialogs& dialogs)
-      : view(workspace),
-        reader(workspace, dialogs, view),
-        writer(workspace, dialogs, view, reader),
-        import(workspace, dialogs, view, reader, writer),
+      : editing(workspace),
+        reader(workspace, dialogs),
+        writer(workspace, dialogs, editing, reader),
+        import(workspace, dialogs, reader, writer),
         opener(workspace, dialogs, reader, writer, import),
-        languages(workspace, dialogs, view, writer),
+        languages(workspace, dialogs, writer),
         compiler(workspace, dialogs, compiler_state, flash_image, section_files) {}
 
   Workspace workspace;
@@ -33,7 +33,7 @@ struct Engine {
   FlashImage flash_image;
   SectionFiles section_files;
 
-  EditorView view;
+  Editing editing;
   MessageFileReader reader;
   MessageFileWriter writer;
   SourceImport import;

@@ -126,13 +126,15 @@ class InfoOfMesFileTest(CliTest):
         info = self.info(MesFile(lang_count=1, width=40, last_msg=512, stride=513).content())
         self.assertEqual((info["lastCol"], info["lastMsg"]), (39, 512))
 
-    def test_a_wider_set_is_refused(self) -> None:
-        self.write("A.MES", MesFile(width=41).content())
-        self.assertRegex(self.refused("info", "A.MES").err, r"A\.MES: .*41 cells.* 40 ")
+    def test_a_wide_set_and_a_long_one_are_taken(self) -> None:
+        self.assertEqual(self.info(MesFile(width=60).content())["lastCol"], 59)
+        file = MesFile(lang_count=1, last_msg=599, stride=600)
+        self.assertEqual(self.info(file.content())["lastMsg"], 599)
 
-    def test_a_longer_set_is_refused(self) -> None:
-        self.write("A.MES", MesFile(lang_count=1, last_msg=513, stride=600).content())
-        self.assertRegex(self.refused("info", "A.MES").err, r"A\.MES: .*514 messages.* 513 ")
+    def test_more_than_513_messages_without_room_for_them_are_refused(self) -> None:
+        content = MesFile(lang_count=1, last_msg=513, stride=512).content()
+        self.write("A.MES", content)
+        self.assertRegex(self.refused("info", "A.MES").err, r"A\.MES: .*514 messages.* 513\n")
 
     def test_a_set_without_languages_is_refused(self) -> None:
         self.write("A.MES", MesFile(lang_count=0, mem_length=24).content())

@@ -1,7 +1,7 @@
 #include <memory>
 
-#include "core/flash/language_selection.h"
 #include "core/platform/files.h"
+#include "core/presentation/compiler_view.h"
 #include "fuzz_support.h"
 
 namespace vendlingua {
@@ -18,14 +18,14 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t siz
     if (engine->opener.Open() != OpenOutcome::kOpened) {
       return;
     }
-    LoadEntries(engine->workspace, engine->compiler_state);
-    const int slots = engine->workspace.set.LangCount;
-    for (int ticks = 0; ticks < slots; ++ticks) {
-      if (const auto language = fuzz::PickVisible(input, engine->workspace.menus.mnuDes, 1)) {
-        TickEntry(engine->compiler_state, *language, true, slots);
+    const MessageSet& set = engine->workspace.set;
+    CompilerState& compiler = engine->compiler_state;
+    for (int ticks = 0; ticks < set.LangCount; ++ticks) {
+      if (const auto language = fuzz::PickLanguage(input, set, 1)) {
+        compiler.ticked.at(static_cast<std::size_t>(*language)) = true;
       }
     }
-    if (engine->compiler_state.Command1Enabled) {
+    if (CompilerViewOf(set, compiler).Command1Enabled) {
       dialogs.files = {folder / "FW0417AB.MHX", folder / "MP0417AA.MSX"};
       engine->compiler.Compile();
     }

@@ -22,16 +22,20 @@ constexpr std::size_t kChoiceBytes = 24;
 
 void Edit(Engine& engine, Dialogs& dialogs, FuzzedDataProvider& choices) {
   for (int edits = choices.ConsumeIntegralInRange(0, 3); edits > 0; --edits) {
-    engine.view.Scroll(choices.ConsumeIntegralInRange(0, int{engine.workspace.set.LastMsg}));
+    engine.editing.GoTo(
+        choices.ConsumeIntegralInRange<std::size_t>(0, engine.workspace.set.LastMsg));
     const auto code = choices.ConsumeIntegral<DisplayCode>();
-    engine.view.ChangeText(DisplayCodes(choices.ConsumeIntegralInRange<std::size_t>(0, 45), code));
-    engine.view.KeyPressed();
-    engine.view.Drop(code, choices.ConsumeIntegralInRange(0, 400), 400);
-    if (engine.workspace.view.Command2Visible) {
-      engine.view.AddMessage(dialogs);
+    engine.editing.ChangeText(
+        DisplayCodes(choices.ConsumeIntegralInRange<std::size_t>(0, 45), code));
+    engine.editing.KeyPressed();
+    engine.editing.Drop(code, choices.ConsumeIntegralInRange(0, 400), 400);
+    if (engine.workspace.window.offers_new_message) {
+      engine.editing.AddMessage(dialogs);
     }
   }
-  engine.view.ChooseDisplayType(choices.ConsumeIntegralInRange<std::size_t>(0, 3));
+  engine.editing.Undo();
+  engine.editing.Redo();
+  engine.editing.ChooseDisplayType(choices.ConsumeIntegralInRange<std::size_t>(0, 3));
 }
 
 }  // namespace
@@ -91,18 +95,12 @@ Input::Input(const std::uint8_t* bytes, std::size_t size)
     : content(bytes, bytes + size - std::min(size, kChoiceBytes)),
       choices(bytes + content.size(), size - content.size()) {}
 
-std::optional<int> PickVisible(Input& input, const MenuState::LanguageMenu& menu,
-                               std::size_t first) {
-  std::vector<int> entries;
-  for (std::size_t i = first; i < menu.size(); ++i) {
-    if (menu[i].visible) {
-      entries.push_back(static_cast<int>(i));
-    }
-  }
-  if (entries.empty()) {
+std::optional<int> PickLanguage(Input& input, const MessageSet& set, std::size_t first) {
+  if (set.language_names.size() <= first) {
     return std::nullopt;
   }
-  return entries[input.choices.ConsumeIntegralInRange<std::size_t>(0, entries.size() - 1)];
+  return static_cast<int>(
+      input.choices.ConsumeIntegralInRange(first, set.language_names.size() - 1));
 }
 
 void EditAndSave(const char* name, Input& input) {
@@ -115,11 +113,13 @@ void EditAndSave(const char* name, Input& input) {
   if (engine->opener.Open() != OpenOutcome::kOpened) {
     return;
   }
-  const MenuState& menus = engine->workspace.menus;
-  engine->languages.ChooseOrigin(PickVisible(input, menus.mnuori, 0).value());
-  const auto destination = PickVisible(input, menus.mnuDes, 1);
-  engine->languages.OpenDestinationMenu();
-  if (!destination || (menus.mnuDes[0].enabled && input.choices.ConsumeBool())) {
+  const MessageSet& set = engine->workspace.set;
+  engine->languages.ChooseOrigin(PickLanguage(input, set, 0).value());
+  if (set.Width() > DisplayText::kCells) {
+    return;  // it can be looked at and compiled, not edited
+  }
+  const auto destination = PickLanguage(input, set, 1);
+  if (!destination || (set.IsMes() && !set.IsFull() && input.choices.ConsumeBool())) {
     engine->languages.StartNewLanguage(0);
   } else {
     engine->languages.ChooseDestination(*destination);

@@ -62,9 +62,8 @@ struct Input {
   FuzzedDataProvider choices;
 };
 
-/// One of the entries of `menu` from `first` on that can be chosen; nothing when there is none.
-std::optional<int> PickVisible(Input& input, const MenuState::LanguageMenu& menu,
-                               std::size_t first);
+/// One of the set's languages from `first` on; nothing when there is none.
+std::optional<int> PickLanguage(Input& input, const MessageSet& set, std::size_t first);
 
 /// Opens `input` as a file of the given name, takes an origin and a destination of it, edits and
 /// saves. A save that fails must leave the file as it was, and a saved file must open again.

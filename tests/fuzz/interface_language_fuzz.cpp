@@ -19,10 +19,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t siz
     WriteFile(folders.program / "first.lng", data.ConsumeRandomLengthString());
     WriteFile(folders.program / "second.lng", data.ConsumeRemainingBytesAsString());
     ReadSettings(*workspace);
-    auto& entries = workspace->menus.smnuLingue;
-    entries[0].caption = "first";
-    entries[0].checked = true;
-    entries[1].caption = "second";
+    workspace->interface_languages = {.names = {"first", "second"}, .chosen = 0};
+    workspace->LanguageName = "first";
     LoadLanguageFile(*workspace, "first.lng");
     fuzz::FuzzDialogs dialogs;
     ChooseInterfaceLanguage(*workspace, dialogs, 1);

@@ -106,8 +106,6 @@ class BadFilesTest : public DeskTest {
       AddRow("noise " + std::to_string(seed), '\x02' + Noise(seed, ""));
     }
     AddRow("no languages", MesFile{.lang_count = 0}.Bytes());
-    AddRow("41 cells", MesFile{.width = 41}.Bytes());
-    AddRow("256 cells", MesFile{.width = 256}.Bytes());
     AddRow("514 messages", MesFile{.last_msg = 513}.Bytes());
     AddRow("65536 messages", WithField(8, "FFFF"));
     AddRow("blocks of a negative length", WithField(20, "FFFF"));

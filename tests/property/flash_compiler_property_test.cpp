@@ -4,7 +4,6 @@
 #include <algorithm>
 
 #include "core/flash/flash_compiler.h"
-#include "core/flash/language_selection.h"
 #include "random_files.h"
 #include "strict_srecords.h"
 
@@ -84,11 +83,9 @@ struct Compiled {
   Compiled(const RandomMes& file, const std::vector<std::size_t>& languages)
       : opened("SET.MES", file.Bytes()) {
     const auto slots = static_cast<int>(file.layout.lang_count);
-    LoadEntries(opened.engine.workspace, opened.engine.compiler_state);
     for (const std::size_t language : languages) {
-      TickEntry(opened.engine.compiler_state, static_cast<int>(language), true, slots);
+      opened.engine.compiler_state.ticked.at(language) = true;
     }
-    RC_ASSERT(opened.engine.compiler_state.Command1Enabled);
     const bool is_mhx = Number(file.layout.flags) / 2 % 2 == 1;
     opened.dialogs.file_answers = {opened.folder / (is_mhx ? "FW0417AB.MHX" : "FW0417AB.hex")};
     if (slots == 9) {

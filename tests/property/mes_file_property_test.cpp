@@ -81,7 +81,7 @@ RC_GTEST_PROP(MesFileProperty, OpensWithTheDimensionsOfItsHeader, ()) {
   RC_ASSERT(set.BlockLength == static_cast<float>(file.layout.BlockLength()));
   RC_ASSERT((set.HeaderBit0 != kFalse) == (FlagsOf(file) % 2 == 1));
   RC_ASSERT((set.HeaderBit1 != kFalse) == (FlagsOf(file) / 2 % 2 == 1));
-  RC_ASSERT(opened.engine.workspace.menus.mnuLCD.at(FlagsOf(file) / 4).checked);
+  RC_ASSERT(opened.engine.workspace.set.DisplayType == FlagsOf(file) / 4);
 }
 
 RC_GTEST_PROP(MesFileProperty, ReadsEveryNameAndTextAsItStandsInTheFile, ()) {
@@ -91,14 +91,14 @@ RC_GTEST_PROP(MesFileProperty, ReadsEveryNameAndTextAsItStandsInTheFile, ()) {
   Engine& engine = opened.engine;
   for (std::size_t k = 0; k <= file.Languages(); ++k) {
     const std::string name = WithoutBlanksAtEnd(bytes.substr(file.BlockOffset(k), 20));
-    RC_ASSERT(engine.workspace.menus.mnuori.at(k).caption == Utf8(name));
+    RC_ASSERT(engine.workspace.set.language_names.at(k) == Utf8(name));
     engine.languages.ChooseOrigin(static_cast<int>(k));
     for (std::size_t m = 0; m <= file.layout.last_msg; ++m) {
       RC_ASSERT(test::Text(engine.workspace.set.OriginText.at(m).First(file.layout.width)) ==
                 bytes.substr(file.MessageOffset(k, m), file.layout.width));
     }
   }
-  RC_ASSERT(!engine.workspace.menus.mnuori.at(file.Languages() + 1).visible);
+  RC_ASSERT(engine.workspace.set.language_names.size() == file.Languages() + 1);
 }
 
 RC_GTEST_PROP(MesFileProperty, SavingALanguageChangesItsMessagesFlagsAndLastMsgOnly, ()) {
@@ -116,11 +116,11 @@ RC_GTEST_PROP(MesFileProperty, SavingALanguageChangesItsMessagesFlagsAndLastMsgO
   texts.Apply(edits);
   if (file.layout.last_msg < file.layout.stride && *rc::gen::arbitrary<bool>()) {
     opened.dialogs.yes_no_answers = {MessageAnswer::kYes};
-    engine.view.AddMessage(opened.dialogs);
+    engine.editing.AddMessage(opened.dialogs);
     texts.Append();
   }
   const std::size_t display_type = AnyOf(0, 3);
-  engine.view.ChooseDisplayType(display_type);
+  engine.editing.ChooseDisplayType(display_type);
   RC_ASSERT(engine.writer.Save().result == SaveOutcome::kSaved);
 
   std::string expected = before;

@@ -73,9 +73,8 @@ rc::Gen<std::vector<Edit>> RandomEdits(std::size_t last_msg, std::size_t width) 
 
 void Apply(Engine& engine, const std::vector<Edit>& edits) {
   for (const auto& [message, text] : edits) {
-    engine.view.Scroll(static_cast<int>(message));
-    engine.view.ChangeText(text);
-    engine.view.KeyPressed();
+    engine.editing.GoTo(message);
+    engine.editing.ChangeText(text);
   }
 }
 

@@ -186,11 +186,11 @@ RC_GTEST_PROP(SourceImportProperty, ASoundSourceIsReadBackFromTheFileMadeOfIt, (
   RC_ASSERT((set.HeaderBit1 != kFalse) == source.has_sdata);
   RC_ASSERT(set.MemStart == source.answers[0].start);
   RC_ASSERT(set.MemLength == source.answers[0].length);
-  const auto& names = import.workspace().menus.mnuori;
-  RC_ASSERT(names[0].caption == "Default");
+  const auto& names = import.workspace().set.language_names;
+  RC_ASSERT(names.at(0) == "Default");
   RC_ASSERT(import.TextsOf(0, first.size(), width) == first);
   for (std::size_t k = 1; k <= source.sections.size(); ++k) {
-    RC_ASSERT(names.at(k).caption == "LANG " + std::to_string(k));
+    RC_ASSERT(names.at(k) == "LANG " + std::to_string(k));
     RC_ASSERT(import.TextsOf(k, first.size(), width) == source.sections[k - 1]);
   }
 }

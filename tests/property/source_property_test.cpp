@@ -179,7 +179,7 @@ std::vector<SourceSection> SectionsByTheRules(std::string source) {
       return sections;
     }
     widest = text->size();
-    if (widest > kMaxWidth || section.texts.size() == kMaxMessages) {
+    if (widest > DisplayText::kCells || section.texts.size() == kLeastTexts) {
       throw CannotBeRead("too large");
     }
     section.texts.push_back(CodesFromBytes(*text));

@@ -9,6 +9,8 @@
 #include <string_view>
 
 #include "core/engine.h"
+#include "core/presentation/menu_state.h"
+#include "core/presentation/view_state.h"
 #include "support/message_files.h"
 #include "support/scripted_dialogs.h"
 #include "support/temporary_folder.h"
@@ -45,12 +47,15 @@ class EngineTest : public ::testing::Test {
     return Text(set_.DestText.at(message).First(set_.Width()));
   }
 
+  /// What the windows show now.
+  MenuState menus() const { return MenusOf(engine_.workspace); }
+  ViewState view() const { return ViewOf(engine_.workspace); }
+
   TemporaryFolder folder_;
   ScriptedDialogs dialogs_;
   Engine engine_{dialogs_};
   MessageSet& set_ = engine_.workspace.set;
-  MenuState& menus_ = engine_.workspace.menus;
-  ViewState& view_ = engine_.workspace.view;
+  WindowState& window_ = engine_.workspace.window;
 };
 
 }  // namespace vendlingua::test

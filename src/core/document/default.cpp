@@ -528,6 +528,8 @@ constexpr std::array<DefaultMessage, kDefaultMessageCount> kDefaultMessages = {
 
 }  // namespace
 
+const DefaultMessageTable& BuiltInMessages() { return kDefaultMessages; }
+
 void MessageSet::LoadDefaultMessages() { DefaultMessages = kDefaultMessages; }
 
 }  // namespace vendlingua

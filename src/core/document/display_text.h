@@ -5,6 +5,7 @@
 #include <array>
 #include <cstddef>
 #include <span>
+#include <vector>
 
 #include "core/document/display_code.h"
 
@@ -38,6 +39,9 @@ class DisplayText {
  private:
   std::array<DisplayCode, kCells> cells_;
 };
+
+/// The texts of one language by the numbers of their messages.
+using MessageTexts = std::vector<DisplayText>;
 
 }  // namespace vendlingua
 

@@ -1,5 +1,6 @@
 #include "core/document/message_set.h"
 
+#include <algorithm>
 #include <limits>
 
 #include "core/document/name_field.h"
@@ -7,10 +8,136 @@
 
 namespace vendlingua {
 
+bool MessageSet::BoardFills(std::size_t message, std::size_t cell) const {
+  return IsMsx() ? DefaultMessages.at(message).at(cell) == kPlaceholder
+                 : OriginText.at(message)[cell] == kPlaceholder;
+}
+
+std::optional<DisplayCode> MessageSet::OriginCaption(std::size_t message, std::size_t cell) const {
+  if (IsMsx() && BoardFills(message, cell)) {
+    return std::nullopt;
+  }
+  return OriginText.at(message)[cell];
+}
+
+DisplayCodes MessageSet::EditedText(std::size_t message) const {
+  const auto cells = DestText.at(message).First(Width());
+  DisplayCodes text(cells.begin(), cells.end());
+  std::replace(text.begin(), text.end(), kPlaceholder, kBlank);
+  text.resize(TrimRight(text).size());
+  return text;
+}
+
+void MessageSet::Reset() {
+  ForgetFile();
+  HeaderBit1 = kFalse;
+  HeaderBit0 = kFalse;
+  HeaderCount = 0;
+  DestText.assign(kLeastTexts, DisplayText());
+  ++OpenedFiles;
+}
+
+void MessageSet::ForgetFile() {
+  DestLang = 0;
+  Modified = kFalse;
+  phase = Phase::kNoFile;
+  file_was_imported = false;
+  ShowMessage(0);
+  language_names.clear();
+  file_content.clear();
+  saved.reset();
+  save_failed = false;
+  history = EditHistory();
+}
+
+void MessageSet::FitTexts() {
+  const std::size_t texts = std::max(MessageCount(), kLeastTexts);
+  OriginText.resize(texts);
+  DestText.resize(texts);
+}
+
 void MessageSet::CloseFile() {
+  ForgetFile();
   CurrentFileName.clear();
   CurrentFileType.clear();
 }
+
+void MessageSet::TakeDestination(const MessageTexts& texts, int language) {
+  std::copy(texts.begin(), texts.end(), DestText.begin());
+  history = EditHistory();
+  ShowMessage(current_message);
+  const bool is_new = language == 0;
+  DestLang = static_cast<std::uint8_t>(language);
+  phase = is_new ? Phase::kDestinationUnnamed : Phase::kDestinationOpen;
+  saved = is_new ? std::nullopt : std::optional(ToSave());
+}
+
+void MessageSet::ShowMessage(std::size_t message) {
+  current_message = message;
+  current_message_stored = false;
+  history.EndTyping();
+}
+
+bool MessageSet::SetText(std::size_t message, std::span<const DisplayCode> codes, EditKind kind) {
+  DisplayCodes text = FitTo(codes, Width());
+  for (std::size_t cell = 0; cell < text.size(); ++cell) {
+    if (OriginCaption(message, cell) == kPlaceholder) {
+      text[cell] = kPlaceholder;
+    }
+  }
+  current_message_stored = current_message_stored || message == current_message;
+  const DisplayText after(text);
+  DisplayText& stored = DestText.at(message);
+  if (after == stored) {
+    return false;
+  }
+  history.Add({DestLang, static_cast<std::uint16_t>(message), stored, after, LastMsg, LastMsg},
+              kind);
+  stored = after;
+  Modified = kTrue;
+  return true;
+}
+
+void MessageSet::AppendMessage() {
+  const auto added = static_cast<std::uint16_t>(LastMsg + 1);
+  const std::uint16_t last_before = LastMsg;
+  LastMsg = added;
+  FitTexts();
+  const DisplayText& text = DestText.at(added);
+  history.Add({DestLang, added, text, text, last_before, added}, EditKind::kWhole);
+  Modified = kTrue;
+}
+
+bool MessageSet::Undo() {
+  const auto edit = history.StepBack();
+  if (edit) {
+    Apply(*edit, edit->before, edit->last_msg_before);
+  }
+  return edit.has_value();
+}
+
+bool MessageSet::Redo() {
+  const auto edit = history.StepForward();
+  if (edit) {
+    Apply(*edit, edit->after, edit->last_msg_after);
+  }
+  return edit.has_value();
+}
+
+void MessageSet::Apply(const Edit& edit, const DisplayText& text, std::uint16_t last_msg) {
+  DestText.at(edit.message) = text;
+  LastMsg = last_msg;
+  ShowMessage(std::min(edit.message, last_msg));
+  Modified = ToBoolean16(saved != ToSave());
+}
+
+void MessageSet::NoteSaved() {
+  saved = ToSave();
+  save_failed = false;
+  history.EndTyping();
+}
+
+MessageSet::Saved MessageSet::ToSave() const { return {DestText, LastMsg, DisplayType}; }
 
 std::uint16_t MesLangStride(std::uint32_t mem_length, std::uint32_t lang_count, std::size_t width) {
   if (lang_count == 0) {

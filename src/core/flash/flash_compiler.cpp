@@ -201,8 +201,7 @@ void FlashCompiler::WriteSectionFiles(const fs::path& flash_file, CompileOutcome
 }
 
 void FlashCompiler::SetBusy(bool busy) {
-  compiler_.Command1Enabled = !busy;
-  compiler_.Command2Enabled = !busy;
+  compiler_.busy = busy;
   compiler_.hourglass = compiler_.hourglass && busy;
 }
 

@@ -9,7 +9,6 @@
 #include "core/formats/srecord_check.h"
 #include "core/platform/errors.h"
 #include "core/platform/files.h"
-#include "core/presentation/menu_state.h"
 
 namespace vendlingua {
 namespace {

@@ -4,7 +4,6 @@
 #include "core/formats/hex.h"
 #include "core/platform/errors.h"
 #include "core/platform/files.h"
-#include "core/presentation/menu_state.h"
 
 namespace vendlingua {
 namespace {
@@ -49,18 +48,6 @@ std::string FormatMesHeader(const MessageSet& set, std::uint8_t flags) {
 }
 
 void ApplyDimensions(const MesHeader& header, MessageSet& set) {
-  const std::size_t width = std::size_t{header.last_col} + 1;
-  const std::size_t messages = std::size_t{header.last_msg} + 1;
-  if (width > kMaxWidth) {
-    throw Error("the header field LastCol at position 2 makes the messages " +
-                std::to_string(width) + " cells wide, at most " + std::to_string(kMaxWidth) +
-                " can be edited");
-  }
-  if (messages > kMaxMessages) {
-    throw Error("the header field LastMsg at position 9 gives a language " +
-                std::to_string(messages) + " messages, at most " + std::to_string(kMaxMessages) +
-                " can be edited");
-  }
   set.LastCol = header.last_col;
   set.HeaderBit1 = ToBoolean16((header.flags & 2U) != 0);
   set.HeaderBit0 = ToBoolean16((header.flags & 1U) != 0);
@@ -75,6 +62,11 @@ void ApplyMesHeader(const MesHeader& header, MessageSet& set) {
   set.LangCount = header.lang_count;
   set.LangStride = MesLangStride(set.MemLength, set.LangCount, set.Width());
   set.BlockLength = MesBlockLength(set.LastCol, set.LangStride);
+  if (set.MessageCount() > kLeastTexts && set.LastMsg > set.LangStride) {
+    throw Error("the header field LastMsg at position 9 gives a language " +
+                std::to_string(set.MessageCount()) + " messages, but a block has room for " +
+                std::to_string(set.LangStride + 1));
+  }
 }
 
 std::int64_t MesBlockOffset(const MessageSet& set, int language) {
@@ -107,12 +99,12 @@ std::int64_t MesMessageOffset(const MessageSet& set, int language, std::size_t m
          static_cast<std::int64_t>(NameField::kBytes + message * set.Width());
 }
 
-void ReadMesTexts(const MessageSet& set, int language, MessageTexts& texts) {
+MessageTexts ReadMesTexts(const MessageSet& set, int language) {
   const std::string content = ReadFile(set.CurrentFileName);
+  MessageTexts texts(set.MessageCount());
   for (std::size_t message = 0; message < set.MessageCount(); ++message) {
     const auto offset = static_cast<std::size_t>(MesMessageOffset(set, language, message));
     if (offset >= content.size()) {
-      texts[message] = DisplayText();
       continue;
     }
     const std::string_view bytes = std::string_view(content).substr(offset, set.Width());
@@ -123,6 +115,7 @@ void ReadMesTexts(const MessageSet& set, int language, MessageTexts& texts) {
     }
     texts[message] = DisplayText(CodesFromBytes(bytes));
   }
+  return texts;
 }
 
 }  // namespace vendlingua

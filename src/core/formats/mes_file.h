@@ -1,7 +1,6 @@
 #ifndef VENDLINGUA_CORE_FORMATS_MES_FILE_H_
 #define VENDLINGUA_CORE_FORMATS_MES_FILE_H_
 
-#include <array>
 #include <cstddef>
 #include <cstdint>
 #include <string>
@@ -19,8 +18,6 @@ namespace vendlingua {
 inline constexpr std::size_t kMesHeaderBytes = 24;
 /// From this value on the first byte of a file says that it is an assembler source.
 inline constexpr std::uint8_t kFirstSourceByte = 32;
-
-using MessageTexts = std::array<DisplayText, kMaxMessages>;
 
 /// The header fields as they stand in the file.
 struct MesHeader {
@@ -44,12 +41,12 @@ MesHeader ParseMesHeader(std::string_view content);
 std::string FormatMesHeader(const MessageSet& set, std::uint8_t flags);
 
 /// Takes width, flags, `HeaderCount`, `LastMsg` and memory from a header into the set; not
-/// `LangCount`, which a ".MSX" file does not declare. Throws Error when the set would be wider than
-/// 40 cells or hold more than 513 messages.
+/// `LangCount`, which a ".MSX" file does not declare.
 void ApplyDimensions(const MesHeader& header, MessageSet& set);
 
 /// Takes the whole header of a ".MES" file: ApplyDimensions, `LangCount`, and the computed
-/// `LangStride` and `BlockLength`. Throws Error also when `LangCount` is 0.
+/// `LangStride` and `BlockLength`. Throws Error when `LangCount` is 0, or when there are more than
+/// 513 messages although a block has no room for them, as only a damaged header says.
 void ApplyMesHeader(const MesHeader& header, MessageSet& set);
 
 /// Where block `language` begins. Throws Error when a `BlockLength` that wrapped puts it before the
@@ -62,11 +59,10 @@ std::vector<std::string> ReadMesNames(const MessageSet& set, std::string_view co
 /// Where message `message` of block `language` begins.
 std::int64_t MesMessageOffset(const MessageSet& set, int language, std::size_t message);
 
-/// Reads messages 0 to `LastMsg` of block `language` of `CurrentFileName`. A message that lies
-/// wholly behind the end of the file reads as blanks: the last block of a file ends with the last
-/// message that was saved into it. Throws FileError when the file cannot be read or ends inside a
-/// message.
-void ReadMesTexts(const MessageSet& set, int language, MessageTexts& texts);
+/// Messages 0 to `LastMsg` of block `language` of `CurrentFileName`. A message that lies wholly
+/// behind the end of the file reads as blanks: the last block of a file ends with the last message
+/// that was saved into it. Throws FileError when the file cannot be read or ends inside a message.
+MessageTexts ReadMesTexts(const MessageSet& set, int language);
 
 }  // namespace vendlingua
 

@@ -1,22 +1,21 @@
 #include "core/formats/message_texts.h"
 
-#include <algorithm>
-
+#include "core/formats/mes_file.h"
 #include "core/formats/msx_file.h"
-#include "core/presentation/menu_state.h"
 
 namespace vendlingua {
 
-void ReadLanguageTexts(const MessageSet& set, int language, MessageTexts& texts) {
-  MessageTexts read = texts;
+MessageTexts TextsOf(const MessageSet& set, int language) {
   if (language == kNewLanguage) {
-    std::fill_n(read.begin(), set.MessageCount(), DisplayText());
-  } else if (set.IsMes()) {
-    ReadMesTexts(set, language, read);
-  } else if (set.IsMsx()) {
-    ReadMsxTexts(set, language, read);
+    return MessageTexts(set.MessageCount());
   }
-  texts = read;
+  if (set.IsMes()) {
+    return ReadMesTexts(set, language);
+  }
+  if (language == 0) {
+    return {BuiltInMessages().begin(), BuiltInMessages().end()};
+  }
+  return ReadMsxTexts(set, language);
 }
 
 }  // namespace vendlingua

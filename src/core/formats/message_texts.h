@@ -1,14 +1,14 @@
 #ifndef VENDLINGUA_CORE_FORMATS_MESSAGE_TEXTS_H_
 #define VENDLINGUA_CORE_FORMATS_MESSAGE_TEXTS_H_
 
-#include "core/formats/mes_file.h"
+#include "core/document/message_set.h"
 
 namespace vendlingua {
 
-/// Reads messages 0 to `LastMsg` of language `language` of the open file, whichever its type; a new
-/// language (`kNewLanguage`) reads as blanks. Later elements of `texts` keep what they held, and
-/// all of them do when the reading fails. Throws Error when the file cannot be read.
-void ReadLanguageTexts(const MessageSet& set, int language, MessageTexts& texts);
+/// Messages 0 to `LastMsg` of language `language` of the open file, whichever its type. Language 0
+/// of a ".MSX" file is the built-in table; a new language (`kNewLanguage`) reads as blanks. Throws
+/// Error when the file cannot be read.
+MessageTexts TextsOf(const MessageSet& set, int language);
 
 }  // namespace vendlingua
 

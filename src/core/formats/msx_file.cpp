@@ -83,10 +83,11 @@ std::size_t MsxLinesBefore(const MessageSet& set, int language) {
   return 1 + static_cast<std::size_t>(std::max(language - 1, 0)) * set.LangStride;
 }
 
-void ReadMsxTexts(const MessageSet& set, int language, MessageTexts& texts) {
+MessageTexts ReadMsxTexts(const MessageSet& set, int language) {
   const std::string content = ReadFile(set.CurrentFileName);
   TextLines lines(content);
   lines.Skip(MsxLinesBefore(set, language));
+  MessageTexts texts(set.MessageCount());
   for (std::size_t message = 0; message < set.MessageCount(); ++message) {
     const auto line = lines.Next();
     if (!line) {
@@ -97,6 +98,7 @@ void ReadMsxTexts(const MessageSet& set, int language, MessageTexts& texts) {
     }
     texts[message] = DisplayText(DecodeMessage(set, line->text, lines.count()));
   }
+  return texts;
 }
 
 }  // namespace vendlingua

@@ -33,9 +33,9 @@ inline constexpr std::string_view kMsxConfiguration =
 std::optional<std::vector<std::string>> ReadMsxNames(const MessageSet& set,
                                                      std::string_view content);
 
-/// Reads messages 0 to `LastMsg` of language `language` (counted from 1) of `CurrentFileName`.
+/// Messages 0 to `LastMsg` of language `language` (counted from 1) of `CurrentFileName`.
 /// Throws FileError when the file cannot be read, a line is missing or a line holds no message.
-void ReadMsxTexts(const MessageSet& set, int language, MessageTexts& texts);
+MessageTexts ReadMsxTexts(const MessageSet& set, int language);
 
 /// The number of lines before the first message line of `language`; language 0, which a ".MSX" file
 /// does not have, counts as the first.

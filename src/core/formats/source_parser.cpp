@@ -10,6 +10,9 @@
 namespace vendlingua {
 namespace {
 
+constexpr std::size_t kMaxWidth = DisplayText::kCells;
+constexpr std::size_t kMaxMessages = kLeastTexts;
+
 // A line as it may be quoted in a message: as much of it as a box shows.
 std::string Excerpt(std::string_view line) {
   constexpr std::size_t kMostCharacters = 60;

@@ -15,18 +15,8 @@ constexpr std::string_view kSectionMark = ";--";
 
 std::string FromFile(std::string_view line) { return ToUtf8(CodesFromBytes(line)); }
 
-std::string FileOf(const MenuEntry& language) {
-  return language.caption + std::string(kLanguageFileExtension);
-}
-
-std::size_t CheckedLanguage(const MenuState& menus) {
-  std::size_t checked = 0;
-  for (std::size_t i = 0; i < menus.smnuLingue.size(); ++i) {
-    if (menus.smnuLingue[i].checked) {
-      checked = i;
-    }
-  }
-  return checked;
+std::string FileOf(const std::string& language) {
+  return language + std::string(kLanguageFileExtension);
 }
 
 // As CheckLanguageFile, but a file that cannot be read leaves the texts as they were.
@@ -66,45 +56,21 @@ bool CheckLanguageFile(Workspace& workspace, const std::string& current,
   return true;
 }
 
-void InitMenu(Workspace& workspace) {
-  const UiText& ui_text = workspace.ui_text;
-  MenuState& menus = workspace.menus;
-  menus.mnuFile.caption = ui_text[1];
-  menus.mnuOpen.caption = ui_text[2];
-  menus.mnuSave.caption = ui_text[3];
-  menus.mnuSaas.caption = ui_text[4];
-  menus.mnuEsci.caption = ui_text[5];
-  menus.mnuOrig.caption = ui_text[6];
-  menus.mnuDest.caption = ui_text[7];
-  menus.mnuDes[0].caption = ui_text[8];
-  menus.mnuNew[0].caption = ui_text[8];
-  menus.mnuMake.caption = ui_text[9];
-  menus.mnuTLCD.caption = ui_text[10];
-  menus.mnuLCD[0].caption = ui_text[11];
-  menus.mnuLCD[1].caption = ui_text[12];
-  menus.mnuLingue.caption = ui_text[13];
-  menus.mCopy.caption = ui_text[14];
-  menus.mnuAbor.caption = ui_text[15];
-  menus.mnuCopy.caption = ui_text[16];
-  menus.mnuLCD[3].caption = ui_text[17];
-}
-
 void ChooseInterfaceLanguage(Workspace& workspace, Dialogs& dialogs, std::size_t index) {
-  auto& entries = workspace.menus.smnuLingue;
-  const std::size_t previous = CheckedLanguage(workspace.menus);
-  const bool fits = LoadIfItFits(workspace, FileOf(entries[previous]), FileOf(entries.at(index)));
-  const std::size_t chosen = fits ? index : previous;
-  for (MenuEntry& entry : entries) {
-    entry.checked = false;
-  }
-  entries[chosen].checked = true;
-  workspace.LanguageName = entries[chosen].caption;
-  if (!fits) {
-    LoadLanguageFile(workspace, FileOf(entries[previous]));
+  InterfaceLanguages& languages = workspace.interface_languages;
+  const std::string previous = languages.names.at(languages.chosen.value_or(0));
+  const std::string candidate = languages.names.at(index);
+  const bool fits = LoadIfItFits(workspace, FileOf(previous), FileOf(candidate));
+  if (fits) {
+    languages.chosen = index;
+    workspace.LanguageName = candidate;
+  } else {
+    LoadLanguageFile(workspace, FileOf(previous));
     const UiText& ui_text = workspace.ui_text;
     dialogs.MessageBox({MessageIcon::kExclamation, ui_text[37], ui_text[36]});
   }
-  InitMenu(workspace);
+  // From now on the entry of the menus is named in the interface language.
+  workspace.window.file_names_entry_0 = false;
   WriteSettings(workspace);
 }
 

@@ -26,12 +26,9 @@ void LoadLanguageFile(Workspace& workspace, const std::string& file_name);
 bool CheckLanguageFile(Workspace& workspace, const std::string& current,
                        const std::string& candidate);
 
-/// Captions all menus in the interface language.
-void InitMenu(Workspace& workspace);
-
-/// `smnuLingue`(index): changes to another interface language, captions the menus and writes the
-/// settings. A file that does not fit the one in use is refused with a warning. Throws FileError;
-/// when a language file cannot be read, the language in use stays.
+/// `smnuLingue`(index): changes to another interface language and writes the settings. A file that
+/// does not fit the one in use is refused with a warning. Throws FileError; when a language file
+/// cannot be read, the language in use stays.
 void ChooseInterfaceLanguage(Workspace& workspace, Dialogs& dialogs, std::size_t index);
 
 }  // namespace vendlingua

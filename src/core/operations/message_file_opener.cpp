@@ -56,12 +56,11 @@ OpenOutcome MessageFileOpener::OpenPath(const std::filesystem::path& path,
   MessageSet& set = workspace_.set;
   set.CurrentFileName = path;
   set.CurrentFileType = type;
-  const std::string title = PathText(path.filename());
   bool opened = false;
   if (set.IsMsx()) {
-    opened = reader_.OpenMsxFile(title);
+    opened = reader_.OpenMsxFile();
   } else if (set.IsMes()) {
-    opened = OpenMesFile(title);
+    opened = OpenMesFile();
   } else {
     return OpenOutcome::kCancelled;
   }
@@ -80,9 +79,9 @@ std::filesystem::path MessageFileOpener::AskPath() {
   return path == "*.MES" || path == "*.MSX" ? std::filesystem::path() : path;
 }
 
-bool MessageFileOpener::OpenMesFile(const std::string& title) {
+bool MessageFileOpener::OpenMesFile() {
   const bool is_source = IsAssemblerSource(workspace_.set.CurrentFileName);
-  reader_.ResetForMes(title);
+  reader_.ResetForMes();
   return is_source ? import_.ImportSource() : reader_.Reload();
 }
 

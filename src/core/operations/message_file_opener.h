@@ -44,7 +44,7 @@ class MessageFileOpener {
  private:
   std::filesystem::path AskPath();
   OpenOutcome OpenPath(const std::filesystem::path& path, const std::string& type);
-  bool OpenMesFile(const std::string& title);
+  bool OpenMesFile();
 
   Workspace& workspace_;
   Dialogs& dialogs_;

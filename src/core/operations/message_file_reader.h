@@ -5,39 +5,36 @@
 #include <vector>
 
 #include "core/document/workspace.h"
-#include "core/operations/editing_view.h"
 #include "core/platform/dialogs.h"
 
 namespace vendlingua {
 
-/// Reads the dimensions and the language names of a message file into the set and the menus. The
-/// message texts are read when an origin or a destination is chosen.
+/// Reads the dimensions and the language names of a message file into the set. The message texts
+/// are read when an origin or a destination is chosen.
 class MessageFileReader {
  public:
-  MessageFileReader(Workspace& workspace, Dialogs& dialogs, EditingView& editing_view);
+  MessageFileReader(Workspace& workspace, Dialogs& dialogs);
 
-  /// Makes the window and the set forget the file that was open, before a ".MES" file or a source
-  /// named `title` is read.
-  void ResetForMes(const std::string& title);
+  /// Makes the set forget the file that was open, before a ".MES" file or a source is read.
+  void ResetForMes();
 
-  /// Resets the window and the set for a ".MSX" file named `title` and reads it. False when it
-  /// belongs to a firmware that is not managed: the user was told and no language is shown.
-  bool OpenMsxFile(const std::string& title);
+  /// Resets the set for a ".MSX" file and reads it. False when it belongs to a firmware that is not
+  /// managed: the user was told and no language is shown.
+  bool OpenMsxFile();
 
-  /// Reads `CurrentFileName` according to `CurrentFileType`: sets the dimensions and the captions
-  /// of the language menus. Returns as OpenMsxFile. Throws Error when the file cannot be taken; the
-  /// set is then partly changed, and the caller puts it back.
+  /// Reads `CurrentFileName` according to `CurrentFileType`: sets the dimensions and the names of
+  /// the languages. Returns as OpenMsxFile. Throws Error when the file cannot be taken; the set is
+  /// then partly changed, and the caller puts it back.
   bool Reload();
 
  private:
-  void Reset(const std::string& title);
+  void Reset();
   void ReloadMes();
   bool ReloadMsx();
-  void EnableLoadedMenus();
+  void Take(std::vector<std::string> names, std::string content);
 
   Workspace& workspace_;
   Dialogs& dialogs_;
-  EditingView& editing_view_;
 };
 
 }  // namespace vendlingua

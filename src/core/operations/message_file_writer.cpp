@@ -1,5 +1,6 @@
 #include "core/operations/message_file_writer.h"
 
+#include <algorithm>
 #include <string_view>
 #include <system_error>
 
@@ -19,6 +20,7 @@ namespace fs = std::filesystem;
 constexpr std::int64_t kFlagsPosition = 3;
 constexpr std::int64_t kLastMsgPosition = 9;
 constexpr std::string_view kReferenceName = "Default             ";
+constexpr std::string_view kReferenceCaption = "Default";
 
 std::string MessageBytes(const DisplayText& text, std::size_t width) {
   return BytesFromCodes(text.First(width));
@@ -33,6 +35,16 @@ std::string OriginBlock(const MessageSet& set) {
         MessageBytes(i < set.OriginText.size() ? set.OriginText[i] : DisplayText(), set.Width());
   }
   return block;
+}
+
+// What stands behind the first `size` bytes of a file that a new one replaces: it stays.
+std::string TailOf(const fs::path& path, std::size_t size) {
+  std::error_code not_there;
+  if (!fs::is_regular_file(path, not_there)) {
+    return {};
+  }
+  const std::string content = ReadFile(path);
+  return content.substr(std::min(size, content.size()));
 }
 
 // A file that was cut by another program: with a patch alone it would be no message file any more.
@@ -60,50 +72,61 @@ void RefuseToOverwriteNextBlock(const MessageSet& set, std::int64_t file_size) {
 
 }  // namespace
 
-MessageFileWriter::MessageFileWriter(Workspace& workspace, Dialogs& dialogs,
-                                     EditingView& editing_view, MessageFileReader& reader)
-    : workspace_(workspace), dialogs_(dialogs), editing_view_(editing_view), reader_(reader) {}
+MessageFileWriter::MessageFileWriter(Workspace& workspace, Dialogs& dialogs, Editing& editing,
+                                     MessageFileReader& reader)
+    : workspace_(workspace), dialogs_(dialogs), editing_(editing), reader_(reader) {}
 
 SaveOutcome MessageFileWriter::Save() {
-  SaveOutcome outcome = SaveUnderTrap();
+  const SaveOutcome outcome = SaveUnderTrap();
   const UiText& ui_text = workspace_.ui_text;
-  std::string& status = workspace_.view.status;
+  std::string& status = workspace_.window.status;
   if (outcome.result == SaveOutcome::kSaved) {
     status = ui_text[54] + " " + PathText(workspace_.set.CurrentFileName);
-    save_failed_ = false;
   } else if (outcome.result == SaveOutcome::kFailed) {
     status = ui_text[55] + " " + outcome.reason;
-    save_failed_ = true;
+    workspace_.set.Modified = kFalse;
+    workspace_.set.save_failed = true;
   }
   return outcome;
 }
 
 // One trap for the whole save: only a folder that is not there gets a box.
 SaveOutcome MessageFileWriter::SaveUnderTrap() {
+  Rollback rollback(workspace_);
+  SaveOutcome outcome;
   try {
+    MessageSet& set = workspace_.set;
     std::optional<NameField> new_name;
-    if (workspace_.set.DestLang == 0) {
+    if (set.DestLang == 0) {
       new_name = AskNewLanguageName();
     }
-    SaveOutcome outcome = Write(new_name);
+    outcome = Write(new_name);
     if (outcome.result == SaveOutcome::kSaved) {
-      workspace_.file_content = ReadFile(workspace_.set.CurrentFileName);
+      set.file_content = ReadFile(set.CurrentFileName);
+      set.NoteSaved();
     }
-    return outcome;
+    rollback.Keep();
   } catch (const FolderNotReadyError& error) {
     dialogs_.MessageBox({MessageIcon::kCritical, " Directory not ready", ""});
-    return {SaveOutcome::kFailed, error.what()};
+    outcome = {SaveOutcome::kFailed, error.what()};
   } catch (const Error& error) {
-    return {SaveOutcome::kFailed, error.what()};
+    outcome = {SaveOutcome::kFailed, error.what()};
   }
+  return outcome;
 }
 
 SaveOutcome MessageFileWriter::Write(const std::optional<NameField>& new_name) {
-  if (workspace_.set.IsMes()) {
-    return workspace_.view.Command1Enabled ? PatchMes(new_name) : WriteNewMes(new_name);
+  const MessageSet& set = workspace_.set;
+  if (set.IsMes() && !set.FileIsThere()) {
+    return WriteNewMes(new_name);
   }
-  if (workspace_.set.IsMsx()) {
-    return PatchMsx();
+  if (set.IsMes()) {
+    PatchMes(new_name);
+    return {};
+  }
+  if (set.IsMsx()) {
+    PatchMsx();
+    return {};
   }
   return {SaveOutcome::kNothingWritten, ""};
 }
@@ -130,27 +153,17 @@ NameField MessageFileWriter::AskNewLanguageName() {
 }
 
 bool MessageFileWriter::NameIsTaken(const NameField& name) const {
-  const auto& destinations = workspace_.menus.mnuDes;
-  for (std::size_t i = 1; i < destinations.size(); ++i) {
-    if (destinations[i].caption == name.Caption()) {
-      return true;
-    }
-  }
-  return false;
+  const auto& names = workspace_.set.language_names;
+  return !names.empty() && std::find(names.begin() + 1, names.end(), name.Caption()) != names.end();
 }
 
-// Display type 3, and any type while its menu is disabled, is stored as 0: boards in the field
+// Display type 3, and any type while no destination is open, is stored as 0: boards in the field
 // expect the file so.
 std::uint8_t MessageFileWriter::HeaderFlags() const {
   constexpr std::size_t kStoredTypes = 3;
-  const MenuState& menus = workspace_.menus;
-  std::size_t type = 0;
-  for (std::size_t i = 0; i < kStoredTypes && menus.mnuTLCD.enabled; ++i) {
-    if (menus.mnuLCD[i].checked) {
-      type = i;
-    }
-  }
   const MessageSet& set = workspace_.set;
+  const bool stored = set.DestinationIsOpen() && set.DisplayType < kStoredTypes;
+  const std::size_t type = stored ? set.DisplayType : 0;
   return static_cast<std::uint8_t>(4 * type + (set.HeaderBit1 != kFalse ? 2U : 0U) +
                                    (set.HeaderBit0 != kFalse ? 1U : 0U));
 }
@@ -181,7 +194,6 @@ SaveOutcome MessageFileWriter::WriteNewMes(const std::optional<NameField>& new_n
     return {SaveOutcome::kNothingWritten, ""};
   }
   set.CurrentFileName = path;
-  workspace_.view.caption = PathText(path.filename());
   set.Modified = kFalse;
 
   const std::string origin_block = OriginBlock(set);
@@ -192,48 +204,31 @@ SaveOutcome MessageFileWriter::WriteNewMes(const std::optional<NameField>& new_n
     content += new_name->Bytes();
   }
   content += origin_block;
-  PatchFile file(path, PatchFile::IfMissing::kCreate);
-  file.WriteAt(1, content);
-  file.Close();
-
-  workspace_.menus.mnuDes[0].visible = true;
-  workspace_.menus.mnuDes[1].visible = true;
+  WriteFile(path, {content, TailOf(path, content.size())});
+  set.language_names = {std::string(kReferenceCaption)};
+  if (new_name) {
+    set.language_names.push_back(new_name->Caption());
+  }
   return {};
 }
 
-SaveOutcome MessageFileWriter::PatchMes(const std::optional<NameField>& new_name) {
+void MessageFileWriter::PatchMes(const std::optional<NameField>& new_name) {
   MessageSet& set = workspace_.set;
-  auto& destinations = workspace_.menus.mnuDes;
-  editing_view_.StoreCurrentMessage();
+  editing_.StoreCurrentMessage();
   if (new_name) {
-    set.DestLang = TakeFreeDestination();
-    destinations[set.DestLang].visible = true;
-  }
-  try {
-    WriteMesBlock(new_name ? *new_name
-                           : NameField::FromCaption(destinations[set.DestLang].caption));
-  } catch (const Error&) {
-    // The language is not in the file: it stays a new one, which the next save names again.
-    if (new_name) {
-      destinations[set.DestLang].visible = false;
-      set.DestLang = 0;
+    if (set.IsFull()) {
+      throw FileError(set.CurrentFileName, "the file already holds 100 languages");
     }
-    throw;
+    set.DestLang = static_cast<std::uint8_t>(set.language_names.size());
+    set.language_names.push_back(new_name->Caption());
   }
-  if (new_name && workspace_.menus.mnuDest.enabled) {
+  WriteMesBlock(new_name ? *new_name : NameField::FromCaption(set.language_names.at(set.DestLang)));
+  if (new_name && set.phase == Phase::kDestinationUnnamed) {
+    set.phase = Phase::kDestinationOpen;
+  }
+  if (new_name && set.phase >= Phase::kOriginChosen) {
     reader_.Reload();
   }
-  return {};
-}
-
-std::uint8_t MessageFileWriter::TakeFreeDestination() {
-  const auto& destinations = workspace_.menus.mnuDes;
-  for (std::size_t k = 1; k < destinations.size(); ++k) {
-    if (!destinations[k].visible) {
-      return static_cast<std::uint8_t>(k);
-    }
-  }
-  throw FileError(workspace_.set.CurrentFileName, "the file already holds 100 languages");
 }
 
 void MessageFileWriter::WriteMesBlock(const NameField& name) {
@@ -259,15 +254,14 @@ void MessageFileWriter::WriteMesBlock(const NameField& name) {
   file.Close();
 }
 
-SaveOutcome MessageFileWriter::PatchMsx() {
+void MessageFileWriter::PatchMsx() {
   MessageSet& set = workspace_.set;
-  editing_view_.StoreCurrentMessage();
+  editing_.StoreCurrentMessage();
   set.Modified = kFalse;
   const MsxLines lines = BuildMsxLines(set, ReadFile(set.CurrentFileName));
   PatchFile file(set.CurrentFileName, PatchFile::IfMissing::kFail);
   file.WriteAt(lines.position, lines.content);
   file.Close();
-  return {};
 }
 
 SaveOutcome MessageFileWriter::SaveAs() {
@@ -285,7 +279,6 @@ SaveOutcome MessageFileWriter::SaveAs() {
     WriteFile(path, ContentToCopy());
   }
   set.CurrentFileName = path;
-  workspace_.view.caption = PathText(path.filename());
   return Save();
 }
 
@@ -294,17 +287,17 @@ SaveOutcome MessageFileWriter::SaveAs() {
 std::string MessageFileWriter::ContentToCopy() const {
   try {
     std::string content = ReadFile(workspace_.set.CurrentFileName);
-    if (content.size() >= workspace_.file_content.size()) {
+    if (content.size() >= workspace_.set.file_content.size()) {
       return content;
     }
   } catch (const FileError&) {
   }
-  return workspace_.file_content;
+  return workspace_.set.file_content;
 }
 
 bool MessageFileWriter::NonSave() {
   MessageSet& set = workspace_.set;
-  if (set.Modified == kFalse && !save_failed_) {
+  if (set.Modified == kFalse && !set.save_failed) {
     return true;
   }
   const UiText& ui_text = workspace_.ui_text;
@@ -314,7 +307,7 @@ bool MessageFileWriter::NonSave() {
     return Save().result != SaveOutcome::kFailed;
   }
   set.Modified = kFalse;
-  save_failed_ = false;
+  set.save_failed = false;
   return true;
 }
 

@@ -6,7 +6,7 @@
 
 #include "core/document/name_field.h"
 #include "core/document/workspace.h"
-#include "core/operations/editing_view.h"
+#include "core/operations/editing.h"
 #include "core/operations/message_file_reader.h"
 #include "core/platform/dialogs.h"
 
@@ -24,7 +24,7 @@ struct SaveOutcome {
 /// header fields that can change and the one language that is being edited.
 class MessageFileWriter {
  public:
-  MessageFileWriter(Workspace& workspace, Dialogs& dialogs, EditingView& editing_view,
+  MessageFileWriter(Workspace& workspace, Dialogs& dialogs, Editing& editing,
                     MessageFileReader& reader);
 
   /// Menu File, Save. Asks for a name when the language is new, for a file when no destination has
@@ -48,19 +48,15 @@ class MessageFileWriter {
   std::filesystem::path AskSavePath();
 
   SaveOutcome WriteNewMes(const std::optional<NameField>& new_name);
-  SaveOutcome PatchMes(const std::optional<NameField>& new_name);
-  std::uint8_t TakeFreeDestination();
+  void PatchMes(const std::optional<NameField>& new_name);
   void WriteMesBlock(const NameField& name);
-  SaveOutcome PatchMsx();
+  void PatchMsx();
   std::string ContentToCopy() const;
 
   Workspace& workspace_;
   Dialogs& dialogs_;
-  EditingView& editing_view_;
+  Editing& editing_;
   MessageFileReader& reader_;
-  /// A save that fails clears `Modified` like any other; what it should have saved is still asked
-  /// about.
-  bool save_failed_ = false;
 };
 
 }  // namespace vendlingua

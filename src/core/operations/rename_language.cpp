@@ -11,9 +11,9 @@
 namespace vendlingua {
 namespace {
 
-bool NameIsTaken(const CompilerState& compiler, std::size_t language, const NameField& name) {
-  for (std::size_t i = 1; i < compiler.Check1.size(); ++i) {
-    if (i != language && compiler.Check1[i].caption == name.Caption()) {
+bool NameIsTaken(const MessageSet& set, std::size_t language, const NameField& name) {
+  for (std::size_t i = 1; i < set.language_names.size(); ++i) {
+    if (i != language && set.language_names[i] == name.Caption()) {
       return true;
     }
   }
@@ -21,17 +21,19 @@ bool NameIsTaken(const CompilerState& compiler, std::size_t language, const Name
 }
 
 // Nothing when the user gave no name.
-std::optional<NameField> AskName(const UiText& ui_text, const CompilerState& compiler,
-                                 Dialogs& dialogs, std::size_t language) {
+std::optional<NameField> AskName(const Workspace& workspace, Dialogs& dialogs,
+                                 std::size_t language) {
+  const UiText& ui_text = workspace.ui_text;
   for (;;) {
-    const std::string answer = dialogs.InputBox({InputPurpose::kRenamedLanguageName, ui_text[49],
-                                                 ui_text[48], compiler.Check1[language].caption});
+    const std::string answer =
+        dialogs.InputBox({InputPurpose::kRenamedLanguageName, ui_text[49], ui_text[48],
+                          workspace.set.language_names.at(language)});
     try {
       const NameField name = NameField::FromAnswer(answer);
       if (name.IsBlank()) {
         return std::nullopt;
       }
-      if (!NameIsTaken(compiler, language, name)) {
+      if (!NameIsTaken(workspace.set, language, name)) {
         return name;
       }
       dialogs.MessageBox({MessageIcon::kExclamation,
@@ -42,40 +44,32 @@ std::optional<NameField> AskName(const UiText& ui_text, const CompilerState& com
   }
 }
 
-void WriteNames(Workspace& workspace) {
-  const MessageSet& set = workspace.set;
-  const auto& languages = workspace.menus.mnuDes;
+void WriteNames(MessageSet& set) {
   PatchFile file(set.CurrentFileName, PatchFile::IfMissing::kFail);
-  for (std::size_t i = 1; i < languages.size(); ++i) {
-    if (languages[i].visible) {
-      file.WriteAt(MesBlockOffset(set, static_cast<int>(i)) + 1,
-                   NameField::FromCaption(languages[i].caption).Bytes());
-    }
+  for (std::size_t i = 1; i < set.language_names.size(); ++i) {
+    file.WriteAt(MesBlockOffset(set, static_cast<int>(i)) + 1,
+                 NameField::FromCaption(set.language_names[i]).Bytes());
   }
   file.Close();
-  workspace.file_content = ReadFile(set.CurrentFileName);
+  set.file_content = ReadFile(set.CurrentFileName);
 }
 
 }  // namespace
 
-void RenameLanguage(Workspace& workspace, CompilerState& compiler, Dialogs& dialogs, int language) {
+void RenameLanguage(Workspace& workspace, Dialogs& dialogs, int language) {
   const auto index = static_cast<std::size_t>(language);
   const UiText& ui_text = workspace.ui_text;
-  const auto name = AskName(ui_text, compiler, dialogs, index);
+  const auto name = AskName(workspace, dialogs, index);
   if (!name || dialogs.MessageBox({MessageIcon::kQuestion, ui_text[50], ui_text[48],
                                    MessageButtons::kYesNo}) != MessageAnswer::kYes) {
     return;
   }
-  MenuState& menus = workspace.menus;
-  for (MenuState::LanguageMenu* menu : {&menus.mnuori, &menus.mnuDes, &menus.mnuNew}) {
-    menu->at(index).caption = name->Caption();
-  }
-  compiler.Check1[index].caption = name->Caption();
   MessageSet& set = workspace.set;
+  set.language_names[index] = name->Caption();
   set.LangStride = MesLangStride(set.MemLength, set.LangCount, set.Width());
   set.BlockLength = MesBlockLength(set.LastCol, set.LangStride);
   try {
-    WriteNames(workspace);
+    WriteNames(set);
   } catch (const FileError&) {
     dialogs.MessageBox({MessageIcon::kCritical,
                         "File Error: This file is only reading!\nPlease change the property File",

@@ -2,15 +2,14 @@
 #define VENDLINGUA_CORE_OPERATIONS_RENAME_LANGUAGE_H_
 
 #include "core/document/workspace.h"
-#include "core/flash/compiler_state.h"
 #include "core/platform/dialogs.h"
 
 namespace vendlingua {
 
-/// Asks for a new name of entry `language` and, after a confirmation, puts it into the menus, the
-/// entry and the message file. A blank name ends the question, a name of another entry repeats it.
-/// When the file cannot be written the user is told; menus and entry keep the new name.
-void RenameLanguage(Workspace& workspace, CompilerState& compiler, Dialogs& dialogs, int language);
+/// Asks for a new name of language `language` and, after a confirmation, puts it into the set and
+/// the message file. A blank name ends the question, the name of another language repeats it. When
+/// the file cannot be written the user is told; the set keeps the new name.
+void RenameLanguage(Workspace& workspace, Dialogs& dialogs, int language);
 
 }  // namespace vendlingua
 

@@ -39,19 +39,18 @@ void ReadSettings(Workspace& workspace) {
 
 void WriteSettings(const Workspace& workspace) {
   const Folders& folders = workspace.folders;
-  const auto& entries = workspace.menus.smnuLingue;
-  const auto* checked = std::find_if(entries.begin(), entries.end(),
-                                     [](const MenuEntry& entry) { return entry.checked; });
-  if (checked == entries.end()) {
+  const InterfaceLanguages& languages = workspace.interface_languages;
+  if (!languages.chosen) {
     throw Error("No interface language is chosen: the settings cannot be written.");
   }
+  const std::string& chosen = languages.names.at(*languages.chosen);
   std::error_code ignored;
   try {
-    WriteSettings(folders.settings, checked->caption);
+    WriteSettings(folders.settings, chosen);
     std::filesystem::remove(folders.user_settings, ignored);
   } catch (const FileError&) {
     std::filesystem::create_directories(folders.user_settings.parent_path(), ignored);
-    WriteSettings(folders.user_settings, checked->caption);
+    WriteSettings(folders.user_settings, chosen);
   }
 }
 

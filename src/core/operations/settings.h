@@ -21,7 +21,7 @@ void WriteSettings(const std::filesystem::path& file, const std::string& languag
 /// goes before the one beside the program.
 void ReadSettings(Workspace& workspace);
 
-/// Writes the checked entry of the interface language menu beside the program or, where that folder
+/// Writes the chosen interface language beside the program or, where that folder
 /// is read-only, into the user's own file. Throws FileError when neither can be written.
 void WriteSettings(const Workspace& workspace);
 

@@ -58,13 +58,9 @@ std::uint32_t UsedMemory(std::size_t width, std::size_t texts, std::uint32_t lan
   return static_cast<std::uint16_t>(width * texts) * languages;
 }
 
-SourceImport::SourceImport(Workspace& workspace, Dialogs& dialogs, EditingView& editing_view,
-                           MessageFileReader& reader, MessageFileWriter& writer)
-    : workspace_(workspace),
-      dialogs_(dialogs),
-      editing_view_(editing_view),
-      reader_(reader),
-      writer_(writer) {}
+SourceImport::SourceImport(Workspace& workspace, Dialogs& dialogs, MessageFileReader& reader,
+                           MessageFileWriter& writer)
+    : workspace_(workspace), dialogs_(dialogs), reader_(reader), writer_(writer) {}
 
 bool SourceImport::ImportSource() {
   MessageSet& set = workspace_.set;
@@ -78,14 +74,13 @@ bool SourceImport::ImportSource() {
     if (!NamingFile(source, [&] { return TakeSection(section); }) || !SaveSection()) {
       // The source must never be taken for the binary file that was to be made of it.
       set.CloseFile();
-      workspace_.view.status = workspace_.ui_text[56];
+      workspace_.window.status = workspace_.ui_text[56];
       return false;
     }
   }
   std::fill_n(set.DestText.begin(), set.MessageCount(), DisplayText());
   // No destination is open: a save now starts a new language instead of emptying the last one.
   set.DestLang = 0;
-  editing_view_.VisRef();
   return reader_.Reload();
 }
 
@@ -100,7 +95,7 @@ bool SourceImport::TakeSection(const SourceSection& section) {
   if (section.directives <= kLastAskedDirective && !(AskMemoryLayout() && MessagesFit())) {
     return false;
   }
-  if (workspace_.view.Command1Enabled && set.LangStride != stride_of_file) {
+  if (set.file_was_imported && set.LangStride != stride_of_file) {
     throw Error("these answers give " + std::to_string(set.LangStride) +
                 " messages a language, those of the first section gave " +
                 std::to_string(stride_of_file) + "; answer as for the first section");
@@ -112,7 +107,6 @@ bool SourceImport::TakeSection(const SourceSection& section) {
 }
 
 bool SourceImport::SaveSection() {
-  workspace_.menus.mnuSave.enabled = true;
   workspace_.set.DestLang = 0;
   const SaveOutcome outcome = writer_.Save();
   if (outcome.result == SaveOutcome::kFailed) {
@@ -121,7 +115,7 @@ bool SourceImport::SaveSection() {
   if (outcome.result == SaveOutcome::kNothingWritten) {
     return false;
   }
-  workspace_.view.Command1Enabled = true;
+  workspace_.set.file_was_imported = true;
   return true;
 }
 
@@ -138,12 +132,13 @@ void SourceImport::TakeTexts(const SourceSection& section) {
   if (section.has_sdata) {
     set.HeaderBit1 = kTrue;
   }
+  set.LastMsg = static_cast<std::uint16_t>(section.texts.size());
+  set.LastCol = section.width;
+  set.FitTexts();
   for (std::size_t i = 0; i < section.texts.size(); ++i) {
     set.OriginText[i] = DisplayText(section.texts[i]);
     set.DestText[i] = set.OriginText[i];
   }
-  set.LastMsg = static_cast<std::uint16_t>(section.texts.size());
-  set.LastCol = section.width;
 }
 
 bool SourceImport::AskMemoryLayout() {

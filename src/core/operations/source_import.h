@@ -5,7 +5,6 @@
 
 #include "core/document/workspace.h"
 #include "core/formats/source_parser.h"
-#include "core/operations/editing_view.h"
 #include "core/operations/message_file_reader.h"
 #include "core/operations/message_file_writer.h"
 #include "core/platform/dialogs.h"
@@ -21,8 +20,8 @@ std::uint32_t UsedMemory(std::size_t width, std::size_t texts, std::uint32_t lan
 /// becomes one more language of the file.
 class SourceImport {
  public:
-  SourceImport(Workspace& workspace, Dialogs& dialogs, EditingView& editing_view,
-               MessageFileReader& reader, MessageFileWriter& writer);
+  SourceImport(Workspace& workspace, Dialogs& dialogs, MessageFileReader& reader,
+               MessageFileWriter& writer);
 
   /// Imports `CurrentFileName`, after the reset that precedes it. False when the user stopped it or
   /// was told why it cannot go on: no message file is open then. Throws Error, before anything is
@@ -38,7 +37,6 @@ class SourceImport {
 
   Workspace& workspace_;
   Dialogs& dialogs_;
-  EditingView& editing_view_;
   MessageFileReader& reader_;
   MessageFileWriter& writer_;
 };

@@ -73,12 +73,7 @@ bool StartUp::Form_Load() try {
   }
   folders.current = folders.program;
   ReadSettings(workspace_);
-  if (!CeckLingue()) {
-    return false;
-  }
-  InitMenu(workspace_);
-  workspace_.view.caption = kApplicationTitle;
-  return true;
+  return CeckLingue();
 } catch (const Error& error) {
   dialogs_.MessageBox({MessageIcon::kCritical, error.what(), "ERROR"});
   return false;
@@ -90,20 +85,18 @@ bool StartUp::CeckLingue() {
     ReportMissingFile();
     return false;
   }
-  auto& entries = workspace_.menus.smnuLingue;
-  for (std::size_t i = 0; i < std::min(names.size(), entries.size()); ++i) {
-    entries[i].caption = names[i];
-    entries[i].visible = true;
-  }
+  InterfaceLanguages& languages = workspace_.interface_languages;
+  languages.names = names;
+  languages.names.resize(std::min(names.size(), InterfaceLanguages::kMost));
   std::string& language = workspace_.LanguageName;
-  auto chosen = std::find_if(entries.begin(), entries.end(),
-                             [&](const MenuEntry& entry) { return entry.caption == language; });
-  if (language.empty() || chosen >= entries.end() - 1) {
-    chosen = entries.begin();
-  }
-  LoadLanguageFile(workspace_, chosen->caption + std::string(kLanguageFileExtension));
-  chosen->checked = true;
-  language = chosen->caption;
+  const auto found = std::find(languages.names.begin(), languages.names.end(), language);
+  const auto index = static_cast<std::size_t>(found - languages.names.begin());
+  // The tenth is listed and can be chosen, but is not found again.
+  languages.chosen =
+      index < languages.names.size() && index < InterfaceLanguages::kMost - 1 ? index : 0;
+  const std::string& chosen = languages.names.at(*languages.chosen);
+  LoadLanguageFile(workspace_, chosen + std::string(kLanguageFileExtension));
+  language = chosen;
   return true;
 }
 

@@ -11,8 +11,6 @@
 
 namespace vendlingua {
 
-inline constexpr std::string_view kApplicationTitle = "Vendlingua";
-
 /// One bit for each display font that is among `families`, in any case: "LCD" 1, "LCD_CY" 2, "LCD
 /// KTV" 4, "LCD HBR" 8.
 int FontMask(std::span<const std::string> families);
@@ -30,7 +28,7 @@ class StartUp {
   /// and captions the menus. False when the program has to end; the user was told why.
   bool Form_Load();
 
-  /// Lists the interface languages of the current folder in their menu and loads the one of the
+  /// Lists the interface languages of the current folder and loads the one of the
   /// settings, or the first of the list. False when there is none; the user was told. A language
   /// listed tenth is never loaded here. Throws FileError.
   bool CeckLingue();

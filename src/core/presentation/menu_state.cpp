@@ -1,25 +1,83 @@
 #include "core/presentation/menu_state.h"
 
 namespace vendlingua {
+namespace {
 
-MenuState::MenuState() {
-  for (MenuEntry* menu : {&mnuOrig, &mnuDest, &mnuMake, &mnuSave, &mnuSaas, &mnuTLCD}) {
-    menu->enabled = false;
+void InitMenu(const UiText& ui_text, MenuState& menus) {
+  menus.mnuFile.caption = ui_text[1];
+  menus.mnuOpen.caption = ui_text[2];
+  menus.mnuSave.caption = ui_text[3];
+  menus.mnuSaas.caption = ui_text[4];
+  menus.mnuEsci.caption = ui_text[5];
+  menus.mnuOrig.caption = ui_text[6];
+  menus.mnuDest.caption = ui_text[7];
+  menus.mnuDes[0].caption = ui_text[8];
+  menus.mnuNew[0].caption = ui_text[8];
+  menus.mnuMake.caption = ui_text[9];
+  menus.mnuTLCD.caption = ui_text[10];
+  menus.mnuLCD[0].caption = ui_text[11];
+  menus.mnuLCD[1].caption = ui_text[12];
+  menus.mnuLCD[2].caption = "&KTV";
+  menus.mnuLingue.caption = ui_text[13];
+  menus.mnuInf.caption = "&?";
+  menus.mCopy.caption = ui_text[14];
+  menus.mnuAbor.caption = ui_text[15];
+  menus.mnuCopy.caption = ui_text[16];
+  menus.mnuLCD[3].caption = ui_text[17];
+}
+
+void EnableByPhase(const MessageSet& set, MenuState& menus) {
+  const bool file_open = set.phase >= Phase::kFileOpen;
+  menus.mnuOrig.enabled = file_open;
+  menus.mnuMake.enabled = file_open;
+  menus.mnuNew[0].enabled = !file_open;
+  menus.mnuDest.enabled = set.phase >= Phase::kOriginChosen;
+  menus.mnuDes[0].enabled = set.IsMes() && !set.IsFull();
+  menus.mnuTLCD.enabled = set.DestinationIsOpen();
+  menus.mnuSaas.enabled = set.DestinationIsOpen();
+  menus.mnuSave.enabled = set.FileIsThere();
+  menus.mnuCopy.enabled = set.DestinationIsOpen();
+  menus.mnuUndo.enabled = set.history.CanStepBack();
+  menus.mnuRedo.enabled = set.history.CanStepForward();
+}
+
+void ShowLanguages(const Workspace& workspace, MenuState& menus) {
+  const MessageSet& set = workspace.set;
+  const auto& names = set.language_names;
+  menus.mnuori[0].caption = names.empty() ? std::string(kBuiltInLanguage) : names[0];
+  if (workspace.window.file_names_entry_0 && !names.empty()) {
+    menus.mnuDes[0].caption = names[0];
+    menus.mnuNew[0].caption = names[0];
   }
-  for (LanguageMenu* menu : {&mnuori, &mnuDes, &mnuNew}) {
-    for (std::size_t i = 1; i < menu->size(); ++i) {
-      (*menu)[i].visible = false;
-    }
+  for (std::size_t k = 1; k < kLanguageEntries; ++k) {
+    const bool there = set.HoldsLanguage(static_cast<int>(k));
+    const std::string name = there ? names[k] : "";
+    const std::string start = set.IsMsx() && there ? workspace.ui_text[14] + " " + name : name;
+    menus.mnuori.at(k) = {.caption = name, .visible = there};
+    menus.mnuDes.at(k) = {.caption = name, .visible = there};
+    menus.mnuNew.at(k) = {.caption = start, .visible = there};
   }
-  for (std::size_t i = 1; i < smnuLingue.size(); ++i) {
-    smnuLingue[i].visible = false;
+}
+
+}  // namespace
+
+MenuState MenusOf(const Workspace& workspace) {
+  const MessageSet& set = workspace.set;
+  MenuState menus;
+  InitMenu(workspace.ui_text, menus);
+  EnableByPhase(set, menus);
+  ShowLanguages(workspace, menus);
+  for (std::size_t i = 0; i < menus.mnuLCD.size(); ++i) {
+    menus.mnuLCD.at(i).checked = set.DisplayTypeChosen && set.DisplayType == i;
   }
-  mnuori[0].caption = "Italiano";
-  mnuLCD[0].caption = "Normal";
-  mnuLCD[1].caption = "Cyrillic";
-  mnuLCD[2].caption = "&KTV";
-  mnuLCD[3].caption = "Jewish";
-  mnuInf.caption = "&?";
+  const InterfaceLanguages& languages = workspace.interface_languages;
+  for (std::size_t i = 0; i < menus.smnuLingue.size(); ++i) {
+    const bool there = i < languages.names.size();
+    menus.smnuLingue.at(i) = {.caption = there ? languages.names[i] : "",
+                              .visible = there || i == 0,
+                              .checked = languages.chosen == i};
+  }
+  return menus;
 }
 
 }  // namespace vendlingua

@@ -5,12 +5,14 @@
 #include <cstddef>
 #include <optional>
 #include <string>
+#include <string_view>
 
 #include "core/document/display_code.h"
+#include "core/document/workspace.h"
 
 namespace vendlingua {
 
-inline constexpr std::size_t kOriginCells = 20;
+inline constexpr std::string_view kApplicationTitle = "Vendlingua";
 
 /// One origin cell: pale for an ordinary character, dark where the board fills in.
 struct OriginCell {
@@ -19,12 +21,8 @@ struct OriginCell {
   std::optional<DisplayCode> caption;  ///< nothing: an empty cell
 };
 
-/// What the editing view shows, as plain data under the names of its controls: the operations read
-/// and write it, the window mirrors it. Sizes are in twips.
+/// What the editing view shows, under the names of its controls. Sizes are in twips.
 struct ViewState {
-  static constexpr int kCompactHeight = 2925;
-  static constexpr int kFullHeight = 8535;
-
   std::array<OriginCell, kOriginCells> Label5;
   std::array<bool, 2> Label8Enabled{};  ///< headings of the origin row and of the edit row
   bool Label9Visible = false;           ///< marker of the language-name message
@@ -44,11 +42,15 @@ struct ViewState {
 
   bool Command1Enabled = false;
   bool Command2Visible = false;
-  int label_width = 0;          ///< of each text label
-  int height = kCompactHeight;  ///< of the main window
-  std::string caption;          ///< of the main window, UTF-8
-  std::string status;           ///< how the last command ended, UTF-8
+  int label_width = 0;  ///< of each text label; 0 for that of the design
+  int height = 0;       ///< of the main window
+  std::string caption;  ///< of the main window, UTF-8
+  std::string status;   ///< how the last command ended, UTF-8
+  std::size_t display_type = 0;
 };
+
+/// The view of what is open.
+ViewState ViewOf(const Workspace& workspace);
 
 }  // namespace vendlingua
 

@@ -14,9 +14,9 @@
 #include <algorithm>
 #include <utility>
 
-#include "core/flash/language_selection.h"
 #include "core/operations/rename_language.h"
 #include "core/presentation/compiler_status.h"
+#include "core/presentation/compiler_view.h"
 #include "desktop/qt_text.h"
 
 namespace vendlingua {
@@ -132,7 +132,6 @@ bool FrmMake::Load() {
     return false;
   }
   parts_.state = CompilerState();
-  LoadEntries(parts_.workspace, parts_.state);
   const MessageSet& set = parts_.workspace.set;
   if (set.IsMes()) {
     SSTab1_->setTabText(SSTab1_->currentIndex(), QStringLiteral("1-50"));
@@ -151,9 +150,10 @@ bool FrmMake::Load() {
 // As many columns as the number of languages calls for; a page that is larger than the screen
 // scrolls.
 void FrmMake::LayOutPage(std::size_t page) {
+  const CompilerView view = CompilerViewOf(parts_.workspace.set, parts_.state);
   std::vector<std::size_t> shown;
   for (std::size_t i = page * kPageEntries + 1; i <= (page + 1) * kPageEntries; ++i) {
-    if (parts_.state.Check1.at(i).visible) {
+    if (view.Check1.at(i).visible) {
       shown.push_back(i);
     }
   }
@@ -177,8 +177,9 @@ void FrmMake::LayOutPage(std::size_t page) {
 
 void FrmMake::Mirror() {
   const CompilerState& state = parts_.state;
+  const CompilerView view = CompilerViewOf(parts_.workspace.set, state);
   for (std::size_t i = 1; i < Check1_.size(); ++i) {
-    const CompilerState::Entry& entry = state.Check1.at(i);
+    const CompilerView::Entry& entry = view.Check1.at(i);
     Check1_.at(i)->setVisible(entry.visible);
     Check1_.at(i)->setEnabled(entry.enabled);
     Check1_.at(i)->setChecked(entry.ticked);
@@ -188,9 +189,9 @@ void FrmMake::Mirror() {
   }
   const UiText& ui_text = parts_.workspace.ui_text;
   Command1_->setText(FromUtf8(ui_text[25]));
-  Command1_->setEnabled(state.Command1Enabled);
+  Command1_->setEnabled(view.Command1Enabled);
   Command2_->setText(FromUtf8(ui_text[26]));
-  Command2_->setEnabled(state.Command2Enabled);
+  Command2_->setEnabled(view.Command2Enabled);
   status_->setText(FromUtf8(state.status));
   status_->setAccessibleName(FromUtf8(ui_text[70]));
   if (state.hourglass) {
@@ -229,13 +230,13 @@ void FrmMake::RenameFocused() {
 }
 
 void FrmMake::Rename(int language) {
-  run_([&] { RenameLanguage(parts_.workspace, parts_.state, parts_.dialogs, language); });
+  run_([&] { RenameLanguage(parts_.workspace, parts_.dialogs, language); });
 }
 
 void FrmMake::Tick(int language, bool ticked) {
   run_([&] {
     const int lang_count = parts_.workspace.set.LangCount;
-    TickEntry(parts_.state, language, ticked, lang_count);
+    parts_.state.ticked.at(static_cast<std::size_t>(language)) = ticked;
     parts_.state.status = SelectionStatus(parts_.state, lang_count, parts_.workspace.ui_text);
   });
 }

@@ -42,8 +42,10 @@ DestinationEdit::DestinationEdit(QWidget* parent) : QLineEdit(parent) {
   auto* validator = new DisplayTextValidator(this);
   setValidator(validator);
   connect(validator, &DisplayTextValidator::Refused, this, &DestinationEdit::Refused);
-  connect(this, &QLineEdit::textEdited, this,
-          [this](const QString& text) { emit TextChanged(FromWidgetText(text)); });
+  connect(this, &QLineEdit::textEdited, this, [this](const QString& text) {
+    edited_ = true;
+    emit TextChanged(FromWidgetText(text));
+  });
   connect(QGuiApplication::clipboard(), &QClipboard::changed, this,
           &DestinationEdit::PutPlainTextOnClipboard);
 }
@@ -70,6 +72,19 @@ void DestinationEdit::LimitLength(int limit) {
   if (limit != maxLength()) {
     setMaxLength(limit);
   }
+}
+
+// The box itself takes nothing back: the window does, for all messages.
+bool DestinationEdit::event(QEvent* event) {
+  if (event->type() == QEvent::ShortcutOverride) {
+    const auto* key = static_cast<QKeyEvent*>(event);
+    const bool control = key->modifiers().testFlag(Qt::ControlModifier);
+    if (control && (key->key() == Qt::Key_Z || key->key() == Qt::Key_Y)) {
+      event->ignore();
+      return false;
+    }
+  }
+  return QLineEdit::event(event);
 }
 
 void DestinationEdit::dragEnterEvent(QDragEnterEvent* event) {
@@ -103,9 +118,13 @@ void DestinationEdit::keyPressEvent(QKeyEvent* event) {
     return;
   }
   const auto code = CodeOf(*event);
+  edited_ = false;
   QLineEdit::keyPressEvent(event);
   if (code) {
-    emit KeyPressed(*code);
+    emit CharacterTyped(*code);
+  }
+  if (code && !edited_) {
+    emit KeyPressed();
   }
 }
 
@@ -135,7 +154,7 @@ void DestinationEdit::TypeAltCode() {
   if (number >= 1 && number <= kHighestCode) {
     const auto code = static_cast<DisplayCode>(number);
     insert(ToWidgetCharacter(code));
-    emit KeyPressed(code);
+    emit CharacterTyped(code);
   }
 }
 

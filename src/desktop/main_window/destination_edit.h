@@ -29,8 +29,11 @@ class DestinationEdit : public QLineEdit {
   /// The user changed the text.
   void TextChanged(const DisplayCodes& text);
 
-  /// A key that stands for `code` was pressed.
-  void KeyPressed(DisplayCode code);
+  /// A key that stands for `code` was pressed, or `code` was typed as a number.
+  void CharacterTyped(DisplayCode code);
+
+  /// A key that stands for a code was pressed and did not change the text.
+  void KeyPressed();
 
   /// `code` was dropped `x` pixels from the left edge.
   void CharacterDropped(DisplayCode code, int x);
@@ -39,6 +42,7 @@ class DestinationEdit : public QLineEdit {
   void Refused(const QString& character);
 
  protected:
+  bool event(QEvent* event) override;
   void dragEnterEvent(QDragEnterEvent* event) override;
   void dragMoveEvent(QDragMoveEvent* event) override;
   void dropEvent(QDropEvent* event) override;
@@ -53,6 +57,7 @@ class DestinationEdit : public QLineEdit {
 
   QString alt_digits_;
   int message_ = 0;
+  bool edited_ = false;  // by the key that is being pressed
 };
 
 }  // namespace vendlingua

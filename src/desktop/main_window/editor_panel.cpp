@@ -131,10 +131,8 @@ void EditorPanel::ConnectControls() {
   connect(HScroll1_, &QScrollBar::valueChanged, this, &EditorPanel::Scrolled);
   connect(Text1_, &DestinationEdit::TextChanged, this, &EditorPanel::TextChanged);
   connect(Text1_, &DestinationEdit::Refused, this, &EditorPanel::CharacterRefused);
-  connect(Text1_, &DestinationEdit::KeyPressed, this, [this](DisplayCode code) {
-    Preview(code);
-    emit KeyPressed();
-  });
+  connect(Text1_, &DestinationEdit::KeyPressed, this, &EditorPanel::KeyPressed);
+  connect(Text1_, &DestinationEdit::CharacterTyped, this, &EditorPanel::Preview);
   connect(Text1_, &DestinationEdit::CharacterDropped, this,
           [this](DisplayCode code, int x) { emit CharacterDropped(code, x, Text1_->width()); });
   connect(map_, &CharacterMap::Picked, this, &EditorPanel::Preview);
@@ -142,7 +140,6 @@ void EditorPanel::ConnectControls() {
     if (Text1_->isEnabled()) {
       Text1_->insert(ToWidgetCharacter(code));
       Preview(code);
-      emit KeyPressed();
     }
   });
   for (OriginLabel* cell : Label5_) {
@@ -155,11 +152,10 @@ void EditorPanel::ConnectControls() {
   connect(Command2_, &QPushButton::clicked, this, &EditorPanel::MessageAdded);
 }
 
-void EditorPanel::Show(const Workspace& workspace) {
-  const ViewState& view = workspace.view;
-  ShowDisplayType(workspace.menus);
+void EditorPanel::Show(const ViewState& view, const UiText& ui_text) {
+  ShowDisplayType(view.display_type);
   for (std::size_t i = 0; i < Label5_.size(); ++i) {
-    Label5_.at(i)->Show(view.Label5.at(i), workspace.ui_text);
+    Label5_.at(i)->Show(view.Label5.at(i), ui_text);
   }
   SetTextWidth(view.label_width);
   Text1_->Show(view);
@@ -174,7 +170,7 @@ void EditorPanel::Show(const Workspace& workspace) {
   }
   Command1_->setEnabled(view.Command1Enabled);
   Command2_->setVisible(view.Command2Visible);
-  map_->setVisible(view.height > ViewState::kCompactHeight);
+  map_->setVisible(view.height > WindowState::kCompactHeight);
 }
 
 // At the bottom of the window, whatever its height. A path that is too long shows its two ends.
@@ -191,12 +187,7 @@ void EditorPanel::resizeEvent(QResizeEvent* event) {
 }
 
 // The character map has a fixed set of characters: only another font changes it.
-void EditorPanel::ShowDisplayType(const MenuState& menus) {
-  const auto* checked = std::find_if(menus.mnuLCD.begin(), menus.mnuLCD.end(),
-                                     [](const MenuEntry& entry) { return entry.checked; });
-  const auto type = checked == menus.mnuLCD.end()
-                        ? std::size_t{0}
-                        : static_cast<std::size_t>(checked - menus.mnuLCD.begin());
+void EditorPanel::ShowDisplayType(std::size_t type) {
   if (type == display_type_) {
     return;
   }

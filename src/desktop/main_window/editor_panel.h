@@ -9,7 +9,7 @@
 #include <array>
 #include <optional>
 
-#include "core/document/workspace.h"
+#include "core/presentation/view_state.h"
 #include "desktop/main_window/character_map.h"
 #include "desktop/main_window/destination_edit.h"
 #include "desktop/main_window/message_selector.h"
@@ -25,18 +25,23 @@ class EditorPanel : public QWidget {
  public:
   explicit EditorPanel(QWidget* parent);
 
-  /// Shows `Workspace::view` and the checked display type.
-  void Show(const Workspace& workspace);
+  /// Shows the view, its cells spoken in the interface language.
+  void Show(const ViewState& view, const UiText& ui_text);
 
   /// Captions the controls in the interface language.
   void SetEditorCaptions(const UiText& ui_text);
 
-  /// One message back or forward.
-  void Step(int messages) { HScroll1_->setValue(HScroll1_->value() + messages); }
+  /// One message back or forward, where there is one to show.
+  void Step(int messages) {
+    if (HScroll1_->isEnabled()) {
+      HScroll1_->setValue(HScroll1_->value() + messages);
+    }
+  }
 
  signals:
   void Scrolled(int value);
   void TextChanged(const DisplayCodes& text);
+  /// A key was pressed in the edit box that did not change its text.
   void KeyPressed();
   /// `code` was dropped `x` pixels from the left edge of the edit box, which is `box_width` wide.
   void CharacterDropped(DisplayCode code, int x, int box_width);
@@ -54,7 +59,7 @@ class EditorPanel : public QWidget {
   void PlaceControls();
   void ConnectControls();
   QLabel* AddLabel(const QString& name);
-  void ShowDisplayType(const MenuState& menus);
+  void ShowDisplayType(std::size_t type);
   void ShowStatus();
   void SetTextWidth(int label_width);
   void Preview(DisplayCode code);

@@ -21,6 +21,7 @@ namespace vendlingua {
 namespace {
 
 constexpr int kWindowWidth = 5205;  // twips
+constexpr int kTypingPause = 1000;  // milliseconds
 
 // All menus have to fit the width of the window in every language.
 constexpr QLatin1String kMenuBarStyle(
@@ -48,6 +49,9 @@ FrmMes::FrmMes(Engine& engine, QtDialogs& dialogs, ProgramStarter& starter)
   ConnectMenus();
   ConnectPanel();
   AddShortcuts();
+  typing_pause_.setSingleShot(true);
+  typing_pause_.setInterval(kTypingPause);
+  connect(&typing_pause_, &QTimer::timeout, this, [this] { engine_.editing.EndTyping(); });
   panel_->SetEditorCaptions(engine_.workspace.ui_text);
   dialogs_.Attach([this] { Mirror(); }, engine_.workspace.ui_text);
   Mirror();
@@ -62,13 +66,12 @@ void FrmMes::ConnectMenus() {
   run(&MainMenus::SaveChosen, [this] { engine_.writer.Save(); });
   run(&MainMenus::SaveAsChosen, [this] { engine_.writer.SaveAs(); });
   run(&MainMenus::OriginChosen, [this](int i) { engine_.languages.ChooseOrigin(i); });
-  run(&MainMenus::DestinationMenuOpens, [this] { engine_.languages.OpenDestinationMenu(); });
   run(&MainMenus::DestinationChosen, [this](int i) { engine_.languages.ChooseDestination(i); });
   run(&MainMenus::NewLanguageChosen, [this](int i) { engine_.languages.StartNewLanguage(i); });
   run(&MainMenus::DisplayTypeChosen,
-      [this](int i) { engine_.view.ChooseDisplayType(static_cast<std::size_t>(i)); });
+      [this](int i) { engine_.editing.ChooseDisplayType(static_cast<std::size_t>(i)); });
   run(&MainMenus::InterfaceLanguageChosen, [this](int i) { ChooseLanguage(i); });
-  run(&MainMenus::CopyChosen, [this] { engine_.view.CopyOrigin(); });
+  run(&MainMenus::CopyChosen, [this] { engine_.editing.CopyOrigin(); });
   run(&MainMenus::CompilerChosen, [this] { OpenCompiler(); });
   run(&MainMenus::InfoChosen, [this] { OpenInfo(); });
   connect(menus_, &MainMenus::ExitChosen, this, &QWidget::close);
@@ -79,13 +82,14 @@ void FrmMes::ConnectPanel() {
     connect(panel_, signal, this,
             [this, command](const auto&... arguments) { Run([&] { command(arguments...); }); });
   };
-  run(&EditorPanel::Scrolled, [this](int value) { engine_.view.Scroll(value); });
+  run(&EditorPanel::Scrolled,
+      [this](int value) { engine_.editing.GoTo(static_cast<std::size_t>(value)); });
   run(&EditorPanel::TextChanged, [this](const DisplayCodes& text) { ChangeText(text); });
-  run(&EditorPanel::KeyPressed, [this] { engine_.view.KeyPressed(); });
+  run(&EditorPanel::KeyPressed, [this] { engine_.editing.KeyPressed(); });
   run(&EditorPanel::CharacterDropped,
-      [this](DisplayCode code, int x, int box_width) { engine_.view.Drop(code, x, box_width); });
+      [this](DisplayCode code, int x, int box_width) { engine_.editing.Drop(code, x, box_width); });
   run(&EditorPanel::HeightToggled, [this] { ToggleHeight(); });
-  run(&EditorPanel::MessageAdded, [this] { engine_.view.AddMessage(dialogs_); });
+  run(&EditorPanel::MessageAdded, [this] { engine_.editing.AddMessage(dialogs_); });
   connect(panel_, &EditorPanel::CopyMenuWanted, this,
           [this](const QPoint& position) { menus_->PopUpCopyMenu(panel_->mapToGlobal(position)); });
   // The edit box is still taking its new text when it refuses a character.
@@ -93,7 +97,7 @@ void FrmMes::ConnectPanel() {
       panel_, &EditorPanel::CharacterRefused, this,
       [this](const QString& character) {
         Run([&] {
-          engine_.workspace.view.status =
+          engine_.workspace.window.status =
               engine_.workspace.ui_text[53] + " " + character.toStdString();
         });
       },
@@ -109,10 +113,18 @@ void FrmMes::AddShortcuts() {
   step(Qt::Key_PageDown, 1);
   step(Qt::ALT | Qt::Key_Left, -1);
   step(Qt::ALT | Qt::Key_Right, 1);
+  const auto run = [this](QKeyCombination key, void (Editing::*command)()) {
+    auto* shortcut = new QShortcut(QKeySequence(key), this);
+    connect(shortcut, &QShortcut::activated, this,
+            [this, command] { Run([&] { (engine_.editing.*command)(); }); });
+  };
+  run(Qt::CTRL | Qt::Key_Z, &Editing::Undo);
+  run(Qt::CTRL | Qt::SHIFT | Qt::Key_Z, &Editing::Redo);
+  run(Qt::CTRL | Qt::Key_Y, &Editing::Redo);
 }
 
 void FrmMes::Run(const std::function<void()>& command) {
-  engine_.workspace.view.status.clear();
+  engine_.workspace.window.status.clear();
   try {
     command();
   } catch (const std::exception& error) {
@@ -123,10 +135,11 @@ void FrmMes::Run(const std::function<void()>& command) {
 
 void FrmMes::Mirror() {
   const Workspace& workspace = engine_.workspace;
-  setWindowTitle(FromUtf8(workspace.view.caption));
-  setFixedSize(PixelsFromTwips(kWindowWidth), PixelsFromTwips(workspace.view.height));
-  menus_->Show(workspace.menus, workspace.view.Text1.enabled);
-  panel_->Show(workspace);
+  const ViewState view = ViewOf(workspace);
+  setWindowTitle(FromUtf8(view.caption));
+  setFixedSize(PixelsFromTwips(kWindowWidth), PixelsFromTwips(view.height));
+  menus_->Show(MenusOf(workspace));
+  panel_->Show(view, workspace.ui_text);
   if (engine_.compiler_state.hourglass) {
     setCursor(Qt::WaitCursor);
   } else {
@@ -176,15 +189,13 @@ void FrmMes::ChooseLanguage(int index) {
 }
 
 void FrmMes::ChangeText(const DisplayCodes& text) {
-  if (engine_.view.ChangeText(text)) {
-    engine_.workspace.view.status = engine_.workspace.ui_text[60];
-  }
-  engine_.view.KeyPressed();
+  engine_.editing.ChangeText(text);
+  typing_pause_.start();
 }
 
 // The window never leaves the screen at its top.
 void FrmMes::ToggleHeight() {
-  const int down = PixelsFromTwips(engine_.view.ToggleHeight());
+  const int down = PixelsFromTwips(engine_.editing.ToggleHeight());
   move(x(), std::max(y() + down, 0));
 }
 

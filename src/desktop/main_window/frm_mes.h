@@ -3,6 +3,7 @@
 
 #include <QMainWindow>
 #include <QPointer>
+#include <QTimer>
 #include <functional>
 
 #include "core/engine.h"
@@ -53,6 +54,7 @@ class FrmMes : public QMainWindow {
   QPointer<FrmMake> frm_make_;
   QPointer<FrmInfo> frm_info_;
   WindowTop window_top_;
+  QTimer typing_pause_;
   int dialogs_seen_ = 0;
 };
 

@@ -61,7 +61,7 @@ MainMenus::MainMenus(QMenuBar& menu_bar, QWidget& window) : QObject(&window) {
   mnuTLCD_ = AddMenu(menu_bar, "mnuTLCD");
   mnuLCD_ = AddArray(*mnuTLCD_, "mnuLCD", 0, kDisplayTypes, &MainMenus::DisplayTypeChosen, true);
   mnuLingue_ = AddMenu(menu_bar, "mnuLingue");
-  smnuLingue_ = AddArray(*mnuLingue_, "smnuLingue", 0, kInterfaceLanguages,
+  smnuLingue_ = AddArray(*mnuLingue_, "smnuLingue", 0, InterfaceLanguages::kMost,
                          &MainMenus::InterfaceLanguageChosen, true);
   mnuInf_ = AddAction(menu_bar, "mnuInf");
   connect(mnuInf_, &QAction::triggered, this, &MainMenus::InfoChosen);
@@ -91,7 +91,6 @@ void MainMenus::BuildLanguageMenus(QMenuBar& menu_bar) {
   mnuori_ = AddArray(*mnuOrig_, "mnuori", 0, kLanguageEntries, &MainMenus::OriginChosen, false);
 
   mnuDest_ = AddMenu(menu_bar, "mnuDest");
-  connect(mnuDest_, &QMenu::aboutToShow, this, &MainMenus::DestinationMenuOpens);
   mnuDes0_ = mnuDest_->addMenu(QIcon(QStringLiteral(":/icons/plus.svg")), QString());
   mnuDes0_->setObjectName(ElementName("mnuDes", 0));
   mnuDes0_->menuAction()->setObjectName(ElementName("mnuDes", 0));
@@ -125,7 +124,7 @@ std::vector<QAction*> MainMenus::AddArray(QMenu& menu, const char* name, std::si
   return actions;
 }
 
-void MainMenus::Show(const MenuState& menus, bool destination_open) {
+void MainMenus::Show(const MenuState& menus) {
   ShowEntry(*mnuFile_->menuAction(), menus.mnuFile);
   ShowEntry(*mnuOpen_, menus.mnuOpen);
   ShowEntry(*mnuSave_, menus.mnuSave);
@@ -141,7 +140,6 @@ void MainMenus::Show(const MenuState& menus, bool destination_open) {
   mCopy_->setTitle(FromUtf8(menus.mCopy.caption));
   ShowEntry(*mnuAbor_, menus.mnuAbor);
   ShowEntry(*mnuCopy_, menus.mnuCopy);
-  mnuCopy_->setEnabled(menus.mnuCopy.enabled && destination_open);
   ShowEntries(mnuori_, menus.mnuori, Caption::kName);
   ShowEntries(mnuDes_, menus.mnuDes, Caption::kName);
   ShowEntries(mnuNew_, menus.mnuNew, Caption::kName);

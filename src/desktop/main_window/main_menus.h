@@ -12,16 +12,15 @@
 
 namespace vendlingua {
 
-/// The menus of the main window: they show `Workspace::menus` and say what was chosen.
+/// The menus of the main window: they show a `MenuState` and say what was chosen.
 class MainMenus : public QObject {
   Q_OBJECT
 
  public:
   MainMenus(QMenuBar& menu_bar, QWidget& window);
 
-  /// Shows captions, visibility, enabled and checked states. The copy entry needs an open
-  /// destination besides.
-  void Show(const MenuState& menus, bool destination_open);
+  /// Shows captions, visibility, enabled and checked states.
+  void Show(const MenuState& menus);
 
   /// Opens the copy menu.
   void PopUpCopyMenu(const QPoint& global_position) { mCopy_->popup(global_position); }
@@ -32,7 +31,6 @@ class MainMenus : public QObject {
   void SaveAsChosen();
   void ExitChosen();
   void OriginChosen(int language);
-  void DestinationMenuOpens();
   void DestinationChosen(int language);
   void NewLanguageChosen(int language);
   void CompilerChosen();

@@ -10,6 +10,7 @@
 #include <string_view>
 
 #include "core/document/display_code.h"
+#include "core/presentation/view_state.h"
 #include "desktop/qt_path.h"
 #include "gui/support/dialog_answerer.h"
 #include "gui/support/running_program.h"
@@ -30,7 +31,7 @@ struct Desk {
 
   QLineEdit& Text1() { return program.Get<QLineEdit>("Text1"); }
   QScrollBar& HScroll1() { return program.Get<QScrollBar>("HScroll1"); }
-  ViewState& view() { return program.workspace().view; }
+  ViewState view() { return ViewOf(program.workspace()); }
   bool Modified() { return program.set().Modified != kFalse; }
 
   /// Chooses a file in the dialog of File, Open.

@@ -6,7 +6,6 @@
 #include <optional>
 
 #include "core/engine.h"
-#include "core/flash/language_selection.h"
 #include "core/formats/file_check.h"
 #include "core/platform/errors.h"
 #include "support/message_files.h"
@@ -74,7 +73,6 @@ class FlashCompilerTest : public testing::Test {
   void Open(std::string_view name, std::string_view content) {
     dialogs_.file_answers = {folder_.Write(name, content)};
     ASSERT_EQ(engine_.opener.Open(), OpenOutcome::kOpened);
-    LoadEntries(engine_.workspace, compiler_);
     dialogs_.pending_event_runs = 0;
   }
 
@@ -94,11 +92,9 @@ class FlashCompilerTest : public testing::Test {
 
   CompileOutcome Compile(const std::vector<int>& languages, const std::filesystem::path& flash_file,
                          const std::optional<std::filesystem::path>& copy = std::nullopt) {
-    for (CompilerState::Entry& entry : compiler_.Check1) {
-      entry.ticked = false;
-    }
+    compiler_.ticked.fill(false);
     for (const int language : languages) {
-      compiler_.Check1.at(static_cast<std::size_t>(language)).ticked = true;
+      compiler_.ticked.at(static_cast<std::size_t>(language)) = true;
     }
     dialogs_.file_answers = {flash_file};
     if (copy) {
@@ -118,14 +114,12 @@ class FlashCompilerTest : public testing::Test {
   }
 
   void ExpectReady() const {
-    EXPECT_TRUE(compiler_.Command1Enabled);
-    EXPECT_TRUE(compiler_.Command2Enabled);
+    EXPECT_FALSE(compiler_.busy);
     EXPECT_FALSE(compiler_.hourglass);
   }
 
   void ExpectBusy() const {
-    EXPECT_FALSE(compiler_.Command1Enabled);
-    EXPECT_FALSE(compiler_.Command2Enabled);
+    EXPECT_TRUE(compiler_.busy);
     EXPECT_TRUE(compiler_.hourglass);
   }
 
@@ -165,10 +159,8 @@ TEST_F(FlashCompilerTest, StartsInTheFolderOfTheProgram) {
 
 TEST_F(FlashCompilerTest, DisablesItsButtonsBeforeItAsks) {
   OpenHexFile();
-  compiler_.Command1Enabled = true;
   dialogs_.while_asking_for_file = [this] {
-    EXPECT_FALSE(compiler_.Command1Enabled);
-    EXPECT_FALSE(compiler_.Command2Enabled);
+    EXPECT_TRUE(compiler_.busy);
     EXPECT_FALSE(compiler_.hourglass);
   };
   Compile({1, 2}, folder_ / "F.hex");
@@ -535,7 +527,7 @@ TEST_F(NineLanguageCompilerTest, MakesACopyThatOpensAsAMessageFile) {
   Compile(all_, folder_ / "F.MHX", folder_ / "COPY.MSX");
   dialogs_.file_answers = {folder_ / "COPY.MSX"};
   ASSERT_EQ(engine_.opener.Open(), OpenOutcome::kOpened);
-  EXPECT_EQ(engine_.workspace.menus.mnuDes[9].caption, "9999999999999999");  // message 169
+  EXPECT_EQ(engine_.workspace.set.language_names.at(9), "9999999999999999");  // message 169
   engine_.languages.ChooseDestination(9);
   EXPECT_EQ(test::Text(engine_.workspace.set.DestText[3].First(16)), "9333333333333333");
 }
@@ -715,7 +707,7 @@ TEST_F(FlashCompilerTest, CompilesALanguageThatLacksAMessageOnceItWasSaved) {
   engine_.languages.ChooseOrigin(0);
   engine_.languages.ChooseDestination(1);
   dialogs_.yes_no_answers = {MessageAnswer::kYes};
-  engine_.view.AddMessage(dialogs_);
+  engine_.editing.AddMessage(dialogs_);
   engine_.writer.Save();
   EXPECT_THAT(ReasonOfRefusal({1, 2}, folder_ / "F.hex"), HasSubstr("message 3 of language 2"));
   engine_.languages.ChooseDestination(2);

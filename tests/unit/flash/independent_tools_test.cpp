@@ -99,8 +99,8 @@ class CompiledFileTest : public testing::Test {
                   "B");
     dialogs_.file_answers = {folder_.Write("SET.MES", bytes), folder_ / flash_file};
     EXPECT_EQ(engine_.opener.Open(), OpenOutcome::kOpened);
-    engine_.compiler_state.Check1[1].ticked = true;
-    engine_.compiler_state.Check1[2].ticked = true;
+    engine_.compiler_state.ticked[1] = true;
+    engine_.compiler_state.ticked[2] = true;
     engine_.compiler.Compile();
     return folder_ / flash_file;
   }

@@ -6,13 +6,11 @@
 #include <utility>
 
 #include "core/platform/errors.h"
-#include "core/presentation/menu_state.h"
 #include "support/engine_test.h"
 
 namespace vendlingua {
 namespace {
 
-using test::Codes;
 using test::MesFile;
 using test::MsxFile;
 using test::MsxMessage;
@@ -20,9 +18,7 @@ using test::Text;
 
 class LanguageTexts : public test::EngineTest {
  protected:
-  LanguageTexts() { texts_.fill(DisplayText(Codes("old"))); }
-
-  void Read(int language) { ReadLanguageTexts(set_, language, texts_); }
+  void Read(int language) { texts_ = TextsOf(set_, language); }
 
   std::string Message(std::size_t message) const {
     return Text(texts_.at(message).First(set_.Width()));
@@ -57,29 +53,27 @@ TEST_F(LanguageTexts, AreBlankForANewLanguage) {
   }
 }
 
-TEST_F(LanguageTexts, KeepWhatStandsBehindLastMsg) {
+TEST_F(LanguageTexts, EndWithLastMsg) {
   Open("FILE.MES", MesFile().Bytes());
-  Read(1);
-  EXPECT_EQ(Message(3), "old ");
-  Read(kNewLanguage);
-  EXPECT_EQ(Message(3), "old ");
+  EXPECT_EQ(TextsOf(set_, 1).size(), 3U);
+  EXPECT_EQ(TextsOf(set_, kNewLanguage).size(), 3U);
 }
 
-TEST_F(LanguageTexts, KeepAllTheyHeldWhenReadingFails) {
+TEST_F(LanguageTexts, AreTheBuiltInTableForLanguage0OfAnMsxFile) {
+  Open("FILE.MSX", MsxFile(1));
+  Read(0);
+  EXPECT_EQ(Message(0), "    MP0417AA    ");
+  EXPECT_EQ(Message(454), "  454 Messaggio ");
+}
+
+TEST_F(LanguageTexts, CannotBeReadFromAFileThatWasCut) {
   Open("FILE.MES", MesFile().Bytes());
   folder_.Write("FILE.MES", MesFile().Bytes().substr(0, 60 + 20 + 9));
   EXPECT_THROW(Read(1), FileError);
-  EXPECT_EQ(Message(0), "old ");
 
   Open("FILE.MSX", MsxFile(1));
   folder_.Write("FILE.MSX", MsxFile(1).substr(0, 1000));
   EXPECT_THROW(Read(1), FileError);
-  EXPECT_EQ(Message(0), "old" + std::string(13, ' '));
-}
-
-TEST_F(LanguageTexts, KeepAllTheyHeldWithoutAnOpenFile) {
-  Read(1);
-  EXPECT_EQ(texts_[0], DisplayText(Codes("old")));
 }
 
 }  // namespace

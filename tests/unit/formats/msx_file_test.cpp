@@ -59,7 +59,7 @@ class MsxFileTest : public ::testing::Test {
 
   void Read(std::string_view content, int language) {
     set_.CurrentFileName = folder_.Write("FILE.MSX", content);
-    ReadMsxTexts(set_, language, texts_);
+    texts_ = ReadMsxTexts(set_, language);
   }
 
   std::string ReasonAgainstReading(std::string_view content, int language) {

@@ -7,6 +7,7 @@
 #include "core/operations/interface_language.h"
 #include "core/operations/settings.h"
 #include "core/platform/errors.h"
+#include "core/presentation/menu_state.h"
 #include "support/scripted_dialogs.h"
 #include "support/temporary_folder.h"
 
@@ -24,8 +25,8 @@ class ChooseInterfaceLanguageTest : public testing::Test {
     workspace_.folders.settings = folder_ / "vendlingua.ini";
     workspace_.folders.user_settings = folder_ / "user/vendlingua.ini";
     folder_.Write("one.lng", "File\r\nOpen\r\n;-- mark\r\nSave\r\n");
-    workspace_.menus.smnuLingue[0] = {.caption = "one", .checked = true};
-    workspace_.menus.smnuLingue[1] = {.caption = "two"};
+    workspace_.interface_languages = {.names = {"one", "two"}, .chosen = 0};
+    workspace_.LanguageName = "one";
     LoadLanguageFile(workspace_, "one.lng");
   }
 
@@ -41,11 +42,11 @@ TEST_F(ChooseInterfaceLanguageTest, CaptionsTheMenusAndWritesTheSettings) {
                 "Datei\r\n\xD6"
                 "ffnen\r\n;-- Marke\r\nSpeichern\r\n");
   Choose();
-  EXPECT_EQ(workspace_.menus.mnuOpen.caption,
+  EXPECT_EQ(MenusOf(workspace_).mnuOpen.caption,
             "\xC3\x96"
             "ffnen");
-  EXPECT_TRUE(workspace_.menus.smnuLingue[1].checked);
-  EXPECT_FALSE(workspace_.menus.smnuLingue[0].checked);
+  EXPECT_TRUE(MenusOf(workspace_).smnuLingue[1].checked);
+  EXPECT_FALSE(MenusOf(workspace_).smnuLingue[0].checked);
   EXPECT_EQ(workspace_.LanguageName, "two");
   EXPECT_EQ(test::Slurp(folder_ / "vendlingua.ini"), "Lingua=two\r\n");
   EXPECT_THAT(dialogs_.messages, IsEmpty());
@@ -60,9 +61,9 @@ TEST_F(ChooseInterfaceLanguageTest, RefusesAFileThatIsALineShort) {
   EXPECT_EQ(dialogs_.messages[0].text, "warning");
   EXPECT_EQ(dialogs_.messages[0].title, "title");
   EXPECT_EQ(dialogs_.messages[0].icon, MessageIcon::kExclamation);
-  EXPECT_EQ(workspace_.menus.mnuFile.caption, "File");
-  EXPECT_TRUE(workspace_.menus.smnuLingue[0].checked);
-  EXPECT_FALSE(workspace_.menus.smnuLingue[1].checked);
+  EXPECT_EQ(MenusOf(workspace_).mnuFile.caption, "File");
+  EXPECT_TRUE(MenusOf(workspace_).smnuLingue[0].checked);
+  EXPECT_FALSE(MenusOf(workspace_).smnuLingue[1].checked);
   EXPECT_EQ(test::Slurp(folder_ / "vendlingua.ini"), "Lingua=one\r\n");
 }
 
@@ -70,7 +71,7 @@ TEST_F(ChooseInterfaceLanguageTest, RefusesAFileWithItsMarksElsewhere) {
   folder_.Write("two.lng", "Datei\r\n;-- Marke\r\nOeffnen\r\nSpeichern\r\n");
   Choose();
   EXPECT_THAT(dialogs_.messages, SizeIs(1));
-  EXPECT_TRUE(workspace_.menus.smnuLingue[0].checked);
+  EXPECT_TRUE(MenusOf(workspace_).smnuLingue[0].checked);
 }
 
 TEST_F(ChooseInterfaceLanguageTest, RestoresEveryTextWhereverTheRefusedFileIsCut) {
@@ -89,7 +90,7 @@ TEST_F(ChooseInterfaceLanguageTest, RestoresEveryTextWhereverTheRefusedFileIsCut
 TEST_F(ChooseInterfaceLanguageTest, KeepsTheLanguageWhenAFileIsMissing) {
   EXPECT_THROW(Choose(), FileError);
   EXPECT_EQ(workspace_.ui_text[1], "File");
-  EXPECT_TRUE(workspace_.menus.smnuLingue[0].checked);
+  EXPECT_TRUE(MenusOf(workspace_).smnuLingue[0].checked);
 }
 
 TEST_F(ChooseInterfaceLanguageTest, WritesTheUsersOwnSettingsWhereTheFolderIsReadOnly) {

@@ -36,7 +36,7 @@ class ExitTest : public test::EngineTest {
     Open(path);
     engine_.languages.ChooseOrigin(1);
     engine_.languages.ChooseDestination(1);
-    engine_.view.KeyPressed();
+    engine_.editing.KeyPressed();
     return path;
   }
 

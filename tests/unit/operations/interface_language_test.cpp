@@ -174,53 +174,6 @@ TEST_F(InterfaceLanguageTest, IsRestoredByLoadingThePreviousFileAgain) {
   EXPECT_EQ(ui_text()[3], "tre");
 }
 
-class InitMenuTest : public testing::Test {
- protected:
-  InitMenuTest() {
-    for (std::size_t number = 1; number <= 46; ++number) {
-      workspace_.ui_text.Set(number, "text " + std::to_string(number));
-    }
-    InitMenu(workspace_);
-  }
-
-  Workspace workspace_;
-  const MenuState& menus_ = workspace_.menus;
-};
-
-TEST_F(InitMenuTest, CaptionsEveryMenuWithItsEntry) {
-  EXPECT_EQ(menus_.mnuFile.caption, "text 1");
-  EXPECT_EQ(menus_.mnuOpen.caption, "text 2");
-  EXPECT_EQ(menus_.mnuSave.caption, "text 3");
-  EXPECT_EQ(menus_.mnuSaas.caption, "text 4");
-  EXPECT_EQ(menus_.mnuEsci.caption, "text 5");
-  EXPECT_EQ(menus_.mnuOrig.caption, "text 6");
-  EXPECT_EQ(menus_.mnuDest.caption, "text 7");
-  EXPECT_EQ(menus_.mnuMake.caption, "text 9");
-  EXPECT_EQ(menus_.mnuTLCD.caption, "text 10");
-  EXPECT_EQ(menus_.mnuLingue.caption, "text 13");
-  EXPECT_EQ(menus_.mCopy.caption, "text 14");
-  EXPECT_EQ(menus_.mnuAbor.caption, "text 15");
-  EXPECT_EQ(menus_.mnuCopy.caption, "text 16");
-}
-
-TEST_F(InitMenuTest, CaptionsEntryZeroOfDestinationsAndNewLanguagesAlike) {
-  EXPECT_EQ(menus_.mnuDes[0].caption, "text 8");
-  EXPECT_EQ(menus_.mnuNew[0].caption, "text 8");
-}
-
-TEST_F(InitMenuTest, CaptionsThreeOfTheDisplayTypes) {
-  EXPECT_EQ(menus_.mnuLCD[0].caption, "text 11");
-  EXPECT_EQ(menus_.mnuLCD[1].caption, "text 12");
-  EXPECT_EQ(menus_.mnuLCD[3].caption, "text 17");
-}
-
-TEST_F(InitMenuTest, KeepsTheCaptionsOfTheDesign) {
-  const MenuState designed;
-  EXPECT_EQ(menus_.mnuLCD[2].caption, designed.mnuLCD[2].caption);
-  EXPECT_EQ(menus_.mnuInf.caption, designed.mnuInf.caption);
-  EXPECT_EQ(menus_.mnuori[0].caption, "Italiano");
-}
-
 TEST(LanguageFiles, HaveATextOnEveryLineAndEndItWithCrLf) {
   for (const auto& entry : std::filesystem::directory_iterator(VENDLINGUA_LANGUAGES_FOLDER)) {
     const std::string content = test::Slurp(entry.path());

@@ -58,20 +58,20 @@ TEST_F(MesLanguagesTest, StoresTextsLeftAlignedIn40Cells) {
 
 TEST_F(MesLanguagesTest, LaysTheViewOutForTheOrigin) {
   engine_.languages.ChooseOrigin(1);
-  EXPECT_EQ(view_.HScroll1.max, 2);
-  EXPECT_EQ(view_.Text1.max_length, 5U);
-  EXPECT_EQ(view_.label_width, 186 * 3 + 206);
+  EXPECT_EQ(view().HScroll1.max, 2);
+  EXPECT_EQ(view().Text1.max_length, 5U);
+  EXPECT_EQ(view().label_width, 186 * 3 + 206);
 }
 
 TEST_F(MesLanguagesTest, ShowsTheOrigin) {
   engine_.languages.ChooseOrigin(1);
-  EXPECT_EQ(view_.Label5[0].caption, '1');
-  EXPECT_EQ(view_.Label5[1].caption, '0');
-  EXPECT_TRUE(view_.Label5[3].visible);
-  EXPECT_FALSE(view_.Label5[4].visible);
-  EXPECT_TRUE(view_.Label8Enabled[0]);
-  EXPECT_TRUE(view_.HScroll1.enabled);
-  EXPECT_TRUE(menus_.mnuDest.enabled);
+  EXPECT_EQ(view().Label5[0].caption, '1');
+  EXPECT_EQ(view().Label5[1].caption, '0');
+  EXPECT_TRUE(view().Label5[3].visible);
+  EXPECT_FALSE(view().Label5[4].visible);
+  EXPECT_TRUE(view().Label8Enabled[0]);
+  EXPECT_TRUE(view().HScroll1.enabled);
+  EXPECT_TRUE(menus().mnuDest.enabled);
 }
 
 TEST_F(MesLanguagesTest, DoesNotMarkTheSetChangedForAnOrigin) {
@@ -80,7 +80,7 @@ TEST_F(MesLanguagesTest, DoesNotMarkTheSetChangedForAnOrigin) {
 }
 
 TEST_F(MesLanguagesTest, TakesTheDestinationFromItsBlock) {
-  EXPECT_TRUE(engine_.languages.ChooseDestination(2));
+  EXPECT_EQ(engine_.languages.ChooseDestination(2), DestinationOutcome::kOpened);
   EXPECT_EQ(set_.DestLang, 2);
   EXPECT_EQ(Destination(0), "2000");
   EXPECT_EQ(Destination(2), "2222");
@@ -88,33 +88,33 @@ TEST_F(MesLanguagesTest, TakesTheDestinationFromItsBlock) {
 
 TEST_F(MesLanguagesTest, OpensTheDestinationForEditing) {
   engine_.languages.ChooseDestination(1);
-  EXPECT_TRUE(view_.Label8Enabled[1]);
-  EXPECT_TRUE(view_.Command1Enabled);
-  EXPECT_TRUE(view_.Text1.enabled);
-  EXPECT_TRUE(menus_.mnuTLCD.enabled);
-  EXPECT_TRUE(menus_.mnuSave.enabled);
-  EXPECT_TRUE(menus_.mnuSaas.enabled);
+  EXPECT_TRUE(view().Label8Enabled[1]);
+  EXPECT_TRUE(view().Command1Enabled);
+  EXPECT_TRUE(view().Text1.enabled);
+  EXPECT_TRUE(menus().mnuTLCD.enabled);
+  EXPECT_TRUE(menus().mnuSave.enabled);
+  EXPECT_TRUE(menus().mnuSaas.enabled);
 }
 
 TEST_F(MesLanguagesTest, ShowsTheDestination) {
   engine_.languages.ChooseDestination(2);
-  EXPECT_EQ(Text(view_.Text1.text), "2000");
+  EXPECT_EQ(Text(view().Text1.text), "2000");
 }
 
 TEST_F(MesLanguagesTest, HasNoEffectOfItsOwnForDestinationZero) {
   set_.Modified = kTrue;
   set_.DestLang = 1;
-  EXPECT_FALSE(engine_.languages.ChooseDestination(0));
+  EXPECT_EQ(engine_.languages.ChooseDestination(0), DestinationOutcome::kNothingChosen);
   EXPECT_THAT(dialogs_.messages, IsEmpty());
   EXPECT_EQ(set_.DestLang, 1);
   EXPECT_EQ(set_.Modified, kTrue);
-  EXPECT_FALSE(view_.Text1.enabled);
+  EXPECT_FALSE(view().Text1.enabled);
 }
 
 TEST_F(MesLanguagesTest, SavesPendingChangesBeforeAnotherDestinationWhenTheUserWantsIt) {
   engine_.languages.ChooseOrigin(0);
   engine_.languages.ChooseDestination(1);
-  engine_.view.ChangeText(test::Codes("abcd"));
+  engine_.editing.ChangeText(test::Codes("abcd"));
   set_.Modified = kTrue;
   dialogs_.yes_no_answers = {MessageAnswer::kYes};
   engine_.languages.ChooseDestination(2);
@@ -128,7 +128,7 @@ TEST_F(MesLanguagesTest, SavesPendingChangesBeforeAnotherDestinationWhenTheUserW
 TEST_F(MesLanguagesTest, DropsPendingChangesWhenTheUserDeclines) {
   engine_.languages.ChooseOrigin(0);
   engine_.languages.ChooseDestination(1);
-  engine_.view.ChangeText(test::Codes("abcd"));
+  engine_.editing.ChangeText(test::Codes("abcd"));
   set_.Modified = kTrue;
   dialogs_.yes_no_answers = {MessageAnswer::kNo};
   engine_.languages.ChooseDestination(2);
@@ -141,13 +141,13 @@ TEST_F(MesLanguagesTest, DropsPendingChangesWhenTheUserDeclines) {
 TEST_F(MesLanguagesTest, KeepsTheDestinationWhenSavingFails) {
   engine_.languages.ChooseOrigin(0);
   engine_.languages.ChooseDestination(1);
-  engine_.view.ChangeText(test::Codes("abcd"));
+  engine_.editing.ChangeText(test::Codes("abcd"));
   set_.Modified = kTrue;
   std::filesystem::remove(folder_ / "FILE.MES");
   dialogs_.yes_no_answers = {MessageAnswer::kYes};
-  EXPECT_FALSE(engine_.languages.ChooseDestination(2));
+  EXPECT_EQ(engine_.languages.ChooseDestination(2), DestinationOutcome::kNotSaved);
   EXPECT_EQ(set_.DestLang, 1);
-  EXPECT_EQ(Text(view_.Text1.text), "abcd");
+  EXPECT_EQ(Text(view().Text1.text), "abcd");
 }
 
 TEST_F(MesLanguagesTest, StartsANewLanguageBlank) {
@@ -167,7 +167,7 @@ TEST_F(MesLanguagesTest, MarksTheSetChangedForANewLanguageWithoutAName) {
   engine_.languages.StartNewLanguage(2);
   EXPECT_EQ(set_.DestLang, 0);
   EXPECT_EQ(set_.Modified, kTrue);
-  EXPECT_TRUE(view_.Text1.enabled);
+  EXPECT_TRUE(view().Text1.enabled);
 }
 
 TEST_F(MesLanguagesTest, StartsNoNewLanguageFromTextsThatCannotBeRead) {
@@ -188,9 +188,7 @@ TEST_F(MesLanguagesTest, AsksToSaveANewLanguageThatIsLeft) {
 }
 
 TEST_F(MesLanguagesTest, AllowsANewDestinationWhenTheMenuOpens) {
-  menus_.mnuDes[0].enabled = false;
-  engine_.languages.OpenDestinationMenu();
-  EXPECT_TRUE(menus_.mnuDes[0].enabled);
+  EXPECT_TRUE(menus().mnuDes[0].enabled);
 }
 
 TEST_F(MesLanguagesTest, ReadsMessagesBehindTheEndOfTheFileAsBlanks) {
@@ -219,12 +217,11 @@ TEST_F(MesLanguagesTest, ChangesNothingWhenTheFileEndsInsideAMessage) {
 }
 
 TEST_F(FullFileTest, DisablesTheNewDestinationWhenTheMenuOpens) {
-  engine_.languages.OpenDestinationMenu();
-  EXPECT_FALSE(menus_.mnuDes[0].enabled);
+  EXPECT_FALSE(menus().mnuDes[0].enabled);
 }
 
 TEST_F(FullFileTest, RefusesANewLanguage) {
-  EXPECT_FALSE(engine_.languages.ChooseDestination(kNewLanguage));
+  EXPECT_EQ(engine_.languages.ChooseDestination(kNewLanguage), DestinationOutcome::kFileIsFull);
   ASSERT_THAT(dialogs_.messages, SizeIs(1));
   EXPECT_EQ(dialogs_.messages[0].text, "text 31");
   EXPECT_EQ(dialogs_.messages[0].title, "text 30");
@@ -278,9 +275,7 @@ TEST_F(MsxLanguagesTest, TakesTheDestinationFromItsLines) {
 }
 
 TEST_F(MsxLanguagesTest, NeverAllowsANewDestinationWhenTheMenuOpens) {
-  menus_.mnuDes[0].enabled = true;
-  engine_.languages.OpenDestinationMenu();
-  EXPECT_FALSE(menus_.mnuDes[0].enabled);
+  EXPECT_FALSE(menus().mnuDes[0].enabled);
 }
 
 TEST_F(MsxLanguagesTest, ChangesNothingWhenLinesAreMissing) {

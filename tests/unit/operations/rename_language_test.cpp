@@ -5,7 +5,7 @@
 #include <filesystem>
 #include <string>
 
-#include "core/flash/language_selection.h"
+#include "core/presentation/compiler_view.h"
 #include "support/engine_test.h"
 #include "support/ordinary_user.h"
 
@@ -21,12 +21,14 @@ class RenameLanguageTest : public test::EngineTest {
   RenameLanguageTest() {
     mes_.names = {"Default", "ITALIANO", "ENGLISH"};
     Open("A.MES", mes_.Bytes());
-    LoadEntries(engine_.workspace, engine_.compiler_state);
   }
 
-  void Rename(int language) {
-    RenameLanguage(engine_.workspace, engine_.compiler_state, dialogs_, language);
+  // What the compiler window shows.
+  std::string Entry(std::size_t language) const {
+    return CompilerViewOf(set_, engine_.compiler_state).Check1.at(language).caption;
   }
+
+  void Rename(int language) { RenameLanguage(engine_.workspace, dialogs_, language); }
 
   test::MesFile mes_;
   const std::filesystem::path file_ = folder_ / "A.MES";
@@ -39,17 +41,17 @@ TEST_F(RenameLanguageTest, WritesTheNameFieldAndNoOtherByte) {
   std::string expected = mes_.Bytes();
   expected.replace(24 + 2 * mes_.BlockLength(), 20, "POLSKI              ");
   EXPECT_EQ(test::Slurp(file_), expected);
-  EXPECT_EQ(engine_.compiler_state.Check1[2].caption, "POLSKI");
-  EXPECT_EQ(menus_.mnuori[2].caption, "POLSKI");
-  EXPECT_EQ(menus_.mnuDes[2].caption, "POLSKI");
-  EXPECT_EQ(menus_.mnuNew[2].caption, "POLSKI");
+  EXPECT_EQ(Entry(2), "POLSKI");
+  EXPECT_EQ(menus().mnuori[2].caption, "POLSKI");
+  EXPECT_EQ(menus().mnuDes[2].caption, "POLSKI");
+  EXPECT_EQ(menus().mnuNew[2].caption, "POLSKI");
 }
 
 TEST_F(RenameLanguageTest, CutsANameAtTwentyCharacters) {
   dialogs_.input_answers = {"abcdefghijklmnopqrstuvwxyz"};
   dialogs_.yes_no_answers = {MessageAnswer::kYes};
   Rename(1);
-  EXPECT_EQ(engine_.compiler_state.Check1[1].caption, "ABCDEFGHIJKLMNOPQRST");
+  EXPECT_EQ(Entry(1), "ABCDEFGHIJKLMNOPQRST");
   EXPECT_EQ(test::Slurp(file_).substr(24 + mes_.BlockLength(), 24), "ABCDEFGHIJKLMNOPQRST1000");
 }
 
@@ -57,8 +59,8 @@ TEST_F(RenameLanguageTest, ABlankNameChangesNothing) {
   dialogs_.input_answers = {"  "};
   Rename(1);
   EXPECT_EQ(test::Slurp(file_), mes_.Bytes());
-  EXPECT_EQ(engine_.compiler_state.Check1[1].caption, "ITALIANO");
-  EXPECT_EQ(menus_.mnuDes[1].caption, "ITALIANO");
+  EXPECT_EQ(Entry(1), "ITALIANO");
+  EXPECT_EQ(menus().mnuDes[1].caption, "ITALIANO");
   EXPECT_THAT(dialogs_.messages, IsEmpty());
 }
 
@@ -83,7 +85,7 @@ TEST_F(RenameLanguageTest, NoKeepsTheOldName) {
   dialogs_.input_answers = {"polski"};
   dialogs_.yes_no_answers = {MessageAnswer::kNo};
   Rename(1);
-  EXPECT_EQ(engine_.compiler_state.Check1[1].caption, "ITALIANO");
+  EXPECT_EQ(Entry(1), "ITALIANO");
   EXPECT_EQ(test::Slurp(file_), mes_.Bytes());
 }
 
@@ -105,7 +107,7 @@ TEST_F(RenameLanguageTest, AFileThatMayOnlyBeReadStaysAsItIs) {
   }
   Rename(2);
   EXPECT_EQ(dialogs_.messages.back().title, "Error Property");
-  EXPECT_EQ(engine_.compiler_state.Check1[2].caption, "POLSKI");
+  EXPECT_EQ(Entry(2), "POLSKI");
   EXPECT_EQ(test::Slurp(file_), mes_.Bytes());
 }
 
@@ -118,8 +120,8 @@ TEST_F(RenameLanguageTest, AFileThatCannotBeWrittenKeepsTheNewNameOnTheScreen) {
             "File Error: This file is only reading!\nPlease change the property File");
   EXPECT_EQ(dialogs_.messages.back().title, "Error Property");
   EXPECT_EQ(dialogs_.messages.back().icon, MessageIcon::kCritical);
-  EXPECT_EQ(engine_.compiler_state.Check1[2].caption, "POLSKI");
-  EXPECT_EQ(menus_.mnuDes[2].caption, "POLSKI");
+  EXPECT_EQ(Entry(2), "POLSKI");
+  EXPECT_EQ(menus().mnuDes[2].caption, "POLSKI");
   EXPECT_EQ(folder_.Names(), "");
 }
 

@@ -116,11 +116,8 @@ TEST_F(WorkspaceSettingsTest, KeepTheNameOfTheStartWithoutAnyFile) {
   EXPECT_EQ(workspace_.LanguageName, "start");
 }
 
-TEST_F(WorkspaceSettingsTest, HoldTheFirstCheckedLanguage) {
-  workspace_.menus.smnuLingue[3].caption = "english";
-  workspace_.menus.smnuLingue[3].checked = true;
-  workspace_.menus.smnuLingue[5].caption = "deutsch";
-  workspace_.menus.smnuLingue[5].checked = true;
+TEST_F(WorkspaceSettingsTest, HoldTheCheckedLanguage) {
+  workspace_.interface_languages = {.names = {"deutsch", "english", "italiano"}, .chosen = 1};
   WriteSettings(workspace_);
   EXPECT_EQ(test::Slurp(folder_ / "vendlingua.ini"), "Lingua=english\r\n");
 }

@@ -157,8 +157,7 @@ TEST_F(SourceImportTest, StoresSdataAndTheLabelInTheFlags) {
 }
 
 TEST_F(SourceImportTest, StoresDisplayTypeZeroWhateverWasChosenBefore) {
-  engine_.view.ChooseDisplayType(1);
-  menus_.mnuTLCD.enabled = true;
+  engine_.editing.ChooseDisplayType(1);
   Import(three_texts_);
   EXPECT_EQ(Slurp(folder_ / "NEW.MES").substr(2, 2), "00");
 }
@@ -176,11 +175,11 @@ TEST_F(SourceImportTest, LoadsTheFileThatItWrote) {
   EXPECT_EQ(set_.LastMsg, 2);
   EXPECT_EQ(set_.LastCol, 3);
   EXPECT_EQ(set_.Modified, kFalse);
-  EXPECT_EQ(menus_.mnuori[0].caption, "Default");
-  EXPECT_EQ(menus_.mnuDes[1].caption, "ITALIANO");
-  EXPECT_TRUE(menus_.mnuDes[1].visible);
-  EXPECT_TRUE(menus_.mnuOrig.enabled);
-  EXPECT_EQ(view_.HScroll1.max, 2);
+  EXPECT_EQ(menus().mnuori[0].caption, "Default");
+  EXPECT_EQ(menus().mnuDes[1].caption, "ITALIANO");
+  EXPECT_TRUE(menus().mnuDes[1].visible);
+  EXPECT_TRUE(menus().mnuOrig.enabled);
+  EXPECT_EQ(view().HScroll1.max, 2);
 }
 
 TEST_F(SourceImportTest, LeavesEveryDestinationTextEmptyAndSavingEnabled) {
@@ -188,8 +187,8 @@ TEST_F(SourceImportTest, LeavesEveryDestinationTextEmptyAndSavingEnabled) {
   EXPECT_EQ(set_.DestText[0], DisplayText());
   EXPECT_EQ(set_.DestText[2], DisplayText());
   EXPECT_EQ(set_.DestLang, 0);
-  EXPECT_TRUE(menus_.mnuSave.enabled);
-  EXPECT_TRUE(view_.Command1Enabled);
+  EXPECT_TRUE(menus().mnuSave.enabled);
+  EXPECT_TRUE(view().Command1Enabled);
 }
 
 // No destination is open: a save must not empty the language that was imported.
@@ -250,7 +249,7 @@ TEST_F(SectionImportTest, AsksTheQuestionsTwiceForTwoSections) {
                           InputPurpose::kNewLanguageName, InputPurpose::kLanguageCount,
                           InputPurpose::kMemoryStart, InputPurpose::kMemoryLength,
                           InputPurpose::kNewLanguageName));
-  EXPECT_EQ(menus_.mnuDes[2].caption, "DUE");
+  EXPECT_EQ(menus().mnuDes[2].caption, "DUE");
 }
 
 TEST_F(SectionImportTest, StartsTheTextsOfEachSectionFromIndexZero) {
@@ -556,9 +555,9 @@ TEST_F(SourceImportTest, PutsTheOpenFileBackWhenItFails) {
     EXPECT_EQ(set_.DestLang, 1);
     EXPECT_EQ(Origin(0), "0000");
     EXPECT_EQ(Destination(2), "1222");
-    EXPECT_EQ(menus_.mnuDes[1].caption, "ITALIANO");
-    EXPECT_TRUE(menus_.mnuSave.enabled);
-    EXPECT_TRUE(view_.Text1.enabled);
+    EXPECT_EQ(menus().mnuDes[1].caption, "ITALIANO");
+    EXPECT_TRUE(menus().mnuSave.enabled);
+    EXPECT_TRUE(view().Text1.enabled);
   }
 }
 

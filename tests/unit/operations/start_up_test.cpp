@@ -6,6 +6,8 @@
 #include <string>
 #include <vector>
 
+#include "core/presentation/menu_state.h"
+#include "core/presentation/view_state.h"
 #include "support/scripted_dialogs.h"
 #include "support/temporary_folder.h"
 
@@ -53,7 +55,7 @@ class StartUpTest : public testing::Test {
   bool Start() { return StartUp(workspace_, dialogs_, fonts_).Form_Load(); }
 
   std::string CheckedLanguage() const {
-    for (const MenuEntry& entry : workspace_.menus.smnuLingue) {
+    for (const MenuEntry& entry : MenusOf(workspace_).smnuLingue) {
       if (entry.checked) {
         return entry.caption;
       }
@@ -88,8 +90,8 @@ TEST_F(StartUpTest, GoesOnWithTheFirstLanguageWithoutSettings) {
   EXPECT_TRUE(Start());
   EXPECT_EQ(CheckedLanguage(), "Dansk");
   EXPECT_EQ(workspace_.LanguageName, "Dansk");
-  EXPECT_EQ(workspace_.menus.mnuFile.caption, "Dansk");
-  EXPECT_EQ(workspace_.view.caption, "Vendlingua");
+  EXPECT_EQ(MenusOf(workspace_).mnuFile.caption, "Dansk");
+  EXPECT_EQ(ViewOf(workspace_).caption, "Vendlingua");
   EXPECT_THAT(dialogs_.messages, IsEmpty());
 }
 
@@ -99,7 +101,7 @@ TEST_F(StartUpTest, GoesOnWithTheFirstLanguageForAnEmptyNameInTheSettings) {
   folder_.Write("vendlingua.ini", "Lingua=\r\n");
   EXPECT_TRUE(Start());
   EXPECT_EQ(CheckedLanguage(), "dansk");
-  EXPECT_EQ(workspace_.menus.mnuFile.caption, "dansk");
+  EXPECT_EQ(MenusOf(workspace_).mnuFile.caption, "dansk");
 }
 
 TEST_F(StartUpTest, ListsLanguagesInAlphabeticalOrderWithoutRegardToCase) {
@@ -107,10 +109,10 @@ TEST_F(StartUpTest, ListsLanguagesInAlphabeticalOrderWithoutRegardToCase) {
   AddLanguage("Svenska");
   AddLanguage("deutsch");
   EXPECT_TRUE(Start());
-  EXPECT_EQ(workspace_.menus.smnuLingue[0].caption, "deutsch");
-  EXPECT_EQ(workspace_.menus.smnuLingue[1].caption, "italiano");
-  EXPECT_EQ(workspace_.menus.smnuLingue[2].caption, "Svenska");
-  EXPECT_FALSE(workspace_.menus.smnuLingue[3].visible);
+  EXPECT_EQ(MenusOf(workspace_).smnuLingue[0].caption, "deutsch");
+  EXPECT_EQ(MenusOf(workspace_).smnuLingue[1].caption, "italiano");
+  EXPECT_EQ(MenusOf(workspace_).smnuLingue[2].caption, "Svenska");
+  EXPECT_FALSE(MenusOf(workspace_).smnuLingue[3].visible);
 }
 
 TEST_F(StartUpTest, LoadsTheLanguageOfTheSettings) {
@@ -119,7 +121,7 @@ TEST_F(StartUpTest, LoadsTheLanguageOfTheSettings) {
   folder_.Write("vendlingua.ini", "Lingua=italiano\r\n");
   EXPECT_TRUE(Start());
   EXPECT_EQ(CheckedLanguage(), "italiano");
-  EXPECT_EQ(workspace_.menus.mnuFile.caption, "italiano");
+  EXPECT_EQ(MenusOf(workspace_).mnuFile.caption, "italiano");
 }
 
 TEST_F(StartUpTest, FallsBackWhenTheLanguageOfTheSettingsIsGone) {
@@ -143,10 +145,10 @@ TEST_F(StartUpTest, TheUsersOwnSettingsGoFirst) {
 TEST_F(StartUpTest, ListsTenLanguagesAtMost) {
   AddElevenLanguages();
   EXPECT_TRUE(Start());
-  EXPECT_EQ(workspace_.menus.smnuLingue.front().caption, "a");
-  EXPECT_EQ(workspace_.menus.smnuLingue[8].caption, "i");
-  EXPECT_EQ(workspace_.menus.smnuLingue.back().caption, "italiano");
-  EXPECT_TRUE(workspace_.menus.smnuLingue.back().visible);
+  EXPECT_EQ(MenusOf(workspace_).smnuLingue.front().caption, "a");
+  EXPECT_EQ(MenusOf(workspace_).smnuLingue[8].caption, "i");
+  EXPECT_EQ(MenusOf(workspace_).smnuLingue.back().caption, "italiano");
+  EXPECT_TRUE(MenusOf(workspace_).smnuLingue.back().visible);
 }
 
 TEST_F(StartUpTest, NeverLoadsTheTenthLanguage) {

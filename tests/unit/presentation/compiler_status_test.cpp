@@ -19,8 +19,8 @@ class CompilerStatusTest : public testing::Test {
 TEST_F(CompilerStatusTest, CountsTheTickedLanguages) {
   CompilerState compiler;
   EXPECT_EQ(SelectionStatus(compiler, 9, ui_text_), "To choose: 9, chosen: 0");
-  compiler.Check1[1].ticked = true;
-  compiler.Check1[100].ticked = true;
+  compiler.ticked[1] = true;
+  compiler.ticked[100] = true;
   EXPECT_EQ(SelectionStatus(compiler, 9, ui_text_), "To choose: 9, chosen: 2");
 }
 

@@ -3,7 +3,7 @@
 
 #include <set>
 
-#include "core/operations/editor_view.h"
+#include "core/operations/editing.h"
 #include "random_files.h"
 
 namespace vendlingua {
@@ -17,8 +17,7 @@ using test::RandomMes;
 constexpr char kPlaceholderByte = '\xFE';
 
 // The texts that are in use, and one more, which nothing must touch.
-std::vector<std::string> TextsOf(const std::array<DisplayText, kMaxMessages>& texts,
-                                 const RandomMes& file) {
+std::vector<std::string> TextsOf(const MessageTexts& texts, const RandomMes& file) {
   std::vector<std::string> result;
   for (std::size_t m = 0; m <= file.layout.last_msg + 1; ++m) {
     result.push_back(test::Text(texts.at(m).First(file.layout.width)));
@@ -42,31 +41,31 @@ class EditedSet {
   const std::vector<std::string>& expected() const { return expected_; }
 
   void AnyStep() {
-    EditorView& view = engine().view;
+    Editing& editing = engine().editing;
     switch (AnyOf(0, 4)) {
       case 0:
-        view.StoreCurrentMessage();
-        Leave();
+        editing.StoreCurrentMessage();
+        Store();
         break;
       case 1: {
         const DisplayCodes text = *test::RandomTexts(width_ + 3);
-        view.ChangeText(text);
+        editing.ChangeText(text);
         Type(test::InCells(text, width_));
         break;
       }
       case 2: {
         const std::size_t cell = AnyOf(0, width_ - 1);
-        view.Drop('!', static_cast<int>(10 * cell + 5), static_cast<int>(10 * width_));
+        editing.Drop('!', static_cast<int>(10 * cell + 5), static_cast<int>(10 * width_));
         std::string box = Box();
         box[cell] = '!';
         Type(box);
         break;
       }
       default:
-        Leave();
+        Store();
         shown_ = AnyOf(0, file_.layout.last_msg);
         typed_.reset();
-        view.Scroll(static_cast<int>(shown_));
+        editing.GoTo(shown_);
     }
   }
 
@@ -80,10 +79,12 @@ class EditedSet {
     std::replace(box.begin(), box.end(), kPlaceholderByte, ' ');
     return box;
   }
-  void Type(const std::string& box) { typed_ = box; }
-  void Leave() {
-    typed_ = Box();
-    expected_[shown_] = *typed_;
+  void Type(const std::string& box) {
+    typed_ = box;
+    Store();
+  }
+  void Store() {
+    expected_[shown_] = Box();
     for (std::size_t i = 0; i < width_; ++i) {
       if (origin_[shown_][i] == kPlaceholderByte) {
         expected_[shown_][i] = kPlaceholderByte;
@@ -100,7 +101,7 @@ class EditedSet {
   std::optional<std::string> typed_;
 };
 
-RC_GTEST_PROP(EditorViewProperty, StoresVisitedMessagesWithTheirPlaceholdersAndNoOthers, ()) {
+RC_GTEST_PROP(EditingProperty, StoresVisitedMessagesWithTheirPlaceholdersAndNoOthers, ()) {
   const RandomMes file = *test::RandomMesFiles(Placeholders::kMany);
   EditedSet set(file);
   for (std::size_t steps = AnyOf(0, 30); steps > 0; --steps) {
@@ -109,7 +110,7 @@ RC_GTEST_PROP(EditorViewProperty, StoresVisitedMessagesWithTheirPlaceholdersAndN
   }
 }
 
-RC_GTEST_PROP(EditorViewProperty, PagingAloneKeepsADestinationThatHasTheOriginsPlaceholders, ()) {
+RC_GTEST_PROP(EditingProperty, PagingAloneKeepsADestinationThatHasTheOriginsPlaceholders, ()) {
   const RandomMes file = *test::RandomMesFiles(Placeholders::kMany);
   OpenedFile opened("SET.MES", file.Bytes());
   Engine& engine = opened.engine;
@@ -118,9 +119,9 @@ RC_GTEST_PROP(EditorViewProperty, PagingAloneKeepsADestinationThatHasTheOriginsP
   engine.languages.ChooseDestination(language);
   const auto before = TextsOf(engine.workspace.set.DestText, file);
   for (std::size_t steps = AnyOf(0, 30); steps > 0; --steps) {
-    engine.view.Scroll(static_cast<int>(AnyOf(0, file.layout.last_msg)));
+    engine.editing.GoTo(AnyOf(0, file.layout.last_msg));
   }
-  engine.view.StoreCurrentMessage();
+  engine.editing.StoreCurrentMessage();
   RC_ASSERT(TextsOf(engine.workspace.set.DestText, file) == before);
 }
 
