@@ -2,6 +2,8 @@
 
 #include <iostream>
 
+#include "core/texts/valid_utf8.h"
+
 namespace vendlingua::cli {
 namespace {
 
@@ -34,7 +36,7 @@ std::filesystem::path WithDefaultExtension(std::filesystem::path path,
 
 MessageAnswer CliDialogs::MessageBox(const MessageRequest& request) {
   messages_.push_back(request);
-  std::cerr << request.title << ": " << request.text << '\n';
+  std::cerr << ValidUtf8(request.title + ": " + request.text) << '\n';
   return request.buttons == MessageButtons::kYesNo ? MessageAnswer::kYes : MessageAnswer::kOk;
 }
 

@@ -1,12 +1,15 @@
 #include "cli/command_line.h"
 
 #include <CLI/CLI.hpp>
+#include <iostream>
 #include <memory>
+#include <sstream>
 #include <string>
 #include <vector>
 
 #include "cli/commands.h"
 #include "core/operations/answers.h"
+#include "core/texts/valid_utf8.h"
 #include "core/version.h"
 
 namespace vendlingua::cli {
@@ -171,6 +174,17 @@ void AddVerify(CLI::App& app, Session& session) {
   command->callback([&session, files] { RunVerify(session, *files); });
 }
 
+// Prints the help that was asked for, or what is wrong with the command line, which may hold bytes
+// that are no text.
+ExitStatus ExitOf(const CLI::App& app, const CLI::ParseError& error) {
+  std::ostringstream out;
+  std::ostringstream err;
+  const int status = app.exit(error, out, err);
+  std::cout << ValidUtf8(out.str());
+  std::cerr << ValidUtf8(err.str());
+  return status == 0 ? ExitStatus::kDone : ExitStatus::kWrongUsage;
+}
+
 }  // namespace
 
 ExitStatus RunCommandLine(Session& session, int argc, const char* const* argv) {
@@ -193,7 +207,7 @@ ExitStatus RunCommandLine(Session& session, int argc, const char* const* argv) {
   try {
     app.parse(argc, argv);
   } catch (const CLI::ParseError& error) {
-    return app.exit(error) == 0 ? ExitStatus::kDone : ExitStatus::kWrongUsage;
+    return ExitOf(app, error);
   }
   return ExitStatus::kDone;
 }

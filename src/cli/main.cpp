@@ -2,6 +2,15 @@
 #include <iostream>
 
 #include "cli/command_line.h"
+#include "core/texts/valid_utf8.h"
+
+namespace {
+
+void PrintError(const std::exception& error) {
+  std::cerr << "vendlingua-cli: " << vendlingua::ValidUtf8(error.what()) << '\n';
+}
+
+}  // namespace
 
 int main(int argc, char** argv) {
   namespace cli = vendlingua::cli;
@@ -10,10 +19,10 @@ int main(int argc, char** argv) {
     cli::Session session;
     status = cli::RunCommandLine(session, argc, argv);
   } catch (const cli::WrongUsage& error) {
-    std::cerr << "vendlingua-cli: " << error.what() << '\n';
+    PrintError(error);
     status = cli::ExitStatus::kWrongUsage;
   } catch (const std::exception& error) {
-    std::cerr << "vendlingua-cli: " << error.what() << '\n';
+    PrintError(error);
   }
   return static_cast<int>(status);
 }

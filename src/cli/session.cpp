@@ -6,6 +6,7 @@
 #include "core/operations/interface_language.h"
 #include "core/platform/errors.h"
 #include "core/platform/executable_folder.h"
+#include "core/texts/valid_utf8.h"
 
 namespace vendlingua::cli {
 namespace {
@@ -88,7 +89,7 @@ const std::string& Session::LanguageName(int language) {
 
 void Session::Print(const Json& json, const std::string& text) const {
   std::cout << (json_output ? json.dump(2, ' ', false, Json::error_handler_t::replace) + "\n"
-                            : text)
+                            : ValidUtf8(text))
             << std::flush;
   if (!std::cout) {
     throw CommandFailed("the output cannot be written");

@@ -5,7 +5,6 @@
 #include "core/document/display_code.h"
 #include "core/formats/copy_header.h"
 #include "core/formats/hex.h"
-#include "core/platform/errors.h"
 
 namespace vendlingua {
 namespace {
@@ -68,7 +67,9 @@ std::optional<std::string> HeaderFromBaseName(std::string_view base_name) {
 }
 
 std::optional<CopyName> CopyNameFor(const std::filesystem::path& flash_file) {
-  const std::string path = PathText(flash_file);
+  // The name of a file, not a text for people: its bytes have to stay.
+  const std::u8string bytes = flash_file.u8string();
+  const std::string path(bytes.begin(), bytes.end());
   const std::string lower_path = LowerCase(path);
   std::string extension = ".MSX";
   std::size_t dot = lower_path.find(".mhx");

@@ -1,13 +1,33 @@
 #include "core/platform/errors.h"
 
+#ifdef _WIN32
+#include <windows.h>
+#else
+#include "core/texts/valid_utf8.h"
+#endif
+
 namespace vendlingua {
 
 FileError::FileError(const std::filesystem::path& file, const std::string& reason)
     : Error(PathText(file) + ": " + reason), reason_(reason) {}
 
+#ifdef _WIN32
+
 std::string PathText(const std::filesystem::path& path) {
-  const std::u8string text = path.u8string();
-  return {text.begin(), text.end()};
+  const std::wstring& name = path.native();
+  const auto convert = [&name](char* text, int size) {
+    return WideCharToMultiByte(CP_UTF8, 0, name.data(), static_cast<int>(name.size()), text, size,
+                               nullptr, nullptr);
+  };
+  std::string text(static_cast<std::size_t>(convert(nullptr, 0)), '\0');
+  convert(text.data(), static_cast<int>(text.size()));
+  return text;
 }
+
+#else
+
+std::string PathText(const std::filesystem::path& path) { return ValidUtf8(path.native()); }
+
+#endif
 
 }  // namespace vendlingua

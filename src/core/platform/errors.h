@@ -32,7 +32,8 @@ class FolderNotReadyError : public FileError {
   using FileError::FileError;
 };
 
-/// A path as UTF-8 text, for messages.
+/// A path as UTF-8 text, for messages. What of it is no text becomes U+FFFD, so that it is not
+/// always the way to the file.
 std::string PathText(const std::filesystem::path& path);
 
 /// Returns what `work` returns. An error of it that names no file becomes one about `file`.

@@ -23,5 +23,16 @@ TEST(PathText, IsUtf8) {
   EXPECT_EQ(PathText(path), "caffè.MES");
 }
 
+TEST(PathText, ReplacesWhatIsNoUtf8) {
+  EXPECT_EQ(PathText("caff\xE8.MES"), "caff\uFFFD.MES");
+  EXPECT_EQ(PathText("x\xFF\xFE y"), "x\uFFFD\uFFFD y");
+  EXPECT_EQ(PathText("cut \xF0\x9F\x98"), "cut \uFFFD");
+}
+
+TEST(FileError, IsUtf8WhateverThePath) {
+  const FileError error("\xE8/A.MES", "cannot be opened");
+  EXPECT_STREQ(error.what(), "\uFFFD/A.MES: cannot be opened");
+}
+
 }  // namespace
 }  // namespace vendlingua
