@@ -1,40 +1,51 @@
 #include "core/operations/settings.h"
 
-#include <algorithm>
-#include <string_view>
+#include <exception>
+#include <optional>
 #include <system_error>
 
-#include "core/document/display_code.h"
-#include "core/formats/text_lines.h"
+#include "core/formats/settings_file.h"
 #include "core/platform/errors.h"
+#include "core/platform/file_access.h"
 #include "core/platform/files.h"
 
 namespace vendlingua {
 namespace {
 
-constexpr std::string_view kKey = "Lingua=";
+namespace fs = std::filesystem;
 
-}  // namespace
-
-void ReadSettings(const std::filesystem::path& file, std::string& language_name) {
+std::optional<std::string> LanguageIn(const fs::path& file) {
   try {
-    const std::string content = ReadFile(file);
-    const auto line = TextLines(content).Next();
-    if (line && line->text.size() >= kKey.size()) {
-      language_name = ToUtf8(CodesFromBytes(line->text.substr(kKey.size())));
-    }
-  } catch (const FileError&) {
+    return ParseSettings(ReadFile(file));
+  } catch (const std::exception&) {
     // A first start has no settings yet.
+    return std::nullopt;
   }
 }
 
-void WriteSettings(const std::filesystem::path& file, const std::string& language_name) {
-  WriteFile(file, std::string(kKey) + BytesFromCodes(ToDisplayCodes(language_name).codes) + "\r\n");
+}  // namespace
+
+void ReadSettings(const fs::path& file, std::string& language_name) {
+  language_name = LanguageIn(file).value_or(language_name);
+}
+
+void WriteSettings(const fs::path& file, const std::string& language_name) {
+  std::error_code not_there;
+  const fs::file_status status = fs::status(file, not_there);
+  // A pipe would wait for a reader.
+  if (fs::exists(status) && !fs::is_regular_file(status)) {
+    throw FileError(file, "is not a file that can be written");
+  }
+  WriteFile(file, ComposeSettings(language_name));
 }
 
 void ReadSettings(Workspace& workspace) {
-  ReadSettings(workspace.folders.settings, workspace.LanguageName);
-  ReadSettings(workspace.folders.user_settings, workspace.LanguageName);
+  const Folders& folders = workspace.folders;
+  const auto beside = LanguageIn(folders.settings);
+  const auto own = LanguageIn(folders.user_settings);
+  // Where the file beside the program can be written, choices are kept there.
+  const bool own_counts = own && !(beside && MayReplace(folders.settings));
+  workspace.LanguageName = (own_counts ? own : beside).value_or(workspace.LanguageName);
 }
 
 void WriteSettings(const Workspace& workspace) {
@@ -47,9 +58,9 @@ void WriteSettings(const Workspace& workspace) {
   std::error_code ignored;
   try {
     WriteSettings(folders.settings, chosen);
-    std::filesystem::remove(folders.user_settings, ignored);
+    fs::remove(folders.user_settings, ignored);
   } catch (const FileError&) {
-    std::filesystem::create_directories(folders.user_settings.parent_path(), ignored);
+    fs::create_directories(folders.user_settings.parent_path(), ignored);
     WriteSettings(folders.user_settings, chosen);
   }
 }

@@ -8,17 +8,15 @@
 
 namespace vendlingua {
 
-/// The settings file: one line, "Lingua=" followed by the name of the interface language.
-///
-/// Reads that name: what follows the first seven characters, whatever they are. Nothing is changed
-/// when the file is missing, cannot be read or its first line is shorter.
+/// Reads the name of the interface language from a settings file. Nothing is changed when the file
+/// is missing, cannot be read or holds none.
 void ReadSettings(const std::filesystem::path& file, std::string& language_name);
 
 /// Writes the settings file anew. Throws FileError.
 void WriteSettings(const std::filesystem::path& file, const std::string& language_name);
 
-/// Reads `LanguageName`. The user's own file, which exists where the program's folder is read-only,
-/// goes before the one beside the program.
+/// Reads `LanguageName` from the file beside the program or, where this user may not write that
+/// one, from the user's own; from the other one where one of them holds no name.
 void ReadSettings(Workspace& workspace);
 
 /// Writes the chosen interface language beside the program or, where that folder

@@ -1,50 +1,39 @@
 #include "core/operations/settings.h"
 
 #include <gtest/gtest.h>
+#include <sys/stat.h>
+
+#include <filesystem>
 
 #include "core/platform/errors.h"
+#include "core/platform/files.h"
+#include "support/ordinary_user.h"
 #include "support/temporary_folder.h"
 
 namespace vendlingua {
 namespace {
 
-// What ReadSettings makes of "start" when the settings file holds `content`.
-std::string LanguageAfterReading(std::string_view content) {
+TEST(ReadSettings, TakesTheNameOfTheFile) {
   const test::TemporaryFolder folder;
   std::string language = "start";
-  ReadSettings(folder.Write("vendlingua.ini", content), language);
-  return language;
+  ReadSettings(folder.Write("vendlingua.ini", "Lingua=english\r\n"), language);
+  EXPECT_EQ(language, "english");
 }
 
-TEST(ReadSettings, TakesTheNameBehindTheKey) {
-  EXPECT_EQ(LanguageAfterReading("Lingua=english\r\n"), "english");
+TEST(ReadSettings, KeepsTheNameWhenTheFileHoldsNone) {
+  const test::TemporaryFolder folder;
+  std::string language = "start";
+  ReadSettings(folder.Write("vendlingua.ini", "Lingua\r\n"), language);
+  EXPECT_EQ(language, "start");
 }
 
-TEST(ReadSettings, TakesLinesThatEndInLfOrWithTheFile) {
-  EXPECT_EQ(LanguageAfterReading("Lingua=english\n"), "english");
-  EXPECT_EQ(LanguageAfterReading("Lingua=english"), "english");
-}
-
-TEST(ReadSettings, SkipsTheFirstSevenCharactersWhateverTheyAre) {
-  EXPECT_EQ(LanguageAfterReading("1234567deutsch\r\n"), "deutsch");
-}
-
-TEST(ReadSettings, ReadsOnlyTheFirstLine) {
-  EXPECT_EQ(LanguageAfterReading("Lingua=english\r\nLingua=deutsch\r\n"), "english");
-}
-
-TEST(ReadSettings, TakesAnEmptyName) { EXPECT_EQ(LanguageAfterReading("Lingua=\r\n"), ""); }
-
-TEST(ReadSettings, ReadsWindows1252) {
-  EXPECT_EQ(LanguageAfterReading("Lingua=fran\xE7"
-                                 "ais\r\n"),
-            "français");
-}
-
-TEST(ReadSettings, KeepsTheNameWhenTheLineIsShorterThanTheKey) {
-  EXPECT_EQ(LanguageAfterReading("Lingua\r\n"), "start");
-  EXPECT_EQ(LanguageAfterReading("\r\nLingua=english\r\n"), "start");
-  EXPECT_EQ(LanguageAfterReading(""), "start");
+TEST(ReadSettings, KeepsTheNameWhenTheFileIsTooLarge) {
+  const test::TemporaryFolder folder;
+  const auto file = folder.Write("vendlingua.ini", "Lingua=english\r\n");
+  std::filesystem::resize_file(file, kMessageFileLimit + 1);
+  std::string language = "start";
+  ReadSettings(file, language);
+  EXPECT_EQ(language, "start");
 }
 
 TEST(ReadSettings, KeepsTheNameWhenThereIsNoFile) {
@@ -74,12 +63,6 @@ TEST(WriteSettings, LosesWhateverTheFileHeld) {
   EXPECT_EQ(test::Slurp(file), "Lingua=dansk\r\n");
 }
 
-TEST(WriteSettings, WritesWindows1252) {
-  const test::TemporaryFolder folder;
-  WriteSettings(folder / "vendlingua.ini", "español");
-  EXPECT_EQ(test::Slurp(folder / "vendlingua.ini"), "Lingua=espa\xF1ol\r\n");
-}
-
 TEST(WriteSettings, ThrowsWhereNothingCanBeWritten) {
   const test::TemporaryFolder folder;
   EXPECT_THROW(WriteSettings(folder / "missing/vendlingua.ini", "dansk"), FileError);
@@ -94,6 +77,25 @@ class WorkspaceSettingsTest : public testing::Test {
     workspace_.LanguageName = "start";
   }
 
+  void WriteBoth() {
+    folder_.Write("vendlingua.ini", "Lingua=english\r\n");
+    folder_.Write("user/vendlingua.ini", "Lingua=deutsch\r\n");
+  }
+
+  // What an ordinary user reads when the folder of the program and the settings file in it have
+  // these modes.
+  std::string LanguageReadWithModes(unsigned folder_mode, unsigned file_mode) {
+    std::filesystem::permissions(folder_ / "vendlingua.ini", std::filesystem::perms(file_mode));
+    std::filesystem::permissions(folder_.path(), std::filesystem::perms(folder_mode));
+    {
+      const test::OrdinaryUser user;
+      EXPECT_TRUE(user.holds()) << "root that may not become another user";
+      ReadSettings(workspace_);
+    }
+    std::filesystem::permissions(folder_.path(), std::filesystem::perms::owner_all);
+    return workspace_.LanguageName;
+  }
+
   test::TemporaryFolder folder_;
   Workspace workspace_;
 };
@@ -104,11 +106,55 @@ TEST_F(WorkspaceSettingsTest, AreReadBesideTheProgram) {
   EXPECT_EQ(workspace_.LanguageName, "english");
 }
 
-TEST_F(WorkspaceSettingsTest, AreReadFromTheUsersOwnFileFirst) {
-  folder_.Write("vendlingua.ini", "Lingua=english\r\n");
+TEST_F(WorkspaceSettingsTest, AreReadFromTheUsersOwnFileWhereThereIsNoOther) {
   folder_.Write("user/vendlingua.ini", "Lingua=deutsch\r\n");
   ReadSettings(workspace_);
   EXPECT_EQ(workspace_.LanguageName, "deutsch");
+}
+
+TEST_F(WorkspaceSettingsTest, BesideTheProgramGoBeforeTheUsersOwn) {
+  WriteBoth();
+  ReadSettings(workspace_);
+  EXPECT_EQ(workspace_.LanguageName, "english");
+}
+
+TEST_F(WorkspaceSettingsTest, BesideTheProgramGoBehindTheUsersOwnWhereTheFolderIsReadOnly) {
+  WriteBoth();
+  EXPECT_EQ(LanguageReadWithModes(0555, 0666), "deutsch");
+}
+
+TEST_F(WorkspaceSettingsTest, BesideTheProgramGoBehindTheUsersOwnWhereTheFileIsReadOnly) {
+  WriteBoth();
+  EXPECT_EQ(LanguageReadWithModes(0777, 0444), "deutsch");
+}
+
+TEST_F(WorkspaceSettingsTest, BesideTheProgramGoBeforeTheUsersOwnForWhoeverMayWriteThem) {
+  WriteBoth();
+  EXPECT_EQ(LanguageReadWithModes(0777, 0666), "english");
+}
+
+TEST_F(WorkspaceSettingsTest, AreReadFromTheUsersOwnFileWhereTheOtherIsUseless) {
+  WriteBoth();
+  folder_.Write("vendlingua.ini", "Ling");
+  ReadSettings(workspace_);
+  EXPECT_EQ(workspace_.LanguageName, "deutsch");
+}
+
+TEST_F(WorkspaceSettingsTest, WaitForNoPipe) {
+  folder_.Write("user/vendlingua.ini", "Lingua=deutsch\r\n");
+  ASSERT_EQ(mkfifo((folder_ / "vendlingua.ini").c_str(), 0600), 0);
+  ReadSettings(workspace_);
+  EXPECT_EQ(workspace_.LanguageName, "deutsch");
+  workspace_.menus.smnuLingue[3] = {.caption = "english", .checked = true};
+  WriteSettings(workspace_);
+  EXPECT_EQ(test::Slurp(folder_ / "user/vendlingua.ini"), "Lingua=english\r\n");
+}
+
+TEST_F(WorkspaceSettingsTest, OutsideOfTheCodePageAreKept) {
+  workspace_.menus.smnuLingue[3] = {.caption = "\u65E5\u672C\u8A9E", .checked = true};
+  WriteSettings(workspace_);
+  ReadSettings(workspace_);
+  EXPECT_EQ(workspace_.LanguageName, "\u65E5\u672C\u8A9E");
 }
 
 TEST_F(WorkspaceSettingsTest, KeepTheNameOfTheStartWithoutAnyFile) {
