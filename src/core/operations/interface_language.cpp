@@ -15,6 +15,10 @@ constexpr std::string_view kSectionMark = ";--";
 
 std::string FromFile(std::string_view line) { return ToUtf8(CodesFromBytes(line)); }
 
+std::string ReadLanguageFile(const Workspace& workspace, const std::string& file_name) {
+  return ReadFile(LanguageFile(workspace.folders.program, file_name), kLanguageFileLimit);
+}
+
 std::string FileOf(const std::string& language) {
   return language + std::string(kLanguageFileExtension);
 }
@@ -33,7 +37,7 @@ bool LoadIfItFits(Workspace& workspace, const std::string& current, const std::s
 }  // namespace
 
 void LoadLanguageFile(Workspace& workspace, const std::string& file_name) {
-  const std::string content = ReadFile(workspace.folders.program / file_name);
+  const std::string content = ReadLanguageFile(workspace, file_name);
   TextLines lines(content);
   while (const auto line = lines.Next()) {
     workspace.ui_text.Set(lines.count(), FromFile(line->text));
@@ -42,8 +46,8 @@ void LoadLanguageFile(Workspace& workspace, const std::string& file_name) {
 
 bool CheckLanguageFile(Workspace& workspace, const std::string& current,
                        const std::string& candidate) {
-  const std::string current_content = ReadFile(workspace.folders.program / current);
-  const std::string candidate_content = ReadFile(workspace.folders.program / candidate);
+  const std::string current_content = ReadLanguageFile(workspace, current);
+  const std::string candidate_content = ReadLanguageFile(workspace, candidate);
   TextLines current_lines(current_content);
   TextLines candidate_lines(candidate_content);
   while (const auto a = current_lines.Next()) {

@@ -2,21 +2,25 @@
 #define VENDLINGUA_CORE_OPERATIONS_INTERFACE_LANGUAGE_H_
 
 #include <cstddef>
+#include <cstdint>
 #include <string>
 #include <string_view>
 
 #include "core/document/workspace.h"
+#include "core/operations/language_files.h"
 #include "core/platform/dialogs.h"
 
 namespace vendlingua {
 
-/// The extension of interface language files: text in Windows-1252, one entry a line.
-inline constexpr std::string_view kLanguageFileExtension = ".lng";
 /// The language file that all others follow.
 inline constexpr std::string_view kReferenceLanguageFile = "italiano.lng";
 
-/// Reads the language file `file_name` of the program's folder into the interface texts, from entry
-/// 1 on. Entries behind its last line keep their texts. Throws FileError.
+/// What a language file may at most hold: its lines have to be drawn.
+inline constexpr std::uint64_t kLanguageFileLimit = 1U << 20U;
+
+/// Reads the language file `file_name` of the program's folder, text in Windows-1252, into the
+/// interface texts: one entry a line, from entry 1 on. Entries behind its last line keep their
+/// texts. Throws FileError.
 void LoadLanguageFile(Workspace& workspace, const std::string& file_name);
 
 /// Whether the file `candidate` can take the place of `current`, both in the program's folder: it

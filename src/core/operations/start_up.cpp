@@ -2,45 +2,20 @@
 
 #include <algorithm>
 #include <array>
-#include <filesystem>
+#include <exception>
 #include <string_view>
-#include <system_error>
-#include <utility>
 #include <vector>
 
 #include "core/operations/interface_language.h"
+#include "core/operations/language_files.h"
 #include "core/operations/settings.h"
-#include "core/platform/errors.h"
+#include "core/texts/ascii_case.h"
 
 namespace vendlingua {
 namespace {
 
-namespace fs = std::filesystem;
-
 constexpr std::array<std::string_view, kDisplayTypes> kFontNames = {"LCD", "LCD_CY", "LCD KTV",
                                                                     "LCD HBR"};
-
-std::string UpperCase(std::string text) {
-  std::transform(text.begin(), text.end(), text.begin(),
-                 [](char c) { return c >= 'a' && c <= 'z' ? static_cast<char>(c - 0x20) : c; });
-  return text;
-}
-
-// The names of the interface language files in `folder`, less their extension, in alphabetical
-// order without regard to case.
-std::vector<std::string> LanguageNames(const fs::path& folder) {
-  std::vector<std::string> names;
-  std::error_code error;
-  for (const auto& entry : fs::directory_iterator(folder, error)) {
-    if (entry.path().extension() == kLanguageFileExtension) {
-      names.push_back(PathText(entry.path().stem()));
-    }
-  }
-  std::sort(names.begin(), names.end(), [](const std::string& a, const std::string& b) {
-    return std::pair(UpperCase(a), a) < std::pair(UpperCase(b), b);
-  });
-  return names;
-}
 
 }  // namespace
 
@@ -74,7 +49,7 @@ bool StartUp::Form_Load() try {
   folders.current = folders.program;
   ReadSettings(workspace_);
   return CeckLingue();
-} catch (const Error& error) {
+} catch (const std::exception& error) {
   dialogs_.MessageBox({MessageIcon::kCritical, error.what(), "ERROR"});
   return false;
 }

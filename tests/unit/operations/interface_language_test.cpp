@@ -93,6 +93,15 @@ TEST_F(InterfaceLanguageTest, ThrowsForAFolder) {
   EXPECT_THROW(CheckLanguageFile(workspace_, "uno.lng", "folder.lng"), FileError);
 }
 
+TEST_F(InterfaceLanguageTest, ThrowsForAFileThatIsTooLargeToBeDrawn) {
+  folder_.Write("most.lng", std::string(kLanguageFileLimit, 'x'));
+  folder_.Write("more.lng", std::string(kLanguageFileLimit + 1, 'x'));
+  LoadLanguageFile(workspace_, "most.lng");
+  EXPECT_EQ(ui_text()[1].size(), kLanguageFileLimit);
+  EXPECT_THROW(LoadLanguageFile(workspace_, "more.lng"), FileError);
+  EXPECT_THROW(CheckLanguageFile(workspace_, "most.lng", "more.lng"), FileError);
+}
+
 TEST_F(InterfaceLanguageTest, TakesEveryByteButALineEndIntoAnEntry) {
   std::mt19937 random(34);
   std::string line(500, ' ');

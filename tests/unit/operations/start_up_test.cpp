@@ -1,13 +1,17 @@
 #include "core/operations/start_up.h"
 
 #include <gmock/gmock.h>
+#include <sys/stat.h>
 
 #include <filesystem>
 #include <string>
 #include <vector>
 
+#include "core/operations/interface_language.h"
+#include "core/platform/files.h"
 #include "core/presentation/menu_state.h"
 #include "core/presentation/view_state.h"
+#include "support/hostile_names.h"
 #include "support/scripted_dialogs.h"
 #include "support/temporary_folder.h"
 
@@ -16,6 +20,7 @@ namespace {
 
 using test::ScriptedDialogs;
 using test::TemporaryFolder;
+using testing::ElementsAre;
 using testing::IsEmpty;
 using testing::SizeIs;
 
@@ -29,11 +34,7 @@ class FixedFontList : public FontList {
 // A program folder that holds the language files that a test wants.
 class StartUpTest : public testing::Test {
  protected:
-  StartUpTest() {
-    workspace_.folders.program = folder_.path();
-    workspace_.folders.settings = folder_ / "vendlingua.ini";
-    workspace_.folders.user_settings = folder_ / "user/vendlingua.ini";
-  }
+  StartUpTest() { workspace_.folders = folders_; }
 
   // A language file with a name of its own in entry 1 and texts in the others.
   void AddLanguage(const std::string& name) {
@@ -52,6 +53,22 @@ class StartUpTest : public testing::Test {
     }
   }
 
+  // A language file that is too large to be read.
+  void AddOversizedLanguage(const std::string& name) {
+    std::filesystem::resize_file(folder_.Write(name + ".lng", name + "\r\n"),
+                                 kMessageFileLimit + 1);
+  }
+
+  std::vector<std::string> Listed() const {
+    std::vector<std::string> names;
+    for (const MenuEntry& entry : MenusOf(workspace_).smnuLingue) {
+      if (entry.visible) {
+        names.push_back(entry.caption);
+      }
+    }
+    return names;
+  }
+
   bool Start() { return StartUp(workspace_, dialogs_, fonts_).Form_Load(); }
 
   std::string CheckedLanguage() const {
@@ -64,6 +81,10 @@ class StartUpTest : public testing::Test {
   }
 
   TemporaryFolder folder_;
+  Folders folders_{.program = folder_.path(),
+                   .current = {},
+                   .settings = folder_ / "vendlingua.ini",
+                   .user_settings = folder_ / "user/vendlingua.ini"};
   ScriptedDialogs dialogs_;
   FixedFontList fonts_;
   Workspace workspace_;
@@ -132,12 +153,12 @@ TEST_F(StartUpTest, FallsBackWhenTheLanguageOfTheSettingsIsGone) {
   EXPECT_EQ(CheckedLanguage(), "dansk");
 }
 
-TEST_F(StartUpTest, TheUsersOwnSettingsGoFirst) {
+TEST_F(StartUpTest, TheSettingsBesideTheProgramGoFirst) {
   AddLanguage("dansk");
   AddLanguage("italiano");
-  folder_.Write("vendlingua.ini", "Lingua=dansk\r\n");
+  folder_.Write("vendlingua.ini", "Lingua=italiano\r\n");
   std::filesystem::create_directory(folder_ / "user");
-  folder_.Write("user/vendlingua.ini", "Lingua=italiano\r\n");
+  folder_.Write("user/vendlingua.ini", "Lingua=dansk\r\n");
   EXPECT_TRUE(Start());
   EXPECT_EQ(CheckedLanguage(), "italiano");
 }
@@ -190,13 +211,123 @@ TEST_F(StartUpTest, EndsWithoutTheReferenceLanguage) {
   EXPECT_EQ(dialogs_.messages.front().title, "ERROR");
 }
 
-TEST_F(StartUpTest, EndsWhenALanguageFileCannotBeRead) {
+TEST_F(StartUpTest, EndsWhenItsLanguageFileCannotBeRead) {
   AddLanguage("italiano");
-  std::filesystem::create_directory(folder_ / "dansk.lng");
+  AddOversizedLanguage("dansk");
   EXPECT_FALSE(Start());
   ASSERT_THAT(dialogs_.messages, SizeIs(1));
   EXPECT_EQ(dialogs_.messages.front().title, "ERROR");
   EXPECT_THAT(dialogs_.messages.front().text, testing::HasSubstr("dansk.lng"));
+}
+
+TEST_F(StartUpTest, GoesOnWhenAnotherLanguageFileCannotBeRead) {
+  AddLanguage("italiano");
+  AddOversizedLanguage("dansk");
+  folder_.Write("vendlingua.ini", "Lingua=italiano\r\n");
+  EXPECT_TRUE(Start());
+  EXPECT_EQ(CheckedLanguage(), "italiano");
+}
+
+TEST_F(StartUpTest, TakesNoFolderForALanguage) {
+  AddLanguage("italiano");
+  std::filesystem::create_directory(folder_ / "dansk.lng");
+  EXPECT_TRUE(Start());
+  EXPECT_THAT(Listed(), ElementsAre("italiano"));
+}
+
+TEST_F(StartUpTest, TakesNoPipeForALanguage) {
+  AddLanguage("italiano");
+  ASSERT_EQ(mkfifo((folder_ / "dansk.lng").c_str(), 0600), 0);
+  EXPECT_TRUE(Start());
+  EXPECT_THAT(Listed(), ElementsAre("italiano"));
+}
+
+TEST_F(StartUpTest, TakesNoLinkThatLeadsNowhereForALanguage) {
+  AddLanguage("italiano");
+  std::filesystem::create_symlink("gone.lng", folder_ / "dansk.lng");
+  std::filesystem::create_symlink("english.lng", folder_ / "english.lng");
+  EXPECT_TRUE(Start());
+  EXPECT_THAT(Listed(), ElementsAre("italiano"));
+}
+
+TEST_F(StartUpTest, TakesTheExtensionOfALanguageInAnyCase) {
+  AddLanguage("italiano");
+  AddLanguage("dansk");
+  AddLanguage("english");
+  std::filesystem::rename(folder_ / "dansk.lng", folder_ / "dansk.LNG");
+  std::filesystem::rename(folder_ / "english.lng", folder_ / "english.Lng");
+  folder_.Write("vendlingua.ini", "Lingua=english\r\n");
+  EXPECT_TRUE(Start());
+  EXPECT_THAT(Listed(), ElementsAre("dansk", "english", "italiano"));
+  EXPECT_EQ(MenusOf(workspace_).mnuFile.caption, "english");
+}
+
+TEST_F(StartUpTest, TakesTheReferenceLanguageInAnyCase) {
+  AddLanguage("ITALIANO");
+  std::filesystem::rename(folder_ / "ITALIANO.lng", folder_ / "ITALIANO.LNG");
+  EXPECT_TRUE(Start());
+  EXPECT_THAT(Listed(), ElementsAre("ITALIANO"));
+}
+
+TEST_F(StartUpTest, ListsALanguageOnceThatHasTwoFiles) {
+  AddLanguage("italiano");
+  folder_.Write("italiano.LNG", "another\r\n");
+  EXPECT_TRUE(Start());
+  EXPECT_THAT(Listed(), ElementsAre("italiano"));
+  EXPECT_EQ(MenusOf(workspace_).mnuFile.caption, "italiano");
+}
+
+TEST_F(StartUpTest, LoadsALanguageWhoseFileNameIsNoUtf8) {
+  AddLanguage("italiano");
+  folder_.Write(
+      "fran\xE7"
+      "ais.lng",
+      "Fichier\r\n");
+  EXPECT_TRUE(Start());
+  EXPECT_THAT(Listed(), ElementsAre("fran\uFFFDais", "italiano"));
+  EXPECT_EQ(MenusOf(workspace_).mnuFile.caption, "Fichier");
+}
+
+TEST_F(StartUpTest, RemembersALanguageOutsideOfTheCodePage) {
+  AddLanguage("italiano");
+  AddLanguage("\u0440\u0443\u0441");
+  AddLanguage(
+      "fran\xE7"
+      "ais");
+  for (const std::size_t index : {2U, 0U}) {
+    EXPECT_TRUE(Start());
+    ChooseInterfaceLanguage(workspace_, dialogs_, index);
+    const std::string chosen = Listed().at(index);
+    workspace_ = Workspace();
+    workspace_.folders = folders_;
+    EXPECT_TRUE(Start());
+    EXPECT_EQ(CheckedLanguage(), chosen);
+  }
+}
+
+// Whatever is wrong with a folder is told, too.
+TEST_F(StartUpTest, EndsWithABoxWhereItsFolderIsMissing) {
+  workspace_.folders.program = folder_ / "missing";
+  EXPECT_FALSE(Start());
+  EXPECT_THAT(dialogs_.messages, SizeIs(1));
+}
+
+TEST_F(StartUpTest, WorksInAFolderOfAnyName) {
+  for (const std::string& name : test::HostileNames()) {
+    workspace_ = Workspace();
+    workspace_.folders.program = folder_ / name;
+    workspace_.folders.settings = folder_ / name / "vendlingua.ini";
+    workspace_.folders.user_settings = folder_ / name / "user/vendlingua.ini";
+    std::filesystem::create_directory(folder_ / name);
+    AddLanguage(name + "/italiano");
+    AddLanguage(name + "/dansk");
+    EXPECT_TRUE(Start()) << name;
+    ChooseInterfaceLanguage(workspace_, dialogs_, 1);
+    workspace_.LanguageName.clear();
+    EXPECT_TRUE(Start()) << name;
+    EXPECT_EQ(workspace_.LanguageName, "italiano") << name;
+  }
+  EXPECT_THAT(dialogs_.messages, IsEmpty());
 }
 
 TEST_F(StartUpTest, WorksInTheProgramsFolder) {

@@ -1,0 +1,95 @@
+#include "core/operations/language_files.h"
+
+#include <gmock/gmock.h>
+#include <sys/stat.h>
+
+#include <filesystem>
+
+#include "support/temporary_folder.h"
+
+namespace vendlingua {
+namespace {
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+class LanguageFilesTest : public testing::Test {
+ protected:
+  std::vector<std::string> Names() const { return LanguageNames(folder_.path()); }
+  std::string File(const std::string& name) const {
+    return LanguageFile(folder_.path(), name).filename().string();
+  }
+
+  test::TemporaryFolder folder_;
+};
+
+TEST_F(LanguageFilesTest, AreListedInAlphabeticalOrderWithoutRegardToCase) {
+  for (const char* name : {"b.lng", "C.lng", "a.lng", "A.lng", "d.Lng", "\u00E9.lng"}) {
+    folder_.Write(name, "");
+  }
+  EXPECT_THAT(Names(), ElementsAre("A", "a", "b", "C", "d", "\u00E9"));
+}
+
+TEST_F(LanguageFilesTest, AreFilesAndNothingElse) {
+  folder_.Write("x.lng", "");
+  folder_.Write("x.lng.bak", "");
+  folder_.Write("lng", "");
+  folder_.Write(".lng", "");
+  std::filesystem::create_directory(folder_ / "folder.lng");
+  std::filesystem::create_symlink("missing.lng", folder_ / "link.lng");
+  std::filesystem::create_symlink("x.lng", folder_ / "y.lng");
+  ASSERT_EQ(mkfifo((folder_ / "pipe.lng").c_str(), 0600), 0);
+  EXPECT_THAT(Names(), ElementsAre("x", "y"));
+}
+
+TEST_F(LanguageFilesTest, AreListedOnceForEachName) {
+  folder_.Write("x.lng", "");
+  folder_.Write("x.LNG", "");
+  folder_.Write("y\xFF.lng", "");
+  folder_.Write("y\xFE.lng", "");
+  EXPECT_THAT(Names(), ElementsAre("x", "y\uFFFD"));
+}
+
+TEST_F(LanguageFilesTest, AreNoneInAFolderThatIsMissing) {
+  EXPECT_THAT(LanguageNames(folder_ / "missing"), IsEmpty());
+  EXPECT_THAT(LanguageNames(""), IsEmpty());
+}
+
+TEST_F(LanguageFilesTest, AreFoundByTheirExactNameFirst) {
+  for (const char* name : {"x.lng", "x.LNG", "X.lng"}) {
+    folder_.Write(name, "");
+  }
+  EXPECT_EQ(File("x.lng"), "x.lng");
+  EXPECT_EQ(File("X.lng"), "X.lng");
+}
+
+TEST_F(LanguageFilesTest, AreFoundByTheirNameBeforeAnyInAnotherCase) {
+  folder_.Write("X.lng", "");
+  folder_.Write("x.LNG", "");
+  EXPECT_EQ(File("x.lng"), "x.LNG");
+}
+
+TEST_F(LanguageFilesTest, AreFoundInAnotherCase) {
+  folder_.Write("ITALIANO.LNG", "");
+  EXPECT_EQ(File("italiano.lng"), "ITALIANO.LNG");
+}
+
+TEST_F(LanguageFilesTest, AreFoundByTheNameThatIsListed) {
+  folder_.Write(
+      "fran\xE7"
+      "ais.lng",
+      "");
+  EXPECT_EQ(File("fran\uFFFDais.lng"),
+            "fran\xE7"
+            "ais.lng");
+}
+
+TEST_F(LanguageFilesTest, LeadToNoFileWhereThereIsNone) {
+  folder_.Write("x.lng", "");
+  std::filesystem::create_directory(folder_ / "y.lng");
+  EXPECT_EQ(LanguageFile(folder_.path(), "y.lng"), folder_ / "y.lng");
+  EXPECT_EQ(LanguageFile(folder_.path(), "z.lng"), folder_ / "z.lng");
+}
+
+}  // namespace
+}  // namespace vendlingua
