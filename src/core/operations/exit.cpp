@@ -5,14 +5,17 @@
 namespace vendlingua {
 
 bool Form_Unload(Workspace& workspace, ProgramStarter& starter, MessageFileWriter& writer) {
-  std::filesystem::path& current = workspace.folders.current;
-  const std::filesystem::path before = current;
-  current = current.parent_path();
-  starter.Start(current / kSiblingProgram);
+  Folders& folders = workspace.folders;
+  const std::filesystem::path before = folders.current;
+  // Beside the folder of a message file could lie a program of anybody.
+  if (folders.program.has_parent_path()) {
+    folders.current = folders.program.parent_path();
+    starter.Start(folders.current / kSiblingProgram);
+  }
   if (writer.NonSave()) {
     return true;
   }
-  current = before;
+  folders.current = before;
   return false;
 }
 

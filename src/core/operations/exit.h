@@ -9,7 +9,7 @@
 
 namespace vendlingua {
 
-/// The program that configures the machine; it lies in the parent of the current folder.
+/// The program that configures the machine; it lies in the parent of the program's own folder.
 inline constexpr std::string_view kSiblingProgram = "MACHCONFIG.EXE";
 
 /// What happens when the main window is closed: starts the sibling program, then offers to save

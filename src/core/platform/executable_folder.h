@@ -5,8 +5,11 @@
 
 namespace vendlingua {
 
-/// The folder of the running program, symbolic links resolved; language files lie there. Empty,
-/// which means the folder that the program was started in, where the system does not tell.
+/// The file of the running program, symbolic links resolved. Empty where the system does not tell.
+std::filesystem::path ExecutableFile();
+
+/// The folder of that file; language files lie there. Where the system does not tell, "." stands
+/// for the folder that the program was started in.
 std::filesystem::path ExecutableFolder();
 
 }  // namespace vendlingua

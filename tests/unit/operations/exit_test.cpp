@@ -28,6 +28,11 @@ class NotedStarts : public ProgramStarter {
 
 class ExitTest : public test::EngineTest {
  protected:
+  ExitTest() {
+    engine_.workspace.folders.program = folder_ / "bin";
+    engine_.workspace.folders.current = folder_ / "bin";
+  }
+
   bool End() { return Form_Unload(engine_.workspace, starts_, engine_.writer); }
 
   // A destination language that has been changed.
@@ -43,11 +48,25 @@ class ExitTest : public test::EngineTest {
   NotedStarts starts_;
 };
 
-TEST_F(ExitTest, StartsTheSiblingInTheParentFolder) {
-  engine_.workspace.folders.current = folder_ / "bin";
+TEST_F(ExitTest, StartsTheSiblingInTheParentOfItsOwnFolder) {
   EXPECT_TRUE(End());
   EXPECT_THAT(starts_.programs, ElementsAre(folder_ / "MACHCONFIG.EXE"));
   EXPECT_EQ(engine_.workspace.folders.current, folder_.path());
+}
+
+// Who hands a memory stick over must not choose the program that is started.
+TEST_F(ExitTest, StartsNoSiblingThatLiesBesideForeignFiles) {
+  std::filesystem::create_directories(folder_ / "stick/messages");
+  Open("stick/messages/A.MES", test::MesFile().Bytes());
+  EXPECT_EQ(engine_.workspace.folders.current, folder_ / "stick/messages");
+  EXPECT_TRUE(End());
+  EXPECT_THAT(starts_.programs, ElementsAre(folder_ / "MACHCONFIG.EXE"));
+}
+
+TEST_F(ExitTest, StartsNothingWhereItsOwnFolderIsUnknown) {
+  engine_.workspace.folders.program.clear();
+  EXPECT_TRUE(End());
+  EXPECT_THAT(starts_.programs, IsEmpty());
 }
 
 TEST_F(ExitTest, StartsTheSiblingBeforeItAsksAboutChanges) {

@@ -1,0 +1,20 @@
+#include "core/platform/executable_folder.h"
+
+#include <gtest/gtest.h>
+
+#include <filesystem>
+
+namespace vendlingua {
+namespace {
+
+TEST(ExecutableFile, IsTheProgramThatRuns) {
+  EXPECT_EQ(ExecutableFile().filename(), "unit_tests");
+  EXPECT_TRUE(std::filesystem::is_regular_file(ExecutableFile()));
+}
+
+TEST(ExecutableFolder, HoldsTheProgram) {
+  EXPECT_EQ(ExecutableFolder() / "unit_tests", ExecutableFile());
+}
+
+}  // namespace
+}  // namespace vendlingua
