@@ -6,12 +6,24 @@
 
 namespace vendlingua {
 
-/// Paths as Qt writes them, and back.
+/// A path as Qt writes it. What of it is no Unicode becomes U+FFFD: it can be shown, but leads
+/// nowhere.
 inline QString ToQString(const std::filesystem::path& path) {
-  return QString::fromStdU16String(path.generic_u16string());
+#ifdef _WIN32
+  return QString::fromStdWString(path.generic_wstring());
+#else
+  return QString::fromStdString(path.native());
+#endif
 }
 
-inline std::filesystem::path ToPath(const QString& path) { return path.toStdU16String(); }
+/// A path that Qt wrote.
+inline std::filesystem::path ToPath(const QString& path) {
+#ifdef _WIN32
+  return path.toStdWString();
+#else
+  return path.toStdString();
+#endif
+}
 
 }  // namespace vendlingua
 

@@ -2,12 +2,17 @@
 
 #include <QProcess>
 
+#include "desktop/qt_folder.h"
 #include "desktop/qt_path.h"
 
 namespace vendlingua {
 
 void QtProgramStarter::Start(const std::filesystem::path& program) {
-  QProcess::startDetached(ToQString(program), {}, ToQString(program.parent_path()));
+  const QtFolder folder(program.parent_path());
+  const QString name = ToQString(program.filename());
+  // The second name of a folder is gone before the program has read itself: it starts there.
+  const QString file = folder.HasSecondName() ? QStringLiteral("./") + name : ToQString(program);
+  QProcess::startDetached(file, {}, folder.name());
 }
 
 }  // namespace vendlingua

@@ -1,11 +1,25 @@
+#include "core/operations/start_up.h"
+
+#include <spawn.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
 #include <QFile>
 #include <QLabel>
+#include <array>
 #include <filesystem>
 #include <string>
+#include <string_view>
+#include <system_error>
 #include <utility>
 #include <vector>
 
+#include "core/platform/executable_folder.h"
+#include "desktop/fonts/qt_font_list.h"
+#include "desktop/program_folders.h"
 #include "gui/support/desk_test.h"
+#include "support/hostile_names.h"
+#include "support/scripted_dialogs.h"
 
 namespace vendlingua::test {
 namespace {
@@ -23,6 +37,40 @@ class FixedFontList : public FontList {
  private:
   std::vector<std::string> families_;
 };
+
+constexpr const char* kStartHere = "--start-here";
+
+// What the program does before its window is shown, in the folder where this file lies: the exit
+// status of a process. Nobody is there to answer a dialog.
+int StartHere(int argc, char** argv) {
+  const QApplication application(argc, argv);
+  ScriptedDialogs dialogs;
+  Workspace workspace;
+  workspace.folders = ProgramFolders();
+  const QtFontList fonts(workspace.folders.program / "fonts");
+  const bool started = StartUp(workspace, dialogs, fonts).Form_Load();
+  return started && workspace.LanguageName == "svenska" ? 0 : 1;
+}
+
+// Lays this file into `folder` and starts it there. The exit status, or -1.
+int StartProgramIn(const fs::path& folder) {
+  const fs::path program = folder / ExecutableFile().filename();
+  std::error_code other_disk;
+  fs::create_hard_link(ExecutableFile(), program, other_disk);
+  if (other_disk) {
+    fs::copy_file(ExecutableFile(), program);
+  }
+  std::string path = program.native();
+  std::string option = kStartHere;
+  const std::array<char*, 3> arguments = {path.data(), option.data(), nullptr};
+  pid_t process = 0;
+  int status = 0;
+  if (posix_spawn(&process, path.c_str(), nullptr, nullptr, arguments.data(), environ) != 0 ||
+      waitpid(process, &status, 0) != process || !WIFEXITED(status)) {
+    return -1;
+  }
+  return WEXITSTATUS(status);
+}
 
 }  // namespace
 
@@ -175,6 +223,22 @@ class StartUpTest : public DeskTest {
     QCOMPARE(next.Entry("mnuSave").text(), desk_->program.Entry("mnuSave").text());
   }
 
+  void FindsWhatItNeedsInAFolderOfAnyName_data() {
+    QTest::addColumn<std::string>("name");
+    int number = 0;
+    for (const std::string& name : HostileNames()) {
+      QTest::addRow("folder %d", number++) << name;
+    }
+  }
+  void FindsWhatItNeedsInAFolderOfAnyName() {
+    QFETCH(std::string, name);
+    const fs::path folder = desk_->folder / name;
+    fs::copy(VENDLINGUA_LANGUAGES_FOLDER, folder);
+    fs::copy(VENDLINGUA_FONTS_FOLDER, folder / "fonts");
+    desk_->folder.Write(name + "/start_up_test.ini", "Lingua=svenska\r\n");
+    QCOMPARE(StartProgramIn(folder), 0);
+  }
+
   void AWindowThatComesUpHighGoesToTheTopOfTheScreen() {
     ShowAt(100);  // 1500 twips
     QCOMPARE(desk_->program.window().y(), 0);
@@ -193,6 +257,9 @@ class StartUpTest : public DeskTest {
 }  // namespace vendlingua::test
 
 int main(int argc, char** argv) {
+  if (argc == 2 && std::string_view(argv[1]) == vendlingua::test::kStartHere) {
+    return vendlingua::test::StartHere(argc, argv);
+  }
   return vendlingua::test::RunTest<vendlingua::test::StartUpTest>(argc, argv);
 }
 

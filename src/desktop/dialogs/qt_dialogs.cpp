@@ -8,7 +8,7 @@
 #include <QPushButton>
 #include <utility>
 
-#include "desktop/qt_path.h"
+#include "desktop/qt_folder.h"
 #include "desktop/qt_text.h"
 
 namespace vendlingua {
@@ -69,9 +69,9 @@ QStringList NameFilters(const std::string& filter) {
   return filters;
 }
 
-void Prepare(QFileDialog& dialog, const FileRequest& request) {
+void Prepare(QFileDialog& dialog, const FileRequest& request, const QtFolder& folder) {
   dialog.setNameFilters(NameFilters(request.filter));
-  dialog.setDirectory(ToQString(request.folder));
+  dialog.setDirectory(folder.name());
   dialog.setDefaultSuffix(FromUtf8(request.default_extension));
   dialog.setOption(QFileDialog::DontConfirmOverwrite, !request.overwrite_prompt);
   if (!request.initial_name.empty()) {
@@ -80,11 +80,12 @@ void Prepare(QFileDialog& dialog, const FileRequest& request) {
 }
 
 // What was chosen; the name that stood there at first is no choice.
-std::filesystem::path Answer(QFileDialog& dialog, const FileRequest& request) {
+std::filesystem::path Answer(QFileDialog& dialog, const FileRequest& request,
+                             const QtFolder& folder) {
   if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) {
     return {};
   }
-  const std::filesystem::path path = ToPath(dialog.selectedFiles().constFirst());
+  const std::filesystem::path path = folder.PathOf(dialog.selectedFiles().constFirst());
   return path.filename() == request.initial_name ? path.filename() : path;
 }
 
@@ -127,20 +128,22 @@ std::string QtDialogs::InputBox(const InputRequest& request) {
 
 std::filesystem::path QtDialogs::OpenFile(const FileRequest& request) {
   BeforeDialog();
+  const QtFolder folder(request.folder);
   QFileDialog dialog(QApplication::activeWindow());
   dialog.setAcceptMode(QFileDialog::AcceptOpen);
   dialog.setFileMode(QFileDialog::ExistingFile);
-  Prepare(dialog, request);
-  return Answer(dialog, request);
+  Prepare(dialog, request, folder);
+  return Answer(dialog, request, folder);
 }
 
 std::filesystem::path QtDialogs::SaveFile(const FileRequest& request) {
   BeforeDialog();
+  const QtFolder folder(request.folder);
   QFileDialog dialog(QApplication::activeWindow());
   dialog.setAcceptMode(QFileDialog::AcceptSave);
   dialog.setFileMode(QFileDialog::AnyFile);
-  Prepare(dialog, request);
-  return Answer(dialog, request);
+  Prepare(dialog, request, folder);
+  return Answer(dialog, request, folder);
 }
 
 // Some operations ask for it at every line of a file; nobody sees more than one picture a frame.

@@ -1,11 +1,13 @@
 #include "desktop/fonts/qt_font_list.h"
 
+#include <QByteArray>
 #include <QFontDatabase>
 #include <QString>
 #include <QStringList>
 #include <array>
 
-#include "desktop/qt_path.h"
+#include "core/platform/errors.h"
+#include "core/platform/files.h"
 
 namespace vendlingua {
 namespace {
@@ -20,13 +22,22 @@ constexpr std::array<FontFile, 4> kFontFiles = {{{"LCD", "LCD.ttf"},
                                                  {"LCD KTV", "LCD_KTV.ttf"},
                                                  {"LCD HBR", "LCD_HBR.ttf"}}};
 
+// Qt takes the bytes of a font wherever they come from; its own names of files cannot name every
+// folder. A font that is missing or broken is noticed when the families are checked.
+void Register(const std::filesystem::path& file) {
+  try {
+    QFontDatabase::addApplicationFontFromData(QByteArray::fromStdString(ReadFile(file)));
+  } catch (const FileError&) {
+  }
+}
+
 }  // namespace
 
 QtFontList::QtFontList(const std::filesystem::path& folder) {
   const QStringList installed = QFontDatabase::families();
   for (const FontFile& font : kFontFiles) {
     if (!installed.contains(QLatin1String(font.family), Qt::CaseInsensitive)) {
-      QFontDatabase::addApplicationFont(ToQString(folder / font.file));
+      Register(folder / font.file);
     }
   }
 }
