@@ -1,16 +1,17 @@
-#include <QApplication>
+#include <exception>
 
 #include "core/engine.h"
 #include "core/operations/start_up.h"
+#include "desktop/application.h"
 #include "desktop/dialogs/qt_dialogs.h"
 #include "desktop/fonts/qt_font_list.h"
 #include "desktop/main_window/frm_mes.h"
 #include "desktop/program_folders.h"
 #include "desktop/qt_program_starter.h"
 
-int main(int argc, char** argv) {
-  const QApplication application(argc, argv);
-  QCoreApplication::setApplicationName(QStringLiteral("vendlingua"));
+namespace {
+
+int Run() {
   vendlingua::QtDialogs dialogs;
   vendlingua::Engine engine(dialogs);
   engine.workspace.folders = vendlingua::ProgramFolders();
@@ -22,4 +23,17 @@ int main(int argc, char** argv) {
   vendlingua::FrmMes window(engine, dialogs, starter);
   window.show();
   return QApplication::exec();
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  const vendlingua::Application application(argc, argv);
+  QCoreApplication::setApplicationName(QStringLiteral("vendlingua"));
+  try {
+    return Run();
+  } catch (const std::exception& error) {
+    vendlingua::ShowFailure(error.what());
+    return 1;
+  }
 }

@@ -1,7 +1,9 @@
 #include <QLabel>
 #include <QMenu>
 #include <QProcess>
+#include <stdexcept>
 
+#include "desktop/application.h"
 #include "desktop/qt_program_starter.h"
 #include "gui/support/desk_test.h"
 
@@ -50,6 +52,33 @@ class ProgramTest : public DeskTest {
     }
   }
 
+  // Nobody waits for such a throw, but the edits have to outlive it.
+  void TellsWhatAHandlerThrowsAndGoesOn() {
+    desk_->Edit(MesFile());
+    desk_->Type("EDIT");
+    auto* label = &desk_->program.Get<QLabel>("Label6");
+    QMetaObject::invokeMethod(
+        label, [] { throw std::runtime_error("the handler failed"); }, Qt::QueuedConnection);
+    QTRY_COMPARE(desk_->user.boxes().size(), std::size_t{1});
+    QCOMPARE(desk_->user.FirstBox().text, QStringLiteral("the handler failed"));
+    QCOMPARE(desk_->user.FirstBox().title, QStringLiteral("ERROR"));
+    QCOMPARE(desk_->user.FirstBox().icon, QMessageBox::Critical);
+    QCOMPARE(desk_->Text1().text(), QStringLiteral("EDIT"));
+  }
+
+  void ShowsOneBoxAtATimeForWhatHandlersThrow() {
+    const auto fail = [] { throw std::runtime_error("failed again"); };
+    QMetaObject::invokeMethod(&desk_->program.window(), fail, Qt::QueuedConnection);
+    QMetaObject::invokeMethod(&desk_->program.window(), fail, Qt::QueuedConnection);
+    desk_->user.on_dialog = [&](QDialog& /*dialog*/) {
+      QMetaObject::invokeMethod(&desk_->program.window(), fail, Qt::QueuedConnection);
+      QApplication::processEvents();
+    };
+    QTRY_COMPARE(desk_->user.boxes().size(), std::size_t{1});
+    QTest::qWait(50);
+    QCOMPARE(desk_->user.boxes().size(), std::size_t{1});
+  }
+
   void StartsTheSiblingBeforeItAsksAboutChanges() {
     desk_->Edit(MesFile());
     desk_->Type("EDIT");
@@ -60,8 +89,7 @@ class ProgramTest : public DeskTest {
     desk_->user.No();
     QVERIFY(desk_->program.window().close());
     QCOMPARE(started_at_question, std::size_t{1});
-    QCOMPARE(desk_->program.starts().programs.front(),
-             desk_->folder.path().parent_path() / "MACHCONFIG.EXE");
+    QCOMPARE(desk_->program.starts().programs.front(), desk_->folder / "MACHCONFIG.EXE");
   }
 
   void TheMenuEntryEndsTheProgramToo() {
@@ -128,7 +156,8 @@ class ProgramTest : public DeskTest {
 }  // namespace vendlingua::test
 
 int main(int argc, char** argv) {
-  return vendlingua::test::RunTest<vendlingua::test::ProgramTest>(argc, argv);
+  return vendlingua::test::RunTest<vendlingua::test::ProgramTest, vendlingua::Application>(argc,
+                                                                                           argv);
 }
 
 #include "program_test.moc"

@@ -79,11 +79,11 @@ struct Desk {
 
 /// The main() of a test program. File dialogs remember things from run to run: here they neither
 /// read nor write what those of the user do.
-template <typename Test>
+template <typename Test, typename Application = QApplication>
 int RunTest(int argc, char** argv) {
   const TemporaryFolder settings;
   QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, ToQString(settings.path()));
-  const QApplication application(argc, argv);
+  const Application application(argc, argv);
   Test test;
   return QTest::qExec(&test, argc, argv);
 }
