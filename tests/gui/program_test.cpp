@@ -79,6 +79,17 @@ class ProgramTest : public DeskTest {
     QCOMPARE(desk_->user.boxes().size(), std::size_t{1});
   }
 
+  void CaptionsTheEditorAlthoughTheChoiceCannotBeKept() {
+    std::filesystem::create_directories(desk_->folder / "bin/vendlingua.ini");
+    std::filesystem::create_directories(desk_->folder / "bin/user/vendlingua.ini");
+    const QString before = desk_->program.Get<QLabel>("Label8(0)").text();
+    desk_->program.Choose("smnuLingue(2)");
+    QCOMPARE(desk_->user.boxes().size(), std::size_t{1});
+    QVERIFY(UiText(19) != before);
+    QCOMPARE(desk_->program.Get<QLabel>("Label8(0)").text(), UiText(19));
+    QCOMPARE(desk_->program.Entry("mnuSave").text(), UiText(3));
+  }
+
   void StartsTheSiblingBeforeItAsksAboutChanges() {
     desk_->Edit(MesFile());
     desk_->Type("EDIT");

@@ -25,6 +25,8 @@ class UiText {
     entries_[number - 1] = std::move(text);
   }
 
+  bool operator==(const UiText&) const = default;
+
  private:
   std::vector<std::string> entries_;
 };

@@ -52,7 +52,6 @@ FrmMes::FrmMes(Engine& engine, QtDialogs& dialogs, ProgramStarter& starter)
   typing_pause_.setSingleShot(true);
   typing_pause_.setInterval(kTypingPause);
   connect(&typing_pause_, &QTimer::timeout, this, [this] { engine_.editing.EndTyping(); });
-  panel_->SetEditorCaptions(engine_.workspace.ui_text);
   dialogs_.Attach([this] { Mirror(); }, engine_.workspace.ui_text);
   Mirror();
 }
@@ -139,6 +138,10 @@ void FrmMes::Mirror() {
   setWindowTitle(FromUtf8(view.caption));
   setFixedSize(PixelsFromTwips(kWindowWidth), PixelsFromTwips(view.height));
   menus_->Show(MenusOf(workspace));
+  if (captions_ != workspace.ui_text) {
+    captions_ = workspace.ui_text;
+    panel_->SetEditorCaptions(captions_);
+  }
   panel_->Show(view, workspace.ui_text);
   if (engine_.compiler_state.hourglass) {
     setCursor(Qt::WaitCursor);
@@ -185,7 +188,6 @@ void FrmMes::closeEvent(QCloseEvent* event) {
 
 void FrmMes::ChooseLanguage(int index) {
   ChooseInterfaceLanguage(engine_.workspace, dialogs_, static_cast<std::size_t>(index));
-  panel_->SetEditorCaptions(engine_.workspace.ui_text);
 }
 
 void FrmMes::ChangeText(const DisplayCodes& text) {

@@ -51,6 +51,7 @@ class FrmMes : public QMainWindow {
   ProgramStarter& starter_;
   MainMenus* menus_;
   EditorPanel* panel_;
+  UiText captions_;  ///< of the editor
   QPointer<FrmMake> frm_make_;
   QPointer<FrmInfo> frm_info_;
   WindowTop window_top_;
