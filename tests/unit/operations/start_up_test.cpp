@@ -211,6 +211,14 @@ TEST_F(StartUpTest, EndsWithoutTheReferenceLanguage) {
   EXPECT_EQ(dialogs_.messages.front().title, "ERROR");
 }
 
+TEST_F(StartUpTest, EndsWhereTheReferenceLanguageIsAPipe) {
+  AddLanguage("dansk");
+  ASSERT_EQ(mkfifo((folder_ / "italiano.lng").c_str(), 0600), 0);
+  EXPECT_FALSE(Start());
+  ASSERT_THAT(dialogs_.messages, SizeIs(1));
+  EXPECT_THAT(dialogs_.messages.front().text, testing::HasSubstr("italiano.lng"));
+}
+
 TEST_F(StartUpTest, EndsWhenItsLanguageFileCannotBeRead) {
   AddLanguage("italiano");
   AddOversizedLanguage("dansk");
