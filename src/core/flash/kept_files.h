@@ -1,0 +1,21 @@
+#ifndef VENDLINGUA_CORE_FLASH_KEPT_FILES_H_
+#define VENDLINGUA_CORE_FLASH_KEPT_FILES_H_
+
+#include <filesystem>
+#include <span>
+#include <string_view>
+
+namespace vendlingua {
+
+/// A file whose place no further output of a run may take.
+struct KeptFile {
+  std::filesystem::path path;
+  std::string_view name;  ///< what it is, for the error: "the flash file"
+};
+
+/// Throws FileError when `output` leads to one of the files, also where neither is made yet.
+void RefuseToReplace(std::span<const KeptFile> kept, const std::filesystem::path& output);
+
+}  // namespace vendlingua
+
+#endif  // VENDLINGUA_CORE_FLASH_KEPT_FILES_H_

@@ -1,0 +1,43 @@
+#include "core/flash/kept_files.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+#include "core/platform/errors.h"
+#include "support/temporary_folder.h"
+
+namespace vendlingua {
+namespace {
+
+class KeptFilesTest : public testing::Test {
+ protected:
+  std::string Refusal(const char* output) {
+    try {
+      RefuseToReplace(kept_, folder_ / output);
+    } catch (const FileError& error) {
+      return error.reason();
+    }
+    return "";
+  }
+
+  test::TemporaryFolder folder_;
+  std::vector<KeptFile> kept_ = {{folder_ / "READ.MES", "the message file"},
+                                 {folder_ / "NEW.MHX", "the flash file"}};
+};
+
+TEST_F(KeptFilesTest, LetNothingTakeTheirPlace) {
+  EXPECT_EQ(Refusal("./READ.MES"), "is the message file; choose another name");
+  std::filesystem::create_symlink("NEW.MHX", folder_ / "LINK");
+  EXPECT_EQ(Refusal("LINK"), "is the flash file; choose another name");
+}
+
+TEST_F(KeptFilesTest, MindNoOtherFile) {
+  EXPECT_EQ(Refusal("OTHER"), "");
+  kept_.clear();
+  EXPECT_EQ(Refusal("READ.MES"), "");
+}
+
+}  // namespace
+}  // namespace vendlingua
