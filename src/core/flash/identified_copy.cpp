@@ -1,6 +1,9 @@
 #include "core/flash/identified_copy.h"
 
+#include <utf8.h>
+
 #include <algorithm>
+#include <iterator>
 
 #include "core/document/display_code.h"
 #include "core/formats/copy_header.h"
@@ -10,6 +13,34 @@ namespace vendlingua {
 namespace {
 
 bool IsDecimalDigit(DisplayCode code) { return code >= '0' && code <= '9'; }
+
+// A byte that is no UTF-8 counts as a character, too.
+std::u32string Characters(std::string_view utf8) {
+  std::string valid;
+  utf8::replace_invalid(utf8.begin(), utf8.end(), std::back_inserter(valid));
+  std::u32string characters;
+  utf8::utf8to32(valid.begin(), valid.end(), std::back_inserter(characters));
+  return characters;
+}
+
+// Model and version of a base name, the version in capitals; nothing when they are not there or
+// have other characters.
+std::optional<DisplayCodes> Identification(std::string_view base_name) {
+  constexpr std::size_t kStart = 2;
+  constexpr std::size_t kLength = 6;
+  constexpr std::size_t kModelDigits = 4;
+  const std::u32string characters = Characters(base_name);
+  DisplayCodes codes;
+  for (std::size_t i = kStart; i < std::min(kStart + kLength, characters.size()); ++i) {
+    const auto code = ToDisplayCode(characters[i]);
+    const bool is_model = codes.size() < kModelDigits;
+    if (!code || (is_model && !IsDecimalDigit(*code))) {
+      return std::nullopt;
+    }
+    codes.push_back(is_model ? *code : ToUpper(*code));
+  }
+  return codes.size() == kLength ? std::optional(codes) : std::nullopt;
+}
 
 // The version of a model 0267 board that is loaded is the one before the file's.
 void StepVersionBack(DisplayCodes& identification) {
@@ -44,23 +75,13 @@ std::string HeaderFromFirstRecord(std::string_view first_record) {
 }
 
 std::optional<std::string> HeaderFromBaseName(std::string_view base_name) {
-  constexpr std::size_t kModelStart = 2;
-  constexpr std::size_t kModelDigits = 4;
-  constexpr std::size_t kIdentificationLength = 6;
-  const CodesFromUtf8 name = ToDisplayCodes(base_name);
-  if (name.codes.size() < kModelStart + kIdentificationLength) {
+  auto identification = Identification(base_name);
+  if (!identification) {
     return std::nullopt;
   }
-  const auto start = name.codes.begin() + kModelStart;
-  DisplayCodes identification(start, start + kIdentificationLength);
-  const auto version = identification.begin() + kModelDigits;
-  if (!std::all_of(identification.begin(), version, IsDecimalDigit)) {
-    return std::nullopt;
-  }
-  std::transform(version, identification.end(), version, ToUpper);
-  StepVersionBack(identification);
+  StepVersionBack(*identification);
   std::string digits;
-  for (const DisplayCode code : identification) {
+  for (const DisplayCode code : *identification) {
     AppendHexByte(digits, code);
   }
   return CopyHeader(digits, HexField(CopyHeaderChecksum(digits), 2));

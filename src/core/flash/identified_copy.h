@@ -14,10 +14,10 @@ namespace vendlingua {
 std::string HeaderFromFirstRecord(std::string_view first_record);
 
 /// The header record of any other copy: the identification characters come from the name of the
-/// flash file, characters 3 to 8 of `base_name`, model and version ("FW0267AB" gives "0267AB"). On
-/// boards of model 0267 with a version that begins with A the second version letter steps back in
-/// the cycle A, B, C, D. Nothing when the model is not four decimal digits or the name is too
-/// short.
+/// flash file, characters 3 to 8 of `base_name` (UTF-8), model and version ("FW0267AB" gives
+/// "0267AB"); the others may be any. On boards of model 0267 with a version that begins with A the
+/// second version letter steps back in the cycle A, B, C, D. Nothing when the model is not four
+/// decimal digits, when the name is too short, or when a version character has no display code.
 std::optional<std::string> HeaderFromBaseName(std::string_view base_name);
 
 /// Where the identified copy of a flash file goes, cut out of the path of that file.

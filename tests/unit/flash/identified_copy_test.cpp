@@ -78,6 +78,34 @@ TEST(HeaderFromBaseName, IsNothingForANameTooShortForModelAndVersion) {
   EXPECT_EQ(HeaderFromBaseName("FW0417A"), std::nullopt);
 }
 
+// Characters are counted, not the bytes of their encoding.
+TEST(HeaderFromBaseName, TakesAnyCharactersOutsideModelAndVersion) {
+  for (const char* name :
+       {"ФВ0417AB", "水牛0417AB", "è€0417ab-снэк", "\U0001F36B\u05D00417AB", "a\u03010417AB",
+        "\xFF\x80"
+        "0417AB",
+        "\xE8"
+        "F0417AB\xE8"}) {
+    EXPECT_EQ(HeaderFromBaseName(name), "S013000044543034313741422020202020202020E7") << name;
+  }
+}
+
+TEST(HeaderFromBaseName, IsNothingForAModelOrVersionOfOtherCharacters) {
+  for (const char* name :
+       {"ФВ04Ф7AB", "ФВ041٧AB", "FW0417AФ", "FW0417水B", "FW0417A\xE8", "ФВ0417A"}) {
+    EXPECT_EQ(HeaderFromBaseName(name), std::nullopt) << name;
+  }
+}
+
+TEST(HeaderFromBaseName, TakesAVersionLetterWithAnAccentByItsCode) {
+  // 98 + 30 + 34 + 31 + 37 + 41 + C8 = 26D
+  EXPECT_EQ(HeaderFromBaseName("FW0417Aè"),
+            "S01300004454"
+            "3034313741C8"
+            "2020202020202020"
+            "6D");
+}
+
 TEST(HeaderFromFirstRecord, TakesTheSixBytesBehindTheFirstP) {
   const std::string record = test::S2Line(0xFF0000, "    MP0417AB    ");
   EXPECT_EQ(HeaderFromFirstRecord(record), "S013000044543034313741422020202020202020E7");
