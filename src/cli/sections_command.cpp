@@ -1,6 +1,7 @@
 #include <algorithm>
 
 #include "cli/commands.h"
+#include "core/flash/kept_files.h"
 #include "core/platform/errors.h"
 
 namespace vendlingua::cli {
@@ -8,12 +9,18 @@ namespace {
 
 namespace fs = std::filesystem;
 
-void RefuseToOverwriteInput(const fs::path& input, const fs::path& base) {
-  for (const char* suffix : {".mtx", ".SA0", ".SA1", ".SA2", ".SA3", ".SA4"}) {
-    fs::path output = base;
-    output += suffix;
-    RefuseToOverwrite(input, output);
+void RefuseToReplaceInput(const fs::path& input, const fs::path& base) {
+  const std::vector<KeptFile> kept = {{input, "the flash file that is read"}};
+  for (const fs::path& path : SectionFiles::Paths(base)) {
+    RefuseToReplace(kept, path);
   }
+}
+
+// An empty flash file has empty sections; any other without a byte for them is the wrong file.
+bool IsWrongFile(const fs::path& input, const SectionFiles& sections) {
+  const auto& used = sections.SectionUsed();
+  return !fs::is_empty(input) &&
+         std::all_of(used.begin(), used.end(), [](std::int32_t length) { return length == 0; });
 }
 
 }  // namespace
@@ -21,14 +28,13 @@ void RefuseToOverwriteInput(const fs::path& input, const fs::path& base) {
 void RunSections(Session& session, const SectionsOptions& options) {
   const fs::path base =
       options.output.empty() ? SectionBase(options.file) : fs::path(options.output);
-  RefuseToOverwriteInput(options.file, base);
+  RefuseToReplaceInput(options.file, base);
   SectionFiles& sections = session.engine.section_files;
   if (!sections.ReadBack(options.file, session.dialogs, session.engine.workspace.ui_text)) {
     throw CommandFailed(options.file + ": was not read to its end, no section file was written");
   }
-  const auto& used = sections.SectionUsed();
-  if (std::all_of(used.begin(), used.end(), [](std::int32_t length) { return length == 0; })) {
-    throw CommandFailed(options.file + ": holds no S2 record of the board's sections");
+  if (IsWrongFile(options.file, sections)) {
+    throw CommandFailed(options.file + ": holds no byte of the board's sections in S2 records");
   }
   Json written = Json::array();
   std::string text;

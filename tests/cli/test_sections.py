@@ -102,10 +102,31 @@ class SectionsTest(CliTest):
         self.sections(lines(b"S208FF8000" + b"41"))
         self.assertEqual(self.read("A.SA1"), b"A\0\0\0")
 
-    def test_a_count_below_4_stores_nothing(self) -> None:
-        few = [b"S2%02XFF9000414243" % count for count in range(4)]
-        self.sections(lines(s_record("2", 0xFF8000, b"x"), *few, b"S2GGFF9000414243"))
+    def test_a_count_below_4_stores_nothing_but_counts(self) -> None:
+        # As if 4 to 1 bytes were taken back from address 9000: the section is used up to there.
+        for count, used in ((b"00", 0xFFC), (b"01", 0xFFD), (b"03", 0xFFF), (b"GG", 0xFFC)):
+            with self.subTest(count):
+                record = b"S2" + count + b"FF9000414243"
+                self.sections(lines(s_record("2", 0xFF8000, b"x"), record))
+                self.assertEqual(self.read("A.SA1"), b"x" + bytes(used - 1))
+
+    def test_a_count_below_4_at_the_start_of_a_section_uses_nothing(self) -> None:
+        self.sections(lines(s_record("2", 0xFF8000, b"x"), b"S203FFA000414243"))
+        self.assertEqual(self.names(), ["A.MHX", "A.SA1", "A.mtx"])
         self.assertEqual(self.read("A.SA1"), b"x")
+
+    def test_a_carriage_return_inside_a_line_is_a_character_like_any_other(self) -> None:
+        self.sections(lines(b"S208FF8000" + b"41" + b"\r2" + b"43" + b"44" + b"00"))
+        self.assertEqual(self.read("A.SA1"), b"A\0CD")
+        two = s_record("2", 0xFF8000, b"AB") + b"\r" + s_record("2", 0xFF8002, b"CD") + b"\r"
+        self.sections(two)
+        self.assertEqual(self.read("A.SA1"), b"AB")
+
+    def test_an_empty_file_gives_the_empty_mtx_file(self) -> None:
+        self.write("A.SA1", b"older")
+        self.assertEqual(self.sections(b""), "A.mtx\n")
+        self.assertEqual(self.names(), ["A.MHX", "A.mtx"])
+        self.assertEqual(self.read("A.mtx"), b"")
 
     def test_lower_case_and_line_feeds_alone_are_read(self) -> None:
         content = s_records("2", 0xFF8000, b"\xab\xcd\xef" * 16)
@@ -148,6 +169,12 @@ class SectionsTest(CliTest):
             self.write(name, content)
             self.assertIn(f"{name}: ", self.refused("sections", name).err)
         self.refused("sections", "A.SA1", "--output=./A")
+        (self.folder / "B.SA2").symlink_to("A.SA1")
+        self.assertIn("B.SA2: ", self.refused("sections", "A.SA1", "--output=B").err)
+
+    def test_four_characters_are_cut_off_and_not_four_bytes(self) -> None:
+        name = self.write("Ф.ФЛШ", lines(s_record("2", 0xFF8000, b"x")))
+        self.assertEqual(self.done("sections", name).out, "Ф.mtx\nФ.SA1\n")
 
     def test_a_folder_that_is_missing_is_refused(self) -> None:
         self.write("A.MHX", lines(s_record("2", 0xFF8000, b"x")))

@@ -52,11 +52,19 @@ struct RandomRecord {
   std::string data;
   bool is_s2 = true;
   std::optional<std::size_t> broken_pair;  // not hexadecimal, which reads as 0
+  std::size_t missing = 0;                 // bytes that the count falls short of 4
+
+  long Count() const {
+    return missing == 0 ? static_cast<long>(data.size()) : -static_cast<long>(missing);
+  }
 
   std::string Line() const {
     std::string line = test::S2Line(address, data);
     if (broken_pair) {
-      line.replace(10 + 2 * *broken_pair, 2, "X9");
+      line.replace(10 + 2 * *broken_pair, 2, *broken_pair % 2 == 0 ? "X9" : "\r9");
+    }
+    if (missing != 0) {
+      line.replace(2, 2, test::HexDigits(4 - missing, 2));
     }
     line[1] = is_s2 ? '2' : '1';
     return line + "\r\n";
@@ -75,6 +83,7 @@ rc::Gen<RandomRecord> RandomRecords() {
     if (!record.data.empty() && AnyOf(0, 9) == 0) {
       record.broken_pair = AnyOf(0, record.data.size() - 1);
     }
+    record.missing = AnyOf(0, 9) == 0 ? AnyOf(1, 4) : 0;
     return record;
   });
 }
@@ -130,8 +139,9 @@ class MemoryModel {
 
  private:
   void Store(std::size_t address, const RandomRecord& record) {
-    used_.Note(static_cast<long>(record.data.size()), static_cast<long>(address));
-    for (std::size_t i = 0; i < record.data.size() && address + i < 0xC000; ++i) {
+    used_.Note(record.Count(), static_cast<long>(address));
+    for (long k = 0; k < record.Count() && address + static_cast<std::size_t>(k) < 0xC000; ++k) {
+      const auto i = static_cast<std::size_t>(k);
       bytes_[address + i] = record.broken_pair == i ? '\0' : record.data[i];
     }
   }
@@ -170,11 +180,11 @@ RC_GTEST_PROP(SectionFilesProperty, UsedLengthsFollowTheRecords, ()) {
   SectionFiles section_files;
   UsedModel used;
   for (std::size_t notes = AnyOf(0, 50); notes > 0; --notes) {
-    const std::size_t count = AnyOf(0, 251);
-    const std::size_t address = AnyAddress(count, 0xC000);
-    section_files.NoteSectionUse(static_cast<std::int16_t>(count),
-                                 static_cast<std::int32_t>(address));
-    used.Note(static_cast<long>(count), static_cast<long>(address));
+    const auto count = *rc::gen::inRange<std::int16_t>(-4, 252);
+    const auto address = static_cast<std::int32_t>(
+        AnyAddress(static_cast<std::size_t>(std::max<std::int16_t>(count, 0)), 0xC000));
+    section_files.NoteSectionUse(count, address);
+    used.Note(count, address);
   }
   for (std::size_t s = 0; s < 6; ++s) {
     RC_ASSERT(section_files.SectionUsed().at(s) == used[s]);

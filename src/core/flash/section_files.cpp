@@ -1,5 +1,7 @@
 #include "core/flash/section_files.h"
 
+#include <fmt/format.h>
+
 #include <algorithm>
 #include <span>
 
@@ -19,18 +21,33 @@ constexpr std::size_t kDataColumn = 11;
 // The record count also counts three address bytes and the checksum.
 constexpr std::int16_t kBytesBesideData = 4;
 
-fs::path WithSuffix(fs::path base, const std::string& suffix) {
-  base += suffix;
-  return base;
+// The bytes behind the first one of a character in UTF-8.
+bool ContinuesCharacter(fs::path::value_type unit) {
+  return sizeof unit == 1 && (static_cast<unsigned char>(unit) & 0xC0U) == 0x80;
 }
 
 }  // namespace
 
 fs::path SectionBase(const fs::path& flash_file) {
-  constexpr std::size_t kExtensionLength = 4;
+  constexpr int kExtensionLength = 4;
   fs::path::string_type text = flash_file.native();
-  text.resize(text.size() - std::min(text.size(), kExtensionLength));
+  for (int i = 0; i < kExtensionLength && !text.empty(); ++i) {
+    while (text.size() > 1 && ContinuesCharacter(text.back())) {
+      text.pop_back();
+    }
+    text.pop_back();
+  }
   return text;
+}
+
+std::array<fs::path, 1 + SectionFiles::kSections> SectionFiles::Paths(const fs::path& base) {
+  std::array<fs::path, 1 + kSections> paths;
+  paths.fill(base);
+  paths.front() += ".mtx";
+  for (std::size_t s = 0; s < kSections; ++s) {
+    paths.at(1 + s) += fmt::format(".SA{}", s);
+  }
+  return paths;
 }
 
 bool SectionFiles::ReadBack(const fs::path& flash_file, Dialogs& dialogs, const UiText& ui_text) {
@@ -39,13 +56,9 @@ bool SectionFiles::ReadBack(const fs::path& flash_file, Dialogs& dialogs, const 
   while (const auto line = lines.Next()) {
     dialogs.LetPendingEventsRun();
     if (!line->text.starts_with('S')) {
-      dialogs.MessageBox(
-          {MessageIcon::kExclamation, PathText(flash_file) + "\r" + ui_text[38], ui_text[29]});
+      dialogs.MessageBox({MessageIcon::kExclamation,
+                          fmt::format("{}\r{}", PathText(flash_file), ui_text[38]), ui_text[29]});
       return false;
-    }
-    if (line->HasLoneCarriageReturn()) {
-      throw FileError(flash_file, "line " + std::to_string(lines.count()) +
-                                      " holds a carriage return that does not end it");
     }
     if (line->text.starts_with("S2")) {
       StoreRecord(line->text);
@@ -59,16 +72,16 @@ bool SectionFiles::ReadBack(const fs::path& flash_file, Dialogs& dialogs, const 
 
 void SectionFiles::StoreRecord(std::string_view line) {
   const std::uint32_t address = HexOrZero(Columns(line, kLowAddressColumn, 4));
-  const auto record_count = static_cast<std::int16_t>(HexPairOrZero(line, kCountColumn));
-  const auto count = static_cast<std::int16_t>(record_count - kBytesBesideData);
-  if (address >= kBounds.back() || count < 0) {
+  if (address >= kBounds.back()) {
     return;
   }
+  const auto record_count = static_cast<std::int16_t>(HexPairOrZero(line, kCountColumn));
+  const auto count = static_cast<std::int16_t>(record_count - kBytesBesideData);
   NoteSectionUse(count, static_cast<std::int32_t>(address));
   const auto behind = std::span(memory_picture_).subspan(address);
+  const auto data_bytes = static_cast<std::size_t>(std::max<std::int16_t>(count, 0));
   std::size_t column = kDataColumn;
-  const auto stored_bytes = std::min(behind.size(), static_cast<std::size_t>(count));
-  for (char& stored : behind.first(stored_bytes)) {
+  for (char& stored : behind.first(std::min(behind.size(), data_bytes))) {
     stored = static_cast<char>(HexPairOrZero(line, column));
     column += 2;
   }
@@ -93,21 +106,18 @@ void SectionFiles::NoteSectionUse(std::int16_t count, std::int32_t address) {
 }
 
 std::vector<fs::path> SectionFiles::WriteSections(const fs::path& base) const {
-  std::vector<fs::path> written;
-  const auto write = [&written](const fs::path& path, std::string_view content) {
-    WriteFile(path, content);
-    written.push_back(path);
-  };
-  write(WithSuffix(base, ".mtx"), "");
+  const auto paths = Paths(base);
+  WriteFile(paths.front(), "");
+  std::vector<fs::path> written = {paths.front()};
   for (std::size_t s = 0; s < kSections; ++s) {
-    const fs::path path = WithSuffix(base, ".SA" + std::to_string(s));
+    const fs::path& path = paths.at(1 + s);
     const std::string used = section_text_[s].substr(0, static_cast<std::size_t>(section_used_[s]));
+    // Created before it is removed, so that a path that cannot be written is an error either way.
+    WriteFile(path, used);
     if (used.empty()) {
-      // Created before it is removed, so that a path that cannot be written is an error either way.
-      WriteFile(path, used);
       fs::remove(path);
     } else {
-      write(path, used);
+      written.push_back(path);
     }
   }
   return written;

@@ -14,8 +14,8 @@
 
 namespace vendlingua {
 
-/// The base path of the section files of a flash file: its path without the last four characters,
-/// which are the extension.
+/// The base path of the section files of a flash file: its path without the last four characters
+/// (not bytes), which are the extension.
 std::filesystem::path SectionBase(const std::filesystem::path& flash_file);
 
 /// The board's 16-bit address space as read back from a flash file, and the raw binary files of its
@@ -27,18 +27,23 @@ class SectionFiles {
   static constexpr std::array<std::uint32_t, kSections + 1> kBounds = {0x0000, 0x8000, 0xA000,
                                                                        0xBC00, 0xBE00, 0xC000};
 
+  /// The files that belong to `base`: `base`.mtx, and `base`.SA0 to .SA4.
+  static std::array<std::filesystem::path, 1 + kSections> Paths(const std::filesystem::path& base);
+
   /// Parses the S2 records of a flash file and takes over the section texts. Records at address
   /// 0xC000 or above (of the low 16 bits) and all other types are passed over, checksums are not
-  /// looked at. False when a line does not begin with "S": the user is told, and the section texts
-  /// stay those of the run before. Throws FileError when the file cannot be read.
+  /// looked at, and what is not hexadecimal counts as 0. False when a line does not begin with "S":
+  /// the user is told, and the section texts stay those of the run before. Throws FileError when
+  /// the file cannot be read.
   bool ReadBack(const std::filesystem::path& flash_file, Dialogs& dialogs, const UiText& ui_text);
 
-  /// Writes `base`.mtx, empty, and `base`.SA0 to .SA4 with the used bytes of each section; a
-  /// section without any leaves no file. Returns the files written. Throws FileError.
+  /// Writes the files of `base`: .mtx, empty, and .SA0 to .SA4 with the used bytes of each section;
+  /// a section without any leaves no file. Returns the files written. Throws FileError.
   std::vector<std::filesystem::path> WriteSections(const std::filesystem::path& base) const;
 
   /// Notes that a record puts `count` bytes at `address` (below 0xC000). Of a section whose end a
-  /// record crosses the last byte is not counted.
+  /// record crosses the last byte is not counted. A record whose own count is too small has a
+  /// negative one here: it uses the section up to that many bytes before its address.
   void NoteSectionUse(std::int16_t count, std::int32_t address);
 
   /// Used length of each section; behind them a sixth counter for what crosses the last bound.
