@@ -1,4 +1,7 @@
+#include <fmt/format.h>
+
 #include <algorithm>
+#include <iostream>
 #include <system_error>
 
 #include "cli/commands.h"
@@ -39,37 +42,59 @@ void TickLanguages(Session& session, std::vector<int> languages) {
 }
 
 // The copy is asked for when the flash file is written already; what cannot be is refused before.
-void CheckCopy(const CompileOptions& options) {
+void CheckCopy(const Session& session, const CompileOptions& options) {
   const fs::path copy = WithDefaultExtension(options.copy, "MSX");
-  RefuseToOverwrite(options.file, copy);
+  session.engine.compiler.CheckOutputs(
+      {WithDefaultExtension(options.output, FlashExtension(session.engine.workspace.set)), copy});
   std::error_code not_there;
   const fs::path folder = copy.has_parent_path() ? copy.parent_path() : fs::path(".");
   if (!fs::is_directory(folder, not_there) || fs::is_directory(copy, not_there)) {
     throw CommandFailed(PathText(copy) + ": cannot be created there");
   }
-  const fs::path flash_file = WithDefaultExtension(options.output, "MHX");
-  if (fs::weakly_canonical(fs::absolute(copy), not_there) ==
-      fs::weakly_canonical(fs::absolute(flash_file), not_there)) {
-    throw CommandFailed(PathText(copy) + ": is the flash file; give another --copy");
-  }
 }
 
-// Lines of a .MSX file reach the board as they are: a damaged one must not.
-void CheckRecords(const std::string& file) {
+// What is wrong with a line of a .MSX file; empty when nothing is.
+std::string Damage(std::string_view line) {
+  if (line.empty() || line == kLastCopyLine) {
+    return "";
+  }
+  SRecord record;
+  try {
+    ParseSRecord(line, record);
+  } catch (const SRecordSyntaxError& error) {
+    return error.what();
+  }
+  return record.ChecksumIsRight() ? ""
+                                  : fmt::format("the checksum is {:02X} instead of {:02X}",
+                                                record.checksum, SRecordChecksum(record.sum));
+}
+
+// Lines of a .MSX file reach the board as they are, damaged ones too.
+std::vector<std::string> DamagedRecords(const std::string& file) {
+  std::vector<std::string> warnings;
   const std::string content = ReadFile(file);
   TextLines lines(content);
   lines.Next();
-  SRecord record;
   while (const auto line = lines.Next()) {
-    try {
-      if (!line->text.empty() && line->text != kLastCopyLine) {
-        ParseSRecord(line->text, record);
-      }
-    } catch (const SRecordSyntaxError& error) {
-      throw CommandFailed(file + ": line " + std::to_string(lines.count()) + ": " + error.what() +
-                          "; nothing was written");
+    if (lines.count() > 1 + kMsxLinesCompiled) {
+      break;
+    }
+    const std::string damage = Damage(line->text);
+    if (!damage.empty()) {
+      warnings.push_back(fmt::format("{}: line {}: {}", file, lines.count(), damage));
     }
   }
+  return warnings;
+}
+
+std::vector<std::string> ShortLanguages(const std::string& file, const CompileOutcome& outcome) {
+  std::vector<std::string> warnings;
+  for (const auto& [number, name] : outcome.short_languages) {
+    warnings.push_back(
+        fmt::format("{}: language {} ({}) ends before its last message; 0 stands for the rest",
+                    file, number, name));
+  }
+  return warnings;
 }
 
 std::string Report(const CompileOutcome& outcome) {
@@ -80,38 +105,49 @@ std::string Report(const CompileOutcome& outcome) {
   return text;
 }
 
-Json AsJson(const Session& session, const CompileOutcome& outcome) {
+Json AsJson(const Session& session, const CompileOutcome& outcome,
+            const std::vector<std::string>& warnings) {
   Json written = Json::array();
   for (const auto& path : outcome.written) {
     written.push_back(PathText(path));
   }
   return {{"written", written},
           {"messages", session.MessagesAsJson()},
+          {"warnings", warnings},
           {"completed", outcome.completed}};
+}
+
+void CheckOptions(Session& session, const CompileOptions& options) {
+  if (!session.set().IsMes()) {
+    return;
+  }
+  if (options.languages.empty()) {
+    throw WrongUsage("--languages is required for a .MES file");
+  }
+  const bool asks_for_copy = session.set().LangCount == kLanguagesWithCopyOption;
+  if (asks_for_copy && options.copy.empty()) {
+    throw WrongUsage("--copy is required: the board has 9 language slots");
+  }
+  TickLanguages(session, options.languages);
+  if (asks_for_copy) {
+    CheckCopy(session, options);
+  }
 }
 
 }  // namespace
 
 void RunCompile(Session& session, const CompileOptions& options) {
   session.Open(options.file);
-  if (session.set().IsMes()) {
-    if (options.languages.empty()) {
-      throw WrongUsage("--languages is required for a .MES file");
-    }
-    if (session.set().LangCount == kLanguagesWithCopyOption && options.copy.empty()) {
-      throw WrongUsage("--copy is required: the board has 9 language slots");
-    }
-    TickLanguages(session, options.languages);
-    if (session.set().LangCount == kLanguagesWithCopyOption) {
-      CheckCopy(options);
-    }
-  } else {
-    CheckRecords(options.file);
-  }
+  CheckOptions(session, options);
   session.dialogs.files[FilePurpose::kFlashFile] = options.output;
   session.dialogs.files[FilePurpose::kIdentifiedCopy] = options.copy;
   const CompileOutcome outcome = session.engine.compiler.Compile();
-  session.Print(AsJson(session, outcome), Report(outcome));
+  const std::vector<std::string> warnings =
+      session.set().IsMsx() ? DamagedRecords(options.file) : ShortLanguages(options.file, outcome);
+  for (const std::string& warning : warnings) {
+    std::cerr << "vendlingua-cli: warning: " << warning << '\n';
+  }
+  session.Print(AsJson(session, outcome, warnings), Report(outcome));
   if (!outcome.completed) {
     throw CommandFailed(options.output + ": the compilation stopped before its end");
   }

@@ -153,13 +153,51 @@ class FlashFileTest(CompileCase):
         file = MesFile(flags=b"03", mem_start=0xFF8000)
         printed = self.compile(file, "FW0417AB.MHX", "--json").json
         names = [f"FW0417AB.{extension}" for extension in ("MHX", "MSX", "mtx", "SA1")]
-        self.assertEqual(printed, {"written": names, "messages": [], "completed": True})
+        expected = {"written": names, "messages": [], "warnings": [], "completed": True}
+        self.assertEqual(printed, expected)
         self.assertEqual(self.names(), sorted(["A.MES", *names]))
 
     def test_the_message_file_stays(self) -> None:
         file = MesFile(flags=b"0f")
         self.compile(file, "FW0417AB.MHX")
         self.assertEqual(self.read("A.MES"), file.content())
+
+
+class ShortLanguageTest(CompileCase):
+    """The last language of a file may end before its last message."""
+
+    FILE = MesFile(flags=flags(NO_NAME_LIST))
+    ARGUMENTS = ("compile", "A.MES", "--languages=1,2", "--output=FW0417AB.HEX")
+    WARNING = "A.MES: language 2 (ENGLISH) ends before its last message; 0 stands for the rest"
+
+    def compile_first(self, size: int, *options: str) -> Result:
+        self.write("A.MES", self.FILE.content()[:size])
+        return self.done_with_message(*self.ARGUMENTS, *options)
+
+    def test_what_is_not_there_is_0(self) -> None:
+        for size, language in (
+            (self.FILE.at(2, 0), b""),
+            (self.FILE.at(2, 0) + 1, b"2"),
+            (self.FILE.at(2, 2), b"20002111"),
+            (self.FILE.at(2, 2) + 3, b"20002111" b"222"),
+        ):
+            with self.subTest(size):
+                result = self.compile_first(size)
+                self.assertEqual(result.err, f"vendlingua-cli: warning: {self.WARNING}\n")
+                image = b"100011111222" + language.ljust(12, b"\0")
+                self.assertEqual(self.read("FW0417AB.HEX"), s_records("1", 0x6000, image))
+
+    def test_json_lists_the_warning(self) -> None:
+        result = self.compile_first(self.FILE.at(2, 1), "--json")
+        self.assertEqual(result.json["warnings"], [self.WARNING])
+
+    def test_a_language_that_has_every_message_is_complete(self) -> None:
+        self.write("A.MES", self.FILE.content()[: self.FILE.at(2, 3)])
+        self.done(*self.ARGUMENTS)
+
+    def test_a_language_without_its_name_is_not_in_the_file(self) -> None:
+        self.write("A.MES", self.FILE.content()[: self.FILE.at(2, 0) - 1])
+        self.assertIn("has no language 2", self.refused(*self.ARGUMENTS).err)
 
 
 class NameListTest(CompileCase):
@@ -213,6 +251,9 @@ class IdentifiedCopyTest(CompileCase):
         "fw0267ab": b"303236374141" b"2020202020202020" b"E9",
         "FW0417ab": b"303431374142" b"2020202020202020" b"E7",
         "FW0417ABCD": b"303431374142" b"2020202020202020" b"E7",
+        "ФВ0417AB": b"303431374142" b"2020202020202020" b"E7",
+        "水牛0417ab-снэк": b"303431374142" b"2020202020202020" b"E7",
+        "\U0001f36b\U0001f36b0267AA": b"303236374144" b"2020202020202020" b"EC",
         "FW0000TT": b"303030305454" b"2020202020202020" b"00",
         "FW0000TU": b"303030305455" b"2020202020202020" b"01",
         "FW00009 ": b"303030303920" b"2020202020202020" b"B1",
@@ -248,7 +289,8 @@ class IdentifiedCopyTest(CompileCase):
         self.assertEqual(self.names(), ["A.MES", "flash"])
 
     def test_a_name_without_model_gets_a_message_box_and_no_copy(self) -> None:
-        for base in ("FWX417AA", "FW041XAA", "FW0417A", "FW0417", "FW", "FW 417AA", "FW-417AA"):
+        short = ("FW0417A", "FW0417", "FW")
+        for base in ("FWX417AA", "FW041XAA", "FW 417AA", "FW-417AA", "ФВ04Ф7AA", "水0417AA", *short):
             with self.subTest(base):
                 self.write("A.MES", MesFile(flags=b"03", mem_start=0xFF8000).content())
                 result = self.done_with_message(
@@ -258,8 +300,8 @@ class IdentifiedCopyTest(CompileCase):
                 title, text = INFO_BOX.format(base).rstrip("\n").split(": ", 1)
                 box = {"icon": "information", "title": title, "text": text}
                 written = [f"{base}.MHX", f"{base}.mtx", f"{base}.SA1"]
-                expected = {"written": written, "messages": [box], "completed": True}
-                self.assertEqual(result.json, expected)
+                boxes = {"messages": [box], "warnings": []}
+                self.assertEqual(result.json, {"written": written, **boxes, "completed": True})
 
     def test_a_name_of_neither_family_gets_a_message_box_and_stops(self) -> None:
         for output in ("FW0417AB.bin", "FW0417AB.MH"):
@@ -270,9 +312,8 @@ class IdentifiedCopyTest(CompileCase):
             text = "Impossibile creare il file MSX o il file HSX"
             self.assertTrue(result.err.startswith(f"Errore: {text}\n"), result.err)
             box = {"icon": "critical", "title": "Errore", "text": text}
-            self.assertEqual(
-                result.json, {"written": [output], "messages": [box], "completed": False}
-            )
+            boxes = {"messages": [box], "warnings": []}
+            self.assertEqual(result.json, {"written": [output], **boxes, "completed": False})
         # The flash files themselves stay; there are no copies and no section files.
         self.assertEqual(self.names(), ["A.MES", "FW0417AB.MH", "FW0417AB.bin"])
 
@@ -346,8 +387,30 @@ class NineLanguagesTest(CompileCase):
 
     def test_a_copy_over_the_flash_file_is_refused_before_anything_is_written(self) -> None:
         file = nine_languages(b"P" * 16)
-        err = self.refused_compile(file, *self.OPTIONS, "--copy=./FW0417AB.MHX")
-        self.assertIn("FW0417AB.MHX: ", err)
+        (self.folder / "folder").mkdir()
+        (self.folder / "link.MSX").symlink_to("FW0417AB.MHX")
+        (self.folder / "link").symlink_to(".")
+        for copy in (
+            "./FW0417AB.MHX",
+            "folder/../FW0417AB.MHX",
+            str(self.folder / "FW0417AB.MHX"),
+            "link.MSX",
+            "link/FW0417AB.MHX",
+        ):
+            with self.subTest(copy):
+                err = self.refused_compile(file, *self.OPTIONS, f"--copy={copy}")
+                self.assertIn(f"{copy}: is the flash file", err)
+
+    def test_the_extension_that_is_added_counts_for_the_copy(self) -> None:
+        file = nine_languages(b"P" * 16)
+        file.flags = flags(NO_NAME_LIST)
+        options = (self.OPTIONS[0], "--output=F", "--copy=F.hex")
+        self.assertIn("F.hex: is the flash file", self.refused_compile(file, *options))
+
+    def test_a_copy_in_the_place_of_a_section_file_is_refused(self) -> None:
+        file = nine_languages(b"P" * 16)
+        err = self.refused_compile(file, *self.OPTIONS, "--copy=FW0417AB.SA3")
+        self.assertIn("FW0417AB.SA3: is the identified copy", err)
 
     def test_a_copy_that_cannot_be_written_leaves_no_flash_file(self) -> None:
         file = nine_languages(b"P" * 16)
@@ -417,6 +480,66 @@ class SectionFilesOfCompileTest(CompileCase):
         self.assertEqual((result.status, result.err), (0, ""))
 
 
+class SafeSectionFilesTest(CompileCase):
+    """Section files take the place of no file of the same run."""
+
+    def refused_sections(self, output: str) -> str:
+        file = MesFile(flags=b"03", mem_start=0xFF8000)
+        return self.refused_compile(file, "--languages=1,2", f"--output={output}")
+
+    def test_of_the_message_file(self) -> None:
+        for suffix in ("mtx", "SA0", "SA1", "SA2", "SA3", "SA4"):
+            link = self.folder / f"FW0417AB.{suffix}"
+            link.symlink_to("A.MES")
+            err = self.refused_sections("FW0417AB.MHX")
+            self.assertIn(f"FW0417AB.{suffix}: is the message file", err)
+            link.unlink()
+
+    def test_of_the_flash_file(self) -> None:
+        # ".mhx" is part of the name, so that a copy can be named.
+        for name in ("F.mhx.mtx", "F.mhx.SA4"):
+            self.assertIn(f"{name}: is the flash file", self.refused_sections(name))
+        (self.folder / "FW0417AB.SA1").symlink_to("FW0417AB.MHX")
+        err = self.refused_sections("FW0417AB.MHX")
+        self.assertIn("FW0417AB.SA1: is the flash file", err)
+
+    def test_of_the_copy(self) -> None:
+        (self.folder / "FW0417AB.mtx").symlink_to("FW0417AB.MSX")
+        err = self.refused_sections("FW0417AB.MHX")
+        self.assertIn("FW0417AB.mtx: is the identified copy", err)
+
+    def test_a_copy_that_is_not_made_is_nobodys_place(self) -> None:
+        (self.folder / "FWX417AB.mtx").symlink_to("FWX417AB.MSX")
+        self.write("A.MES", MesFile(flags=b"03", mem_start=0xFF8000).content())
+        arguments = ("compile", "A.MES", "--languages=1,2", "--output=FWX417AB.MHX")
+        self.done_with_message(*arguments)
+        self.assertEqual(self.read("FWX417AB.MSX"), b"")
+
+    def test_the_hex_family_has_none(self) -> None:
+        (self.folder / "FW0417AB.SA1").symlink_to("A.MES")
+        self.compile(MesFile(flags=b"01"), "FW0417AB.HEX")
+
+
+class SafeNamedCopyTest(CompileCase):
+    def test_a_copy_over_the_message_file_is_refused_before_anything_is_written(self) -> None:
+        (self.folder / "FW0417AB.HSX").symlink_to("A.MES")
+        arguments = ("--languages=1,2", "--output=FW0417AB.HEX")
+        err = self.refused_compile(MesFile(flags=b"01"), *arguments)
+        self.assertIn("FW0417AB.HSX: is the message file", err)
+
+    def test_a_copy_over_the_flash_file_is_refused_before_anything_is_written(self) -> None:
+        # The name of the copy is looked for in the whole path: here it comes of the folder.
+        (self.folder / "FW0417AB.mhx").mkdir()
+        (self.folder / "FW0417AC.HSX").symlink_to("FW0417AC.HEX")
+        for output, copy in (
+            ("FW0417AB.mhx/FW0417AB.MSX", "FW0417AB.mhx/FW0417AB.MSX"),
+            ("FW0417AC.HEX", "FW0417AC.HSX"),
+        ):
+            file = MesFile(flags=b"01")
+            err = self.refused_compile(file, "--languages=1,2", f"--output={output}")
+            self.assertIn(f"{copy}: is the flash file", err)
+
+
 class RefusedTest(CompileCase):
     OUTPUT = "--output=FW0417AB.HEX"
 
@@ -442,13 +565,6 @@ class RefusedTest(CompileCase):
         err = self.refused_compile(MesFile(mem_length=22), "--languages=1,2", self.OUTPUT)
         self.assertRegex(err, "end at byte 23 .* 22 bytes")
 
-    def test_a_message_that_is_not_in_the_file_is_refused(self) -> None:
-        file = MesFile()
-        for end in (file.at(2, 2), file.at(2, 2) + 3):
-            self.write("A.MES", file.content()[:end])
-            err = self.refused("compile", "A.MES", "--languages=1,2", self.OUTPUT).err
-            self.assertIn("A.MES: the file ends before message 2 of language 2", err)
-
     def test_a_file_that_holds_no_language_is_refused(self) -> None:
         file = MesFile(names=[b"Default"])
         err = self.refused_compile(file, "--languages=1,2", self.OUTPUT)
@@ -464,6 +580,12 @@ class RefusedTest(CompileCase):
         (self.folder / "FW0417AB.HEX").symlink_to("/dev/full")
         err = self.refused_compile(MesFile(), "--languages=1,2", self.OUTPUT)
         self.assertIn("FW0417AB.HEX: ", err)
+
+    def test_the_name_that_a_dialog_starts_with_is_no_flash_file(self) -> None:
+        for family in (b"01", b"03"):
+            for output in ("*.hex", "*.MHX"):
+                file = MesFile(flags=family)
+                self.refused_compile(file, "--languages=1,2", f"--output={output}")
 
     def test_the_message_file_is_not_overwritten(self) -> None:
         (self.folder / "link.HEX").symlink_to("A.MES")
@@ -482,8 +604,9 @@ class CompileMsxTest(CliTest):
         self.assertEqual(self.read("P.MHX"), b"".join(lines[1:]) + 4086 * b"\r\n")
         self.assertEqual(result.err, f"Error: {self.BOX}\n")
         box = {"icon": "exclamation", "title": "Error", "text": self.BOX}
-        expected = {"written": ["P.MHX", "P.mtx"], "messages": [box], "completed": True}
-        self.assertEqual(result.json, expected)
+        boxes = {"messages": [box], "warnings": []}
+        written = ["P.MHX", "P.mtx"]
+        self.assertEqual(result.json, {"written": written, **boxes, "completed": True})
 
     def test_nine_languages_lose_header_and_last_line(self) -> None:
         self.write("A.MSX", msx_file(9) + LAST_LINE_OF_NINE)
@@ -506,6 +629,45 @@ class CompileMsxTest(CliTest):
                 self.assertEqual(self.read("P.MHX"), msx_file(9)[len(msx_header()) :])
             else:
                 self.assertIn("A.MSX: ", self.refused("compile", "A.MSX", "--output=P.MHX").err)
+
+    def test_a_damaged_record_is_compiled_with_a_warning(self) -> None:
+        lines = msx_file(9).split(b"\r\n")
+        lines[1] = lines[1][:10] + b"G1" + lines[1][12:]
+        lines[2] = lines[2][:-1]
+        lines[3] = lines[3][:-2] + b"00"
+        lines[4] = b"S5"
+        lines[4095] = lines[4095][:20]
+        content = b"\r\n".join(lines)
+        self.write("A.MSX", content)
+        result = self.done_with_message("compile", "A.MSX", "--output=P.MHX", "--json")
+        self.assertEqual(self.read("P.MHX"), content[len(msx_header()) :])
+        # 14 + FF + 20 and the codes of "L1 M2" and 11 blanks, 27C, are 3AF; AF is complemented.
+        warnings = [
+            r"A\.MSX: line 2: column 11: .*G1.*",
+            r"A\.MSX: line 3: the count is 20, .* 19 bytes and a half",
+            r"A\.MSX: line 4: the checksum is 00 instead of 50",
+            r"A\.MSX: line 5: the count is 0, .* 0 bytes",
+            r"A\.MSX: line 4096: the count is 20, .* 8 bytes",
+        ]
+        self.assertEqual(len(result.json["warnings"]), len(warnings))
+        for warning, expected in zip(result.json["warnings"], warnings):
+            self.assertRegex(warning, f"^{expected}$")
+        printed = [f"vendlingua-cli: warning: {text}" for text in result.json["warnings"]]
+        self.assertEqual(result.err.splitlines(), printed)
+
+    def test_a_damaged_record_behind_the_4095_lines_is_not_compiled(self) -> None:
+        self.write("A.MSX", msx_file(9) + b"S2\r\n")
+        self.done("compile", "A.MSX", "--output=P.MHX")
+
+    def test_the_fixed_last_line_of_a_copy_is_no_damaged_record(self) -> None:
+        self.write("A.MSX", msx_file(1) + LAST_LINE_OF_NINE)
+        result = self.done_with_message("compile", "A.MSX", "--output=P.MHX", "--json")
+        self.assertEqual(result.json["warnings"], [])
+
+    def test_section_files_do_not_take_the_place_of_the_flash_file(self) -> None:
+        self.write("A.MSX", msx_file(9))
+        err = self.refused("compile", "A.MSX", "--output=P.mtx").err
+        self.assertIn("P.mtx: is the flash file", err)
 
     def test_no_identified_copy_is_made(self) -> None:
         self.write("A.MSX", msx_file(9))

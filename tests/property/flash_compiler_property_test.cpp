@@ -47,10 +47,12 @@ std::vector<std::size_t> AnyLanguages(const RandomMes& file) {
 }
 
 // The image as a picture of the memory: every language in its slot, then the list of their names
-// in each of them for a firmware that does not list the languages itself.
-std::string ImageModel(const RandomMes& file, const std::vector<std::size_t>& languages) {
+// in each of them for a firmware that does not list the languages itself. 0 stands for what `bytes`
+// end before.
+std::string ImageModel(const RandomMes& file, std::string bytes,
+                       const std::vector<std::size_t>& languages) {
   const test::MesFile& layout = file.layout;
-  const std::string bytes = file.Bytes();
+  bytes.resize(file.Bytes().size(), '\0');
   const std::size_t slot = file.MemLength() / layout.lang_count;
   std::string image(file.MemLength(), '\0');
   for (std::size_t j = 0; j < languages.size(); ++j) {
@@ -81,7 +83,11 @@ bool NamesFit(const RandomMes& file) {
 
 struct Compiled {
   Compiled(const RandomMes& file, const std::vector<std::size_t>& languages)
-      : opened("SET.MES", file.Bytes()) {
+      : Compiled(file, file.Bytes(), languages) {}
+
+  Compiled(const RandomMes& file, const std::string& bytes,
+           const std::vector<std::size_t>& languages)
+      : opened("SET.MES", bytes) {
     const auto slots = static_cast<int>(file.layout.lang_count);
     for (const std::size_t language : languages) {
       opened.engine.compiler_state.ticked.at(language) = true;
@@ -106,7 +112,23 @@ RC_GTEST_PROP(FlashCompilerProperty, TheFlashFileDecodesToTheChosenLanguages, ()
   const Compiled compiled(file, languages);
   const auto records = test::ParseFileStrictly(test::Slurp(compiled.outcome.written.at(0)));
   RC_ASSERT(test::ImageOf(records, static_cast<std::uint32_t>(Number(file.layout.mem_start))) ==
-            ImageModel(file, languages));
+            ImageModel(file, file.Bytes(), languages));
+}
+
+RC_GTEST_PROP(FlashCompilerProperty, AFileThatEndsEarlyIsCompiledAsIfItWentOnWith0, ()) {
+  const RandomMes file = *CompilableFiles();
+  RC_PRE((Number(file.layout.flags) % 2 == 1 || NamesFit(file)));
+  const auto languages = AnyLanguages(file);
+  const std::size_t messages = file.MessageOffset(file.Languages(), 0);
+  const std::size_t end = messages + (file.layout.last_msg + 1) * file.layout.width;
+  const std::size_t size = AnyOf(messages, end);
+  const std::string bytes = file.Bytes().substr(0, size);
+  const Compiled compiled(file, bytes, languages);
+  const auto records = test::ParseFileStrictly(test::Slurp(compiled.outcome.written.at(0)));
+  RC_ASSERT(test::ImageOf(records, static_cast<std::uint32_t>(Number(file.layout.mem_start))) ==
+            ImageModel(file, bytes, languages));
+  const bool is_short = size < end && languages.back() == file.Languages();
+  RC_ASSERT(compiled.outcome.short_languages.size() == (is_short ? 1U : 0U));
 }
 
 RC_GTEST_PROP(FlashCompilerProperty, PlaceholdersReachNoFileThatIsWritten, ()) {

@@ -1,9 +1,11 @@
 #include "core/flash/flash_compiler.h"
 
-#include <system_error>
+#include <fmt/format.h>
 
 #include "core/flash/identified_copy.h"
+#include "core/flash/kept_files.h"
 #include "core/formats/copy_header.h"
+#include "core/formats/mes_file.h"
 #include "core/formats/srecord.h"
 #include "core/formats/text_lines.h"
 #include "core/platform/errors.h"
@@ -28,7 +30,17 @@ std::string FirstLine(const std::string& records) {
   return line ? std::string(line->text) : std::string();
 }
 
+// The name that a dialog starts with is no choice; nor is that of the other family's dialog.
+bool IsInitialName(FilePurpose purpose, const fs::path& name) {
+  return purpose == FilePurpose::kIdentifiedCopy ? name == "*.MSX"
+                                                 : name == "*.MHX" || name == "*.hex";
+}
+
 }  // namespace
+
+std::string FlashExtension(const MessageSet& set) {
+  return set.HeaderBit1 != kFalse ? "MHX" : "hex";
+}
 
 FlashCompiler::FlashCompiler(Workspace& workspace, Dialogs& dialogs, CompilerState& compiler,
                              FlashImage& flash_image, SectionFiles& section_files)
@@ -44,13 +56,13 @@ CompileOutcome FlashCompiler::Compile() {
   SetBusy(true);
   try {
     const fs::path flash_file =
-        AskPath(FilePurpose::kFlashFile, IsMhxFamily() ? "MHX" : "hex", true);
+        AskPath(FilePurpose::kFlashFile, FlashExtension(workspace_.set), true);
     if (flash_file.empty()) {
       SetBusy(false);
       return outcome;
     }
     compiler_.hourglass = true;
-    Run(flash_file, outcome);
+    Run({flash_file, NamedCopy(flash_file)}, outcome);
   } catch (...) {
     SetBusy(false);
     throw;
@@ -61,14 +73,15 @@ CompileOutcome FlashCompiler::Compile() {
   return outcome;
 }
 
-void FlashCompiler::Run(const fs::path& flash_file, CompileOutcome& outcome) {
+void FlashCompiler::Run(CompileOutputs outputs, CompileOutcome& outcome) {
+  CheckOutputs(outputs);
   if (workspace_.set.IsMsx()) {
-    CompileMsx(flash_file, outcome);
-  } else if (workspace_.set.IsMes() && !CompileMes(flash_file, outcome)) {
+    CompileMsx(outputs, outcome);
+  } else if (workspace_.set.IsMes() && !CompileMes(outputs, outcome)) {
     return;
   }
   if (IsMhxFamily()) {
-    WriteSectionFiles(flash_file, outcome);
+    WriteSectionFiles(outputs, outcome);
   }
   outcome.completed = true;
 }
@@ -83,40 +96,64 @@ fs::path FlashCompiler::AskPath(FilePurpose purpose, const std::string& extensio
                                      .filter = "Flash File(" + wildcard + ")|" + wildcard,
                                      .overwrite_prompt = overwrite_prompt,
                                      .folder = workspace_.folders.current});
-  if (path == wildcard) {
+  if (path.empty() || IsInitialName(purpose, path.filename())) {
     return {};
   }
-  if (!path.empty()) {
-    RefuseSource(path);
-    workspace_.folders.current = path.parent_path();
-  }
+  workspace_.folders.current = path.parent_path();
   return path;
 }
 
-void FlashCompiler::RefuseSource(const fs::path& path) const {
-  std::error_code not_there;
-  if (fs::equivalent(path, workspace_.set.CurrentFileName, not_there)) {
-    throw FileError(path, "is the message file that is being compiled; choose another name");
+void FlashCompiler::CheckOutputs(const CompileOutputs& outputs) const {
+  std::vector<KeptFile> kept = {
+      {workspace_.set.CurrentFileName, "the message file that is being compiled"}};
+  RefuseToReplace(kept, outputs.flash_file);
+  kept.push_back({outputs.flash_file, "the flash file"});
+  if (outputs.copy) {
+    RefuseToReplace(kept, *outputs.copy);
+    kept.push_back({*outputs.copy, "the identified copy"});
+  }
+  if (IsMhxFamily()) {
+    for (const fs::path& path : SectionFiles::Paths(SectionBase(outputs.flash_file))) {
+      RefuseToReplace(kept, path);
+    }
   }
 }
 
+// The copy that is named after the flash file; nothing when the user is asked for its name, and
+// when there will be none.
+std::optional<fs::path> FlashCompiler::NamedCopy(const fs::path& flash_file) const {
+  const MessageSet& set = workspace_.set;
+  const auto name = CopyNameFor(flash_file);
+  if (!set.IsMes() || set.LangCount == kLanguagesOfMsxFile || !name ||
+      !HeaderFromBaseName(name->base_name)) {
+    return std::nullopt;
+  }
+  const std::string file_name = name->base_name + name->extension;
+  return workspace_.folders.current / std::u8string(file_name.begin(), file_name.end());
+}
+
 // False when the run stops here.
-bool FlashCompiler::CompileMes(const fs::path& flash_file, CompileOutcome& outcome) {
+bool FlashCompiler::CompileMes(CompileOutputs& outputs, CompileOutcome& outcome) {
   const MessageSet& set = workspace_.set;
   dialogs_.LetPendingEventsRun();
-  flash_image_ = NamingFile(set.CurrentFileName, [this] { return PackedImage(); });
+  flash_image_ = NamingFile(set.CurrentFileName, [&] { return PackedImage(outcome); });
   const std::string records =
       FormatSRecords(flash_image_.Bytes(), set.MemStart, SRecordTypeFor(set.MemStart));
-  Write(flash_file, {records}, outcome);
-  return WriteCopy(flash_file, records, outcome);
+  Write(outputs.flash_file, {records}, outcome);
+  return set.LangCount == kLanguagesOfMsxFile ? WriteNineLanguageCopy(outputs, records, outcome)
+                                              : WriteNamedCopy(outputs, records, outcome);
 }
 
 // The image of this run; that of the last one stays if an error comes up.
-FlashImage FlashCompiler::PackedImage() const {
+FlashImage FlashCompiler::PackedImage(CompileOutcome& outcome) const {
   const MessageSet& set = workspace_.set;
+  const std::string content = ReadFile(set.CurrentFileName);
   FlashImage image = flash_image_;
   image.MatchTo(set);
-  image.Pack(set, ReadFile(set.CurrentFileName), compiler_.TickedLanguages());
+  for (const int language : image.Pack(set, content, compiler_.TickedLanguages())) {
+    const std::string name = ReadMesNames(set, content).at(static_cast<std::size_t>(language));
+    outcome.short_languages.push_back({language, name});
+  }
   if (set.HeaderBit0 == kFalse) {
     image.WriteLanguageNames(set);
   }
@@ -125,8 +162,7 @@ FlashImage FlashCompiler::PackedImage() const {
 
 // The records of a ".MSX" file without its own header: always 4095 lines, empty ones behind its
 // end.
-void FlashCompiler::CompileMsx(const fs::path& flash_file, CompileOutcome& outcome) {
-  constexpr std::size_t kLinesWritten = 4095;
+void FlashCompiler::CompileMsx(const CompileOutputs& outputs, CompileOutcome& outcome) {
   constexpr std::size_t kMostLines = 4099;
   const std::string content = ReadFile(workspace_.set.CurrentFileName);
   TextLines lines(content);
@@ -137,65 +173,59 @@ void FlashCompiler::CompileMsx(const fs::path& flash_file, CompileOutcome& outco
     if (lines.count() > kMostLines) {
       throw FileError(
           workspace_.set.CurrentFileName,
-          "the file has more than " + std::to_string(kMostLines) + " lines; nothing was written");
+          fmt::format("the file has more than {} lines; nothing was written", kMostLines));
     }
-    if (written < kLinesWritten) {
+    if (written < kMsxLinesCompiled) {
       records.append(line->text).append(kCrLf);
       ++written;
     }
   }
-  for (; written < kLinesWritten; ++written) {
+  for (; written < kMsxLinesCompiled; ++written) {
     records += kCrLf;
   }
-  Write(flash_file, {records}, outcome);
+  Write(outputs.flash_file, {records}, outcome);
 }
 
 // False when the run stops here.
-bool FlashCompiler::WriteCopy(const fs::path& flash_file, const std::string& records,
-                              CompileOutcome& outcome) {
-  return workspace_.set.LangCount == kLanguagesOfMsxFile
-             ? WriteNineLanguageCopy(records, outcome)
-             : WriteNamedCopy(flash_file, records, outcome);
-}
-
-bool FlashCompiler::WriteNineLanguageCopy(const std::string& records, CompileOutcome& outcome) {
+bool FlashCompiler::WriteNineLanguageCopy(CompileOutputs& outputs, const std::string& records,
+                                          CompileOutcome& outcome) {
   const fs::path copy = AskPath(FilePurpose::kIdentifiedCopy, "MSX", false);
   if (copy.empty()) {
     return false;
   }
+  outputs.copy = copy;
+  CheckOutputs(outputs);
   const std::string header = HeaderFromFirstRecord(FirstLine(records));
   Write(copy, {header, kCrLf, records, kLastCopyLine, kCrLf}, outcome);
   return true;
 }
 
-bool FlashCompiler::WriteNamedCopy(const fs::path& flash_file, const std::string& records,
+// False when the run stops here.
+bool FlashCompiler::WriteNamedCopy(const CompileOutputs& outputs, const std::string& records,
                                    CompileOutcome& outcome) {
-  const auto name = CopyNameFor(flash_file);
+  const auto name = CopyNameFor(outputs.flash_file);
   if (!name) {
     dialogs_.MessageBox(
         {MessageIcon::kCritical, "Impossibile creare il file MSX o il file HSX", "Errore"});
     return false;
   }
   const auto header = HeaderFromBaseName(name->base_name);
-  if (!header) {
-    dialogs_.MessageBox({MessageIcon::kInformation,
-                         "                     The file .MSX/.HSX will not created \n\n"
-                         " Name File : " +
-                             name->base_name + ".MHX .HSX not correct (Es:FW0000AA)",
-                         "Info"});
+  if (!header || !outputs.copy) {
+    constexpr const char* kText =
+        "                     The file .MSX/.HSX will not created \n\n"
+        " Name File : {}.MHX .HSX not correct (Es:FW0000AA)";
+    dialogs_.MessageBox({MessageIcon::kInformation, fmt::format(kText, name->base_name), "Info"});
     return true;
   }
-  const std::string file_name = name->base_name + name->extension;
-  const fs::path copy =
-      workspace_.folders.current / fs::path(std::u8string(file_name.begin(), file_name.end()));
-  RefuseSource(copy);
-  Write(copy, {*header, kCrLf, records}, outcome);
+  CheckOutputs(outputs);
+  Write(*outputs.copy, {*header, kCrLf, records}, outcome);
   return true;
 }
 
-void FlashCompiler::WriteSectionFiles(const fs::path& flash_file, CompileOutcome& outcome) {
-  section_files_.ReadBack(flash_file, dialogs_, workspace_.ui_text);
-  for (const fs::path& path : section_files_.WriteSections(SectionBase(flash_file))) {
+void FlashCompiler::WriteSectionFiles(const CompileOutputs& outputs, CompileOutcome& outcome) {
+  section_files_.ReadBack(outputs.flash_file, dialogs_, workspace_.ui_text);
+  CheckOutputs(outputs);
+  for (const fs::path& path : section_files_.WriteSections(SectionBase(outputs.flash_file))) {
     outcome.written.push_back(path);
   }
 }

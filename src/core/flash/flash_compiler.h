@@ -1,7 +1,9 @@
 #ifndef VENDLINGUA_CORE_FLASH_FLASH_COMPILER_H_
 #define VENDLINGUA_CORE_FLASH_FLASH_COMPILER_H_
 
+#include <cstddef>
 #include <filesystem>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -13,9 +15,28 @@
 
 namespace vendlingua {
 
+/// Of a ".MSX" file so many lines behind its header are compiled.
+inline constexpr std::size_t kMsxLinesCompiled = 4095;
+
+/// Extension of the flash files of a set's board, without dot: "MHX" or "hex".
+std::string FlashExtension(const MessageSet& set);
+
+/// Where the outputs of a run go. The section files stand beside the flash file.
+struct CompileOutputs {
+  std::filesystem::path flash_file;
+  std::optional<std::filesystem::path> copy;  ///< nothing as long as it is not known
+};
+
 struct CompileOutcome {
+  /// A language that ends before its last message.
+  struct ShortLanguage {
+    int number;
+    std::string name;  ///< UTF-8
+  };
+
   std::vector<std::filesystem::path> written;
-  bool completed = false;  ///< the last step was reached
+  std::vector<ShortLanguage> short_languages;  ///< compiled with 0 for what is not there
+  bool completed = false;                      ///< the last step was reached
 };
 
 /// Compiles the ticked languages of the saved message file into a flash file, its identified copy
@@ -28,24 +49,27 @@ class FlashCompiler {
   /// The compile button. Two stops (the name of the flash file gives no name for the copy; the file
   /// question for the copy of nine languages is cancelled) leave both buttons disabled and the
   /// hourglass on. Throws Error, with both buttons enabled again, when the message file cannot be
-  /// compiled or a file cannot be written.
+  /// compiled, when CheckOutputs() does, or when a file cannot be written.
   CompileOutcome Compile();
+
+  /// Throws FileError when an output would take the place of the message file or of another output.
+  /// Compile() looks before it writes the first byte, and again as more becomes known.
+  void CheckOutputs(const CompileOutputs& outputs) const;
 
  private:
   bool IsMhxFamily() const { return workspace_.set.HeaderBit1 != kFalse; }
   std::filesystem::path AskPath(FilePurpose purpose, const std::string& extension,
                                 bool overwrite_prompt);
-  void RefuseSource(const std::filesystem::path& path) const;
-  void Run(const std::filesystem::path& flash_file, CompileOutcome& outcome);
-  bool CompileMes(const std::filesystem::path& flash_file, CompileOutcome& outcome);
-  FlashImage PackedImage() const;
-  void CompileMsx(const std::filesystem::path& flash_file, CompileOutcome& outcome);
-  bool WriteCopy(const std::filesystem::path& flash_file, const std::string& records,
-                 CompileOutcome& outcome);
-  bool WriteNineLanguageCopy(const std::string& records, CompileOutcome& outcome);
-  bool WriteNamedCopy(const std::filesystem::path& flash_file, const std::string& records,
+  std::optional<std::filesystem::path> NamedCopy(const std::filesystem::path& flash_file) const;
+  void Run(CompileOutputs outputs, CompileOutcome& outcome);
+  bool CompileMes(CompileOutputs& outputs, CompileOutcome& outcome);
+  FlashImage PackedImage(CompileOutcome& outcome) const;
+  void CompileMsx(const CompileOutputs& outputs, CompileOutcome& outcome);
+  bool WriteNineLanguageCopy(CompileOutputs& outputs, const std::string& records,
+                             CompileOutcome& outcome);
+  bool WriteNamedCopy(const CompileOutputs& outputs, const std::string& records,
                       CompileOutcome& outcome);
-  void WriteSectionFiles(const std::filesystem::path& flash_file, CompileOutcome& outcome);
+  void WriteSectionFiles(const CompileOutputs& outputs, CompileOutcome& outcome);
   void SetBusy(bool busy);
 
   Workspace& workspace_;

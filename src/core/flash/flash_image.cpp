@@ -1,7 +1,8 @@
 #include "core/flash/flash_image.h"
 
+#include <fmt/format.h>
+
 #include <algorithm>
-#include <string>
 
 #include "core/formats/mes_file.h"
 #include "core/platform/errors.h"
@@ -13,6 +14,22 @@ constexpr std::size_t kMaxNames = 20;
 
 std::size_t SlotLength(const MessageSet& set) { return set.MemLength / set.LangCount; }
 
+// Messages 0 to `LastMsg` of a language, one behind the other, as far as the file holds them.
+std::string_view MessagesOf(const MessageSet& set, std::string_view mes_content, int language) {
+  const auto offset = static_cast<std::size_t>(MesMessageOffset(set, language, 0));
+  if (offset > mes_content.size()) {
+    throw FileError(
+        set.CurrentFileName,
+        fmt::format("the file does not hold language {}; nothing was written", language));
+  }
+  return mes_content.substr(offset, set.MessageCount() * set.Width());
+}
+
+std::uint8_t PackedByte(char cell) {
+  const auto code = static_cast<DisplayCode>(cell);
+  return code == kPlaceholder ? kBlank : code;
+}
+
 }  // namespace
 
 void FlashImage::MatchTo(const MessageSet& set) {
@@ -22,44 +39,43 @@ void FlashImage::MatchTo(const MessageSet& set) {
   }
 }
 
-void FlashImage::RequireInside(std::size_t end, const char* what) const {
+void FlashImage::RequireInside(std::size_t end, std::string_view what) const {
   if (end > bytes_.size()) {
-    throw Error(std::string(what) + " end at byte " + std::to_string(end) +
-                " of the flash image, which has " + std::to_string(bytes_.size()) +
-                " bytes; nothing was written");
+    throw Error(
+        fmt::format("{} end at byte {} of the flash image, which has {} bytes; nothing was written",
+                    what, end, bytes_.size()));
   }
 }
 
-void FlashImage::Pack(const MessageSet& set, std::string_view mes_content,
-                      std::span<const int> languages) {
+std::vector<int> FlashImage::Pack(const MessageSet& set, std::string_view mes_content,
+                                  std::span<const int> languages) {
   const std::size_t language_bytes = set.MessageCount() * set.Width();
   if (!languages.empty()) {
     RequireInside((languages.size() - 1) * SlotLength(set) + language_bytes,
                   "the messages of the chosen languages");
   }
-  std::size_t slot = 0;
-  for (const int language : languages) {
-    const auto offset = static_cast<std::size_t>(MesMessageOffset(set, language, 0));
-    if (mes_content.size() < offset + language_bytes) {
-      throw FileError(set.CurrentFileName,
-                      "the file ends before message " + std::to_string(set.LastMsg) +
-                          " of language " + std::to_string(language) +
-                          "; open it as destination and save it once. Nothing was written");
+  std::vector<int> short_languages;
+  for (std::size_t slot = 0; slot < languages.size(); ++slot) {
+    const std::string_view messages = MessagesOf(set, mes_content, languages[slot]);
+    const auto slot_bytes = std::span(bytes_).subspan(slot * SlotLength(set), language_bytes);
+    const auto end =
+        std::transform(messages.begin(), messages.end(), slot_bytes.begin(), PackedByte);
+    std::fill(end, slot_bytes.end(), std::uint8_t{0});
+    if (messages.size() < language_bytes) {
+      short_languages.push_back(languages[slot]);
     }
-    const DisplayCodes codes = CodesFromBytes(mes_content.substr(offset, language_bytes));
-    std::replace_copy(codes.begin(), codes.end(),
-                      bytes_.begin() + static_cast<std::ptrdiff_t>(slot * SlotLength(set)),
-                      kPlaceholder, kBlank);
-    ++slot;
   }
+  return short_languages;
 }
 
 void FlashImage::WriteLanguageNames(const MessageSet& set) {
   const std::size_t slots = set.LangCount;
   const std::size_t width = set.Width();
   if (slots > kMaxNames) {
-    throw Error("the list of language names holds at most " + std::to_string(kMaxNames) +
-                " slots, the file declares " + std::to_string(slots) + "; nothing was written");
+    throw Error(
+        fmt::format("the list of language names holds at most {} slots, the file declares {}; "
+                    "nothing was written",
+                    kMaxNames, slots));
   }
   const auto list_offset = [&](std::size_t slot) {
     return slot * SlotLength(set) + width * set.HeaderCount;

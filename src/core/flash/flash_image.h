@@ -21,9 +21,11 @@ class FlashImage {
   void MatchTo(const MessageSet& set);
 
   /// Packs the ticked languages (entry numbers, ascending), read from the content of the ".MES"
-  /// file, into slots 0, 1, 2, ... A placeholder becomes a blank. Throws Error when a message would
-  /// lie outside the image or is not in the file.
-  void Pack(const MessageSet& set, std::string_view mes_content, std::span<const int> languages);
+  /// file, into slots 0, 1, 2, ... A placeholder becomes a blank, and 0 stands for what a language
+  /// lacks that ends before its last message: those languages are returned. Throws Error when a
+  /// message would lie outside the image or when the file does not hold the block of a language.
+  std::vector<int> Pack(const MessageSet& set, std::string_view mes_content,
+                        std::span<const int> languages);
 
   /// Writes the list of all languages' names over messages `HeaderCount` and following of every
   /// slot, for a firmware that does not list the languages itself. Throws Error when there are more
@@ -33,7 +35,7 @@ class FlashImage {
   std::span<const std::uint8_t> Bytes() const { return bytes_; }
 
  private:
-  void RequireInside(std::size_t end, const char* what) const;
+  void RequireInside(std::size_t end, std::string_view what) const;
 
   std::vector<std::uint8_t> bytes_;
   std::optional<std::uint32_t> opened_files_;

@@ -1,20 +1,41 @@
 #include "core/presentation/compiler_status.h"
 
+#include <fmt/format.h>
+
 #include "core/platform/errors.h"
 
 namespace vendlingua {
+namespace {
+
+constexpr std::size_t kFilesWritten = 57;
+constexpr std::size_t kToChoose = 58;
+constexpr std::size_t kChosen = 59;
+constexpr std::size_t kShortLanguages = 74;
+
+}  // namespace
 
 std::string SelectionStatus(const CompilerState& compiler, int lang_count, const UiText& ui_text) {
-  return ui_text[58] + " " + std::to_string(lang_count) + ", " + ui_text[59] + " " +
-         std::to_string(compiler.TickedLanguages().size());
+  return fmt::format("{} {}, {} {}", ui_text[kToChoose], lang_count, ui_text[kChosen],
+                     compiler.TickedLanguages().size());
 }
 
 std::string WrittenStatus(const CompileOutcome& outcome, const UiText& ui_text) {
-  std::string names;
+  std::vector<std::string> files;
   for (const auto& path : outcome.written) {
-    names += (names.empty() ? " " : ", ") + PathText(path.filename());
+    files.push_back(PathText(path.filename()));
   }
-  return names.empty() ? "" : ui_text[57] + names;
+  std::vector<std::string> languages;
+  for (const auto& language : outcome.short_languages) {
+    languages.push_back(language.name);
+  }
+  std::string status;
+  if (!files.empty()) {
+    status = fmt::format("{} {}", ui_text[kFilesWritten], fmt::join(files, ", "));
+  }
+  if (!languages.empty()) {
+    status += fmt::format("\n{} {}", ui_text[kShortLanguages], fmt::join(languages, ", "));
+  }
+  return status;
 }
 
 }  // namespace vendlingua

@@ -2,8 +2,6 @@
 
 #include "core/flash/flash_compiler.h"
 #include "core/formats/file_check.h"
-#include "core/platform/errors.h"
-#include "support/same_bytes.h"
 #include "unit/flash/flash_compiler_test.h"
 
 namespace vendlingua {
@@ -61,6 +59,23 @@ TEST_F(CompiledCopyTest, TellsTheSameNamesForAHexFile) {
   OpenHexFile();
   Compile({1, 2}, folder_ / "FW.hex");
   EXPECT_THAT(dialogs_.messages.at(0).text, HasSubstr(" Name File : FW.MHX .HSX not correct"));
+}
+
+TEST_F(CompiledCopyTest, TellsANameOfAnyCharacters) {
+  OpenHexFile();
+  for (const std::string name : {"ФВ04水7AB", "FW\xE8\x80", "<b>0417"}) {
+    dialogs_.messages.clear();
+    EXPECT_TRUE(Compile({1, 2}, folder_ / (name + ".hex")).completed);
+    ASSERT_THAT(dialogs_.messages, SizeIs(1));
+    EXPECT_THAT(dialogs_.messages[0].text, HasSubstr(" Name File : " + name + ".MHX .HSX not"));
+  }
+}
+
+TEST_F(CompiledCopyTest, TakesTheModelOfANameOfAnyCharacters) {
+  OpenMhxFile();
+  Compile({1, 2}, folder_ / "ФВ0417AB.MHX");
+  EXPECT_EQ(Slurp(folder_ / "ФВ0417AB.MSX"),
+            "S013000044543034313741422020202020202020E7\r\n" + kHighRecords);
 }
 
 TEST_F(CompiledCopyTest, StopsBusyWhenTheNameGivesNoCopy) {
@@ -180,13 +195,6 @@ TEST_F(NineLanguageCompilerTest, MakesACopyThatOpensAsAMessageFile) {
   EXPECT_EQ(engine_.workspace.set.language_names.at(9), "9999999999999999");  // message 169
   engine_.languages.ChooseDestination(9);
   EXPECT_EQ(test::Text(engine_.workspace.set.DestText[3].First(16)), "9333333333333333");
-}
-
-TEST_F(NineLanguageCompilerTest, RefusesToWriteTheCopyOverTheMessageFile) {
-  OpenMes();
-  EXPECT_THROW(Compile(all_, folder_ / "F.MHX", folder_ / "SET.MES"), FileError);
-  EXPECT_TRUE(test::SameBytes(Slurp(folder_ / "SET.MES"), file_.Bytes()));
-  ExpectReady();
 }
 
 TEST_F(NineLanguageCompilerTest, WritesASoundCopy) {

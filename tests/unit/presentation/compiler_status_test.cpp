@@ -11,6 +11,7 @@ class CompilerStatusTest : public testing::Test {
     ui_text_.Set(57, "Files:");
     ui_text_.Set(58, "To choose:");
     ui_text_.Set(59, "chosen:");
+    ui_text_.Set(74, "Short:");
   }
 
   UiText ui_text_;
@@ -28,6 +29,13 @@ TEST_F(CompilerStatusTest, NamesTheWrittenFilesWithoutTheirFolders) {
   CompileOutcome outcome;
   outcome.written = {"/flash/FW0417AB.MHX", "/elsewhere/MP0417AA.MSX"};
   EXPECT_EQ(WrittenStatus(outcome, ui_text_), "Files: FW0417AB.MHX, MP0417AA.MSX");
+}
+
+TEST_F(CompilerStatusTest, NamesTheLanguagesThatEndEarlyBehindTheFiles) {
+  CompileOutcome outcome;
+  outcome.written = {"/flash/FW0417AB.MHX"};
+  outcome.short_languages = {{2, "ENGLISH"}, {7, "ČEŠTINA"}};
+  EXPECT_EQ(WrittenStatus(outcome, ui_text_), "Files: FW0417AB.MHX\nShort: ENGLISH, ČEŠTINA");
 }
 
 TEST_F(CompilerStatusTest, SaysNothingOfARunThatWroteNothing) {
