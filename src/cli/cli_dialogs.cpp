@@ -53,12 +53,18 @@ std::string CliDialogs::InputBox(const InputRequest& request) {
   return answer;
 }
 
-std::filesystem::path CliDialogs::OpenFile(const FileRequest& request) {
-  return files[request.purpose];
+std::optional<std::filesystem::path> CliDialogs::OpenFile(const FileRequest& request) {
+  return GivenFile(request.purpose);
 }
 
-std::filesystem::path CliDialogs::SaveFile(const FileRequest& request) {
-  return WithDefaultExtension(files[request.purpose], request.default_extension);
+std::optional<std::filesystem::path> CliDialogs::SaveFile(const FileRequest& request) {
+  auto path = GivenFile(request.purpose);
+  return path ? WithDefaultExtension(*path, request.default_extension) : path;
+}
+
+std::optional<std::filesystem::path> CliDialogs::GivenFile(FilePurpose purpose) const {
+  const auto file = files.find(purpose);
+  return file == files.end() || file->second.empty() ? std::nullopt : std::optional(file->second);
 }
 
 }  // namespace vendlingua::cli

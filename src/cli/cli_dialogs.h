@@ -4,6 +4,7 @@
 #include <deque>
 #include <filesystem>
 #include <map>
+#include <optional>
 #include <stdexcept>
 #include <string>
 #include <vector>
@@ -30,17 +31,19 @@ class CliDialogs : public Dialogs {
   /// The answers to one kind of question; the last one is given again and again, except that names
   /// of languages are used up one by one.
   std::map<InputPurpose, std::deque<std::string>> inputs;
-  std::map<FilePurpose, std::filesystem::path> files;
+  std::map<FilePurpose, std::filesystem::path> files;  ///< an empty path: cancelled
 
   const std::vector<MessageRequest>& messages() const { return messages_; }
 
   MessageAnswer MessageBox(const MessageRequest& request) override;
   std::string InputBox(const InputRequest& request) override;
-  std::filesystem::path OpenFile(const FileRequest& request) override;
-  std::filesystem::path SaveFile(const FileRequest& request) override;
+  std::optional<std::filesystem::path> OpenFile(const FileRequest& request) override;
+  std::optional<std::filesystem::path> SaveFile(const FileRequest& request) override;
   void LetPendingEventsRun() override {}
 
  private:
+  std::optional<std::filesystem::path> GivenFile(FilePurpose purpose) const;
+
   std::vector<MessageRequest> messages_;
 };
 

@@ -1,6 +1,7 @@
 #include <benchmark/benchmark.h>
 
 #include <filesystem>
+#include <optional>
 #include <random>
 #include <string>
 #include <vector>
@@ -26,8 +27,8 @@ class BenchDialogs : public Dialogs {
     return MessageAnswer::kNo;
   }
   std::string InputBox(const InputRequest& /*request*/) override { return "BENCH"; }
-  fs::path OpenFile(const FileRequest& /*request*/) override { return messages; }
-  fs::path SaveFile(const FileRequest& request) override {
+  std::optional<fs::path> OpenFile(const FileRequest& /*request*/) override { return messages; }
+  std::optional<fs::path> SaveFile(const FileRequest& request) override {
     return request.purpose == FilePurpose::kIdentifiedCopy ? copy : flash_file;
   }
   void LetPendingEventsRun() override {}

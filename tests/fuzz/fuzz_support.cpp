@@ -79,12 +79,13 @@ std::string FuzzDialogs::InputBox(const InputRequest& request) {
   return answer;
 }
 
-fs::path FuzzDialogs::OpenFile(const FileRequest& /*request*/) { return NextFile(); }
-fs::path FuzzDialogs::SaveFile(const FileRequest& /*request*/) { return NextFile(); }
+std::optional<fs::path> FuzzDialogs::OpenFile(const FileRequest& /*request*/) { return NextFile(); }
 
-fs::path FuzzDialogs::NextFile() {
+std::optional<fs::path> FuzzDialogs::SaveFile(const FileRequest& /*request*/) { return NextFile(); }
+
+std::optional<fs::path> FuzzDialogs::NextFile() {
   if (files.empty()) {
-    return {};
+    return std::nullopt;
   }
   fs::path file = files.front();
   files.pop_front();

@@ -33,12 +33,12 @@ class FuzzDialogs : public Dialogs {
 
   MessageAnswer MessageBox(const MessageRequest& request) override;
   std::string InputBox(const InputRequest& request) override;
-  std::filesystem::path OpenFile(const FileRequest& request) override;
-  std::filesystem::path SaveFile(const FileRequest& request) override;
+  std::optional<std::filesystem::path> OpenFile(const FileRequest& request) override;
+  std::optional<std::filesystem::path> SaveFile(const FileRequest& request) override;
   void LetPendingEventsRun() override {}
 
  private:
-  std::filesystem::path NextFile();
+  std::optional<std::filesystem::path> NextFile();
 
   int names_ = 0;
   int questions_ = 0;

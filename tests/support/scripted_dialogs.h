@@ -3,6 +3,7 @@
 
 #include <deque>
 #include <filesystem>
+#include <optional>
 #include <stdexcept>
 #include <string>
 #include <vector>
@@ -16,7 +17,7 @@ namespace vendlingua::test {
 class ScriptedDialogs : public Dialogs {
  public:
   std::deque<std::string> input_answers;
-  std::deque<std::filesystem::path> file_answers;
+  std::deque<std::filesystem::path> file_answers;  ///< an empty path: cancelled
   std::deque<MessageAnswer> yes_no_answers;
 
   std::vector<MessageRequest> messages;
@@ -36,19 +37,24 @@ class ScriptedDialogs : public Dialogs {
     return Take(input_answers, request.prompt);
   }
 
-  std::filesystem::path OpenFile(const FileRequest& request) override {
+  std::optional<std::filesystem::path> OpenFile(const FileRequest& request) override {
     open_requests.push_back(request);
-    return Take(file_answers, request.filter);
+    return TakeFile("a file to open");
   }
 
-  std::filesystem::path SaveFile(const FileRequest& request) override {
+  std::optional<std::filesystem::path> SaveFile(const FileRequest& request) override {
     save_requests.push_back(request);
-    return Take(file_answers, request.filter);
+    return TakeFile("a file to save");
   }
 
   void LetPendingEventsRun() override { ++pending_event_runs; }
 
  private:
+  std::optional<std::filesystem::path> TakeFile(const std::string& question) {
+    const std::filesystem::path path = Take(file_answers, question);
+    return path.empty() ? std::nullopt : std::optional(path);
+  }
+
   template <typename Answer>
   static Answer Take(std::deque<Answer>& answers, const std::string& question) {
     if (answers.empty()) {

@@ -90,17 +90,18 @@ void FlashCompiler::Run(CompileOutputs outputs, CompileOutcome& outcome) {
 fs::path FlashCompiler::AskPath(FilePurpose purpose, const std::string& extension,
                                 bool overwrite_prompt) {
   const std::string wildcard = "*." + extension;
-  fs::path path = dialogs_.SaveFile({.purpose = purpose,
-                                     .initial_name = wildcard,
-                                     .default_extension = extension,
-                                     .filter = "Flash File(" + wildcard + ")|" + wildcard,
-                                     .overwrite_prompt = overwrite_prompt,
-                                     .folder = workspace_.folders.current});
-  if (path.empty() || IsInitialName(purpose, path.filename())) {
+  const auto path = dialogs_.SaveFile({.purpose = purpose,
+                                       .title = "",
+                                       .initial_name = wildcard,
+                                       .default_extension = extension,
+                                       .filters = {{"Flash File", extension}},
+                                       .overwrite_prompt = overwrite_prompt,
+                                       .folder = workspace_.folders.current});
+  if (!path || path->empty() || IsInitialName(purpose, path->filename())) {
     return {};
   }
-  workspace_.folders.current = path.parent_path();
-  return path;
+  workspace_.folders.current = path->parent_path();
+  return *path;
 }
 
 void FlashCompiler::CheckOutputs(const CompileOutputs& outputs) const {

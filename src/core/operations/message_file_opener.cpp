@@ -70,13 +70,15 @@ OpenOutcome MessageFileOpener::OpenPath(const std::filesystem::path& path,
 
 // Empty when nothing was chosen.
 std::filesystem::path MessageFileOpener::AskPath() {
-  const std::filesystem::path path =
-      dialogs_.OpenFile({.purpose = FilePurpose::kOpenMessages,
-                         .initial_name = "",
-                         .default_extension = "",
-                         .filter = "Message(*.MES)|*.MES|Message(*.MSX)|*.MSX",
-                         .folder = workspace_.folders.current});
-  return path == "*.MES" || path == "*.MSX" ? std::filesystem::path() : path;
+  const auto path = dialogs_.OpenFile({.purpose = FilePurpose::kOpenMessages,
+                                       .title = "",
+                                       .initial_name = "",
+                                       .default_extension = "",
+                                       .filters = {{"Message", "MES"}, {"Message", "MSX"}},
+                                       .must_exist = true,
+                                       .folder = workspace_.folders.current});
+  return path == "*.MES" || path == "*.MSX" ? std::filesystem::path()
+                                            : path.value_or(std::filesystem::path());
 }
 
 bool MessageFileOpener::OpenMesFile() {

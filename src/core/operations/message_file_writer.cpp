@@ -172,19 +172,19 @@ std::uint8_t MessageFileWriter::HeaderFlags() const {
 fs::path MessageFileWriter::AskSavePath() {
   const std::string& type = workspace_.set.CurrentFileType;
   const std::string wildcard = "*" + type;
-  fs::path path = dialogs_.SaveFile({.purpose = FilePurpose::kSaveMessages,
-                                     .initial_name = wildcard,
-                                     .default_extension = type.substr(1),
-                                     .filter = "Message(" + wildcard + ")|" + wildcard,
-                                     .overwrite_prompt = true,
-                                     .folder = workspace_.folders.current});
-  if (path == wildcard) {
+  const std::string extension = type.substr(1);
+  const auto path = dialogs_.SaveFile({.purpose = FilePurpose::kSaveMessages,
+                                       .title = "",
+                                       .initial_name = wildcard,
+                                       .default_extension = extension,
+                                       .filters = {{"Message", extension}},
+                                       .overwrite_prompt = true,
+                                       .folder = workspace_.folders.current});
+  if (!path || path == wildcard) {
     return {};
   }
-  if (!path.empty()) {
-    workspace_.folders.current = path.parent_path();
-  }
-  return path;
+  workspace_.folders.current = path->parent_path();
+  return *path;
 }
 
 SaveOutcome MessageFileWriter::WriteNewMes(const std::optional<NameField>& new_name) {

@@ -2,7 +2,9 @@
 #define VENDLINGUA_CORE_PLATFORM_DIALOGS_H_
 
 #include <filesystem>
+#include <optional>
 #include <string>
+#include <vector>
 
 namespace vendlingua {
 
@@ -10,7 +12,7 @@ enum class MessageIcon { kCritical, kExclamation, kInformation, kQuestion };
 enum class MessageButtons { kOk, kYesNo };
 enum class MessageAnswer { kOk, kYes, kNo };
 
-/// A modal message box. All texts are UTF-8.
+/// A modal message box. All texts are UTF-8. Without a title it has that of the program.
 struct MessageRequest {
   MessageIcon icon = MessageIcon::kInformation;
   std::string text;
@@ -37,12 +39,23 @@ struct InputRequest {
 
 enum class FilePurpose { kOpenMessages, kSaveMessages, kFlashFile, kIdentifiedCopy };
 
-/// A file dialog. `initial_name` is also what an unanswered dialog may return.
+/// The files that a file dialog offers: those with `extension`, in upper or lower case.
+struct FileFilter {
+  std::string caption;    ///< what these files are, without a pattern
+  std::string extension;  ///< without dot
+
+  bool operator==(const FileFilter&) const = default;
+};
+
+/// A file dialog. `initial_name` is also what an unanswered dialog may return. The folder of the
+/// answer is there: the dialog asks on until it is.
 struct FileRequest {
   FilePurpose purpose;
+  std::string title;  ///< empty: what the desktop calls such a dialog
   std::string initial_name;
   std::string default_extension;  ///< without dot; empty for an open dialog
-  std::string filter;             ///< "Caption|*.EXT|Caption|*.EXT"
+  std::vector<FileFilter> filters;
+  bool must_exist = false;  ///< only a file that is there can be chosen
   bool overwrite_prompt = false;
   std::filesystem::path folder;  ///< where the dialog starts
 };
@@ -61,9 +74,9 @@ class Dialogs {
   /// The typed answer; empty when it was cancelled.
   virtual std::string InputBox(const InputRequest& request) = 0;
 
-  /// The chosen path; empty when it was cancelled.
-  virtual std::filesystem::path OpenFile(const FileRequest& request) = 0;
-  virtual std::filesystem::path SaveFile(const FileRequest& request) = 0;
+  /// The chosen path; nothing when it was cancelled.
+  virtual std::optional<std::filesystem::path> OpenFile(const FileRequest& request) = 0;
+  virtual std::optional<std::filesystem::path> SaveFile(const FileRequest& request) = 0;
 
   /// Lets waiting window events run once, so that a long operation does not freeze the screen.
   virtual void LetPendingEventsRun() = 0;

@@ -57,20 +57,22 @@ class Box : public QMessageBox {
   bool question_;
 };
 
-// "Caption|*.EXT|Caption|*.EXT" as the filters of a Qt dialog. Some desktops mind the case.
-QStringList NameFilters(const std::string& filter) {
-  const QStringList parts = FromUtf8(filter).split(QLatin1Char('|'));
-  QStringList filters;
-  for (qsizetype i = 0; i + 1 < parts.size(); i += 2) {
-    const QString caption = parts[i].section(QLatin1Char('('), 0, 0);
-    const QString& pattern = parts[i + 1];
-    filters += caption + QStringLiteral(" (%1 %2)").arg(pattern, pattern.toLower());
+// Some desktops mind the case.
+QStringList NameFilters(const std::vector<FileFilter>& filters) {
+  QStringList name_filters;
+  for (const FileFilter& filter : filters) {
+    const QString extension = FromUtf8(filter.extension);
+    name_filters += QStringLiteral("%1 (*.%2 *.%3)")
+                        .arg(FromUtf8(filter.caption), extension, extension.toLower());
   }
-  return filters;
+  return name_filters;
 }
 
 void Prepare(QFileDialog& dialog, const FileRequest& request, const QtFolder& folder) {
-  dialog.setNameFilters(NameFilters(request.filter));
+  if (!request.title.empty()) {
+    dialog.setWindowTitle(FromUtf8(request.title));
+  }
+  dialog.setNameFilters(NameFilters(request.filters));
   dialog.setDirectory(folder.name());
   dialog.setDefaultSuffix(FromUtf8(request.default_extension));
   dialog.setOption(QFileDialog::DontConfirmOverwrite, !request.overwrite_prompt);
@@ -80,10 +82,10 @@ void Prepare(QFileDialog& dialog, const FileRequest& request, const QtFolder& fo
 }
 
 // What was chosen; the name that stood there at first is no choice.
-std::filesystem::path Answer(QFileDialog& dialog, const FileRequest& request,
-                             const QtFolder& folder) {
+std::optional<std::filesystem::path> Answer(QFileDialog& dialog, const FileRequest& request,
+                                            const QtFolder& folder) {
   if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) {
-    return {};
+    return std::nullopt;
   }
   const std::filesystem::path path = folder.PathOf(dialog.selectedFiles().constFirst());
   return path.filename() == request.initial_name ? path.filename() : path;
@@ -126,17 +128,17 @@ std::string QtDialogs::InputBox(const InputRequest& request) {
   return dialog.exec() == QDialog::Accepted ? dialog.textValue().toStdString() : std::string();
 }
 
-std::filesystem::path QtDialogs::OpenFile(const FileRequest& request) {
+std::optional<std::filesystem::path> QtDialogs::OpenFile(const FileRequest& request) {
   BeforeDialog();
   const QtFolder folder(request.folder);
   QFileDialog dialog(QApplication::activeWindow());
   dialog.setAcceptMode(QFileDialog::AcceptOpen);
-  dialog.setFileMode(QFileDialog::ExistingFile);
+  dialog.setFileMode(request.must_exist ? QFileDialog::ExistingFile : QFileDialog::AnyFile);
   Prepare(dialog, request, folder);
   return Answer(dialog, request, folder);
 }
 
-std::filesystem::path QtDialogs::SaveFile(const FileRequest& request) {
+std::optional<std::filesystem::path> QtDialogs::SaveFile(const FileRequest& request) {
   BeforeDialog();
   const QtFolder folder(request.folder);
   QFileDialog dialog(QApplication::activeWindow());

@@ -22,8 +22,8 @@ class QtDialogs : public Dialogs {
 
   MessageAnswer MessageBox(const MessageRequest& request) override;
   std::string InputBox(const InputRequest& request) override;
-  std::filesystem::path OpenFile(const FileRequest& request) override;
-  std::filesystem::path SaveFile(const FileRequest& request) override;
+  std::optional<std::filesystem::path> OpenFile(const FileRequest& request) override;
+  std::optional<std::filesystem::path> SaveFile(const FileRequest& request) override;
   void LetPendingEventsRun() override;
 
  private:

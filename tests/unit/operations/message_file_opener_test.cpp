@@ -20,6 +20,7 @@ namespace fs = std::filesystem;
 using test::MesFile;
 using test::MsxFile;
 using test::Slurp;
+using ::testing::ElementsAre;
 using ::testing::HasSubstr;
 using ::testing::IsEmpty;
 using ::testing::SizeIs;
@@ -109,7 +110,9 @@ TEST_F(MessageFileOpenerTest, AsksForAMessageFile) {
   const FileRequest& request = dialogs_.open_requests[0];
   EXPECT_EQ(request.purpose, FilePurpose::kOpenMessages);
   EXPECT_EQ(request.initial_name, "");
-  EXPECT_EQ(request.filter, "Message(*.MES)|*.MES|Message(*.MSX)|*.MSX");
+  EXPECT_THAT(request.filters,
+              ElementsAre(FileFilter{"Message", "MES"}, FileFilter{"Message", "MSX"}));
+  EXPECT_TRUE(request.must_exist);
   EXPECT_EQ(request.folder, folder_.path());
 }
 

@@ -22,6 +22,7 @@ using test::MsxMessage;
 using test::S2Line;
 using test::SameBytes;
 using test::Slurp;
+using ::testing::ElementsAre;
 using ::testing::HasSubstr;
 using ::testing::IsEmpty;
 using ::testing::SizeIs;
@@ -118,7 +119,8 @@ TEST_F(NewMesFile, AsksForAPathThatMayOverwrite) {
   EXPECT_EQ(request.purpose, FilePurpose::kSaveMessages);
   EXPECT_EQ(request.initial_name, "*.MES");
   EXPECT_EQ(request.default_extension, "MES");
-  EXPECT_THAT(request.filter, HasSubstr("Message(*.MES)"));
+  EXPECT_THAT(request.filters, ElementsAre(FileFilter{"Message", "MES"}));
+  EXPECT_FALSE(request.must_exist);
   EXPECT_TRUE(request.overwrite_prompt);
   EXPECT_EQ(request.folder, folder_.path());
 }
@@ -704,7 +706,7 @@ TEST_F(SaveAs, AsksForAMesFile) {
   ASSERT_THAT(dialogs_.save_requests, SizeIs(1));
   EXPECT_EQ(dialogs_.save_requests[0].initial_name, "*.MES");
   EXPECT_EQ(dialogs_.save_requests[0].default_extension, "MES");
-  EXPECT_THAT(dialogs_.save_requests[0].filter, HasSubstr("Message(*.MES)"));
+  EXPECT_THAT(dialogs_.save_requests[0].filters, ElementsAre(FileFilter{"Message", "MES"}));
   EXPECT_TRUE(dialogs_.save_requests[0].overwrite_prompt);
 }
 
@@ -746,7 +748,7 @@ TEST_F(MessageFileWriterTest, SavesAnMsxFileAs) {
   EXPECT_EQ(engine_.writer.SaveAs().result, SaveOutcome::kSaved);
   EXPECT_EQ(dialogs_.save_requests.back().initial_name, "*.MSX");
   EXPECT_EQ(dialogs_.save_requests.back().default_extension, "MSX");
-  EXPECT_THAT(dialogs_.save_requests.back().filter, HasSubstr("Message(*.MSX)"));
+  EXPECT_THAT(dialogs_.save_requests.back().filters, ElementsAre(FileFilter{"Message", "MSX"}));
   EXPECT_TRUE(SameBytes(Slurp(folder_ / "COPY.MSX"), MsxFile(1)));
 }
 
