@@ -32,8 +32,8 @@ class FilesTest : public DeskTest {
     const DialogAnswerer::FileQuestion& question = desk_->user.files().front();
     QVERIFY(!question.save);
     QCOMPARE(question.folder, QString::fromStdString((desk_->folder / "bin").string()));
-    QCOMPARE(question.name_filters, QStringList({QStringLiteral("Message (*.MES *.mes)"),
-                                                 QStringLiteral("Message (*.MSX *.msx)")}));
+    QCOMPARE(question.name_filters,
+             QStringList({QStringLiteral("Message (*.MES)"), QStringLiteral("Message (*.MSX)")}));
   }
 
   void ACancelledOpenLeavesEverything() {

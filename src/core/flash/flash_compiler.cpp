@@ -19,6 +19,10 @@ namespace fs = std::filesystem;
 // A copy of this many languages is a ".MSX" message file, and the user says where it goes.
 constexpr int kLanguagesOfMsxFile = 9;
 
+// What the two files are that a compilation asks for.
+constexpr const char* kFlashFileTitle = "Save the flash file";
+constexpr const char* kCopyTitle = "Save the copy with identification header";
+
 void Write(const fs::path& path, std::initializer_list<std::string_view> pieces,
            CompileOutcome& outcome) {
   WriteFile(path, pieces);
@@ -56,7 +60,7 @@ CompileOutcome FlashCompiler::Compile() {
   SetBusy(true);
   try {
     const fs::path flash_file =
-        AskPath(FilePurpose::kFlashFile, FlashExtension(workspace_.set), true);
+        AskPath(FilePurpose::kFlashFile, kFlashFileTitle, FlashExtension(workspace_.set), true);
     if (flash_file.empty()) {
       SetBusy(false);
       return outcome;
@@ -87,11 +91,11 @@ void FlashCompiler::Run(CompileOutputs outputs, CompileOutcome& outcome) {
 }
 
 // Empty when nothing was chosen.
-fs::path FlashCompiler::AskPath(FilePurpose purpose, const std::string& extension,
-                                bool overwrite_prompt) {
+fs::path FlashCompiler::AskPath(FilePurpose purpose, const std::string& title,
+                                const std::string& extension, bool overwrite_prompt) {
   const std::string wildcard = "*." + extension;
   const auto path = dialogs_.SaveFile({.purpose = purpose,
-                                       .title = "",
+                                       .title = title,
                                        .initial_name = wildcard,
                                        .default_extension = extension,
                                        .filters = {{"Flash File", extension}},
@@ -190,7 +194,7 @@ void FlashCompiler::CompileMsx(const CompileOutputs& outputs, CompileOutcome& ou
 // False when the run stops here.
 bool FlashCompiler::WriteNineLanguageCopy(CompileOutputs& outputs, const std::string& records,
                                           CompileOutcome& outcome) {
-  const fs::path copy = AskPath(FilePurpose::kIdentifiedCopy, "MSX", false);
+  const fs::path copy = AskPath(FilePurpose::kIdentifiedCopy, kCopyTitle, "MSX", false);
   if (copy.empty()) {
     return false;
   }

@@ -209,6 +209,12 @@ void FrmMake::changeEvent(QEvent* event) {
   }
 }
 
+void FrmMake::closeEvent(QCloseEvent* event) {
+  if (!closing_.Postpones(*event)) {
+    QWidget::closeEvent(event);
+  }
+}
+
 bool FrmMake::eventFilter(QObject* watched, QEvent* event) {
   if (event->type() == QEvent::MouseButtonPress &&
       static_cast<QMouseEvent*>(event)->button() == Qt::RightButton) {
@@ -230,11 +236,11 @@ void FrmMake::RenameFocused() {
 }
 
 void FrmMake::Rename(int language) {
-  run_([&] { RenameLanguage(parts_.workspace, parts_.dialogs, language); });
+  Run([&] { RenameLanguage(parts_.workspace, parts_.dialogs, language); });
 }
 
 void FrmMake::Tick(int language, bool ticked) {
-  run_([&] {
+  Run([&] {
     const int lang_count = parts_.workspace.set.LangCount;
     parts_.state.ticked.at(static_cast<std::size_t>(language)) = ticked;
     parts_.state.status = SelectionStatus(parts_.state, lang_count, parts_.workspace.ui_text);
@@ -242,10 +248,16 @@ void FrmMake::Tick(int language, bool ticked) {
 }
 
 void FrmMake::Compile() {
-  run_([&] {
+  Run([&] {
     const CompileOutcome outcome = parts_.compiler.Compile();
     parts_.state.status = WrittenStatus(outcome, parts_.workspace.ui_text);
   });
+  // While it was disabled, another control had the focus.
+  Command1_->setFocus();
+}
+
+void FrmMake::Run(const std::function<void()>& command) {
+  closing_.During([&] { run_(command, *this); });
 }
 
 }  // namespace vendlingua

@@ -15,6 +15,7 @@
 #include "core/flash/flash_compiler.h"
 #include "core/operations/message_file_writer.h"
 #include "core/platform/dialogs.h"
+#include "desktop/postponed_close.h"
 
 namespace vendlingua {
 
@@ -33,8 +34,9 @@ class FrmMake : public QWidget {
   Q_OBJECT
 
  public:
-  /// Does a command of the user: shows its errors and mirrors all windows afterwards.
-  using RunCommand = std::function<void(const std::function<void()>&)>;
+  /// Does a command of the user that belongs to `window`: shows its errors and mirrors all windows
+  /// afterwards.
+  using RunCommand = std::function<void(const std::function<void()>& command, QWidget& window)>;
 
   FrmMake(const CompilerParts& parts, RunCommand run, QWidget* main_window);
 
@@ -51,6 +53,7 @@ class FrmMake : public QWidget {
 
  protected:
   void changeEvent(QEvent* event) override;
+  void closeEvent(QCloseEvent* event) override;
   bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
@@ -66,9 +69,11 @@ class FrmMake : public QWidget {
   void Rename(int language);
   void Tick(int language, bool ticked);
   void Compile();
+  void Run(const std::function<void()>& command);
 
   CompilerParts parts_;
   RunCommand run_;
+  PostponedClose closing_{*this};
   QTabWidget* SSTab1_;
   QFrame* Shape1_;
   QPushButton* Command1_;

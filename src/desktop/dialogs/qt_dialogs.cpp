@@ -1,14 +1,14 @@
 #include "desktop/dialogs/qt_dialogs.h"
 
 #include <QApplication>
-#include <QFileDialog>
 #include <QInputDialog>
 #include <QKeyEvent>
 #include <QMessageBox>
 #include <QPushButton>
 #include <utility>
 
-#include "desktop/qt_folder.h"
+#include "core/presentation/view_state.h"
+#include "desktop/dialogs/file_dialog.h"
 #include "desktop/qt_text.h"
 
 namespace vendlingua {
@@ -57,38 +57,8 @@ class Box : public QMessageBox {
   bool question_;
 };
 
-// Some desktops mind the case.
-QStringList NameFilters(const std::vector<FileFilter>& filters) {
-  QStringList name_filters;
-  for (const FileFilter& filter : filters) {
-    const QString extension = FromUtf8(filter.extension);
-    name_filters += QStringLiteral("%1 (*.%2 *.%3)")
-                        .arg(FromUtf8(filter.caption), extension, extension.toLower());
-  }
-  return name_filters;
-}
-
-void Prepare(QFileDialog& dialog, const FileRequest& request, const QtFolder& folder) {
-  if (!request.title.empty()) {
-    dialog.setWindowTitle(FromUtf8(request.title));
-  }
-  dialog.setNameFilters(NameFilters(request.filters));
-  dialog.setDirectory(folder.name());
-  dialog.setDefaultSuffix(FromUtf8(request.default_extension));
-  dialog.setOption(QFileDialog::DontConfirmOverwrite, !request.overwrite_prompt);
-  if (!request.initial_name.empty()) {
-    dialog.selectFile(FromUtf8(request.initial_name));
-  }
-}
-
-// What was chosen; the name that stood there at first is no choice.
-std::optional<std::filesystem::path> Answer(QFileDialog& dialog, const FileRequest& request,
-                                            const QtFolder& folder) {
-  if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) {
-    return std::nullopt;
-  }
-  const std::filesystem::path path = folder.PathOf(dialog.selectedFiles().constFirst());
-  return path.filename() == request.initial_name ? path.filename() : path;
+QString TitleOf(const std::string& title) {
+  return FromUtf8(title.empty() ? std::string(kApplicationTitle) : title);
 }
 
 }  // namespace
@@ -101,9 +71,9 @@ void QtDialogs::Attach(std::function<void()> refresh, const UiText& ui_text) {
 MessageAnswer QtDialogs::MessageBox(const MessageRequest& request) {
   BeforeDialog();
   const bool question = request.buttons == MessageButtons::kYesNo;
-  Box box(question, QApplication::activeWindow());
+  Box box(question, owner_);
   box.setIcon(IconOf(request.icon));
-  box.setWindowTitle(FromUtf8(request.title));
+  box.setWindowTitle(TitleOf(request.title));
   box.setTextFormat(Qt::PlainText);
   box.setText(FromUtf8(request.text));
   if (!question) {
@@ -120,8 +90,8 @@ MessageAnswer QtDialogs::MessageBox(const MessageRequest& request) {
 
 std::string QtDialogs::InputBox(const InputRequest& request) {
   BeforeDialog();
-  QInputDialog dialog(QApplication::activeWindow());
-  dialog.setWindowTitle(FromUtf8(request.title));
+  QInputDialog dialog(owner_);
+  dialog.setWindowTitle(TitleOf(request.title));
   dialog.setLabelText(FromUtf8(request.prompt));
   dialog.setTextValue(FromUtf8(request.default_answer));
   dialog.setCancelButtonText(FromUtf8(Caption(kCancel, "Cancel")));
@@ -130,22 +100,12 @@ std::string QtDialogs::InputBox(const InputRequest& request) {
 
 std::optional<std::filesystem::path> QtDialogs::OpenFile(const FileRequest& request) {
   BeforeDialog();
-  const QtFolder folder(request.folder);
-  QFileDialog dialog(QApplication::activeWindow());
-  dialog.setAcceptMode(QFileDialog::AcceptOpen);
-  dialog.setFileMode(request.must_exist ? QFileDialog::ExistingFile : QFileDialog::AnyFile);
-  Prepare(dialog, request, folder);
-  return Answer(dialog, request, folder);
+  return FileDialog(request, QFileDialog::AcceptOpen, owner_).Ask();
 }
 
 std::optional<std::filesystem::path> QtDialogs::SaveFile(const FileRequest& request) {
   BeforeDialog();
-  const QtFolder folder(request.folder);
-  QFileDialog dialog(QApplication::activeWindow());
-  dialog.setAcceptMode(QFileDialog::AcceptSave);
-  dialog.setFileMode(QFileDialog::AnyFile);
-  Prepare(dialog, request, folder);
-  return Answer(dialog, request, folder);
+  return FileDialog(request, QFileDialog::AcceptSave, owner_).Ask();
 }
 
 // Some operations ask for it at every line of a file; nobody sees more than one picture a frame.

@@ -2,6 +2,8 @@
 #define VENDLINGUA_DESKTOP_DIALOGS_QT_DIALOGS_H_
 
 #include <QElapsedTimer>
+#include <QPointer>
+#include <QWidget>
 #include <functional>
 
 #include "core/platform/dialogs.h"
@@ -9,9 +11,25 @@
 
 namespace vendlingua {
 
-/// The dialogs of the desktop. Each is a child of the window that is active when it opens.
+/// The dialogs of the desktop. Each belongs to the window whose command asks, whatever window is
+/// active at that moment: after a dialog some desktops make none active for a while.
 class QtDialogs : public Dialogs {
  public:
+  /// While it lives, dialogs belong to `window`.
+  class Owner {
+   public:
+    Owner(QtDialogs& dialogs, QWidget& window) : dialogs_(dialogs), before_(dialogs.owner_) {
+      dialogs_.owner_ = &window;
+    }
+    Owner(const Owner&) = delete;
+    Owner& operator=(const Owner&) = delete;
+    ~Owner() { dialogs_.owner_ = before_; }
+
+   private:
+    QtDialogs& dialogs_;
+    QPointer<QWidget> before_;
+  };
+
   /// Before a dialog opens and before window events run, `refresh` is called, so that the windows
   /// show how far the operation came. Buttons are captioned from `ui_text`.
   void Attach(std::function<void()> refresh, const UiText& ui_text);
@@ -30,6 +48,7 @@ class QtDialogs : public Dialogs {
   void BeforeDialog();
   std::string Caption(std::size_t number, const char* without_texts) const;
 
+  QPointer<QWidget> owner_;
   std::function<void()> refresh_;
   const UiText* ui_text_ = nullptr;
   int opened_ = 0;

@@ -122,14 +122,17 @@ void FrmMes::AddShortcuts() {
   run(Qt::CTRL | Qt::Key_Y, &Editing::Redo);
 }
 
-void FrmMes::Run(const std::function<void()>& command) {
-  engine_.workspace.window.status.clear();
-  try {
-    command();
-  } catch (const std::exception& error) {
-    dialogs_.MessageBox({MessageIcon::kCritical, error.what(), "ERROR"});
-  }
-  Mirror();
+void FrmMes::Run(const std::function<void()>& command, QWidget& window) {
+  const QtDialogs::Owner owner(dialogs_, window);
+  closing_.During([&] {
+    engine_.workspace.window.status.clear();
+    try {
+      command();
+    } catch (const std::exception& error) {
+      dialogs_.MessageBox({MessageIcon::kCritical, error.what(), "ERROR"});
+    }
+    Mirror();
+  });
 }
 
 void FrmMes::Mirror() {
@@ -175,14 +178,21 @@ void FrmMes::Form_Activate() {
 }
 
 void FrmMes::closeEvent(QCloseEvent* event) {
+  if (closing_.Postpones(*event)) {
+    return;
+  }
   bool may_end = false;
   Run([&] { may_end = Form_Unload(engine_.workspace, starter_, engine_.writer); });
   if (!may_end) {
     event->ignore();
     return;
   }
-  delete frm_make_;
-  delete frm_info_;
+  if (frm_make_) {
+    frm_make_->close();
+  }
+  if (frm_info_) {
+    frm_info_->close();
+  }
   event->accept();
 }
 
@@ -206,7 +216,7 @@ void FrmMes::OpenCompiler() {
     auto form = std::make_unique<FrmMake>(
         CompilerParts{engine_.workspace, engine_.compiler_state, engine_.compiler, engine_.writer,
                       dialogs_},
-        [this](const std::function<void()>& command) { Run(command); }, this);
+        [this](const auto& command, QWidget& window) { Run(command, window); }, this);
     if (!form->Load()) {
       return;
     }

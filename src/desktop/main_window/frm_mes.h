@@ -14,6 +14,7 @@
 #include "desktop/information/frm_info.h"
 #include "desktop/main_window/editor_panel.h"
 #include "desktop/main_window/main_menus.h"
+#include "desktop/postponed_close.h"
 
 namespace vendlingua {
 
@@ -35,7 +36,9 @@ class FrmMes : public QMainWindow {
   void AddShortcuts();
 
   /// Does what the user asked for. The one place where errors are shown.
-  void Run(const std::function<void()>& command);
+  void Run(const std::function<void()>& command) { Run(command, *this); }
+  /// The same for a command that belongs to `window`.
+  void Run(const std::function<void()>& command, QWidget& window);
   /// Makes the windows show the state of the engine.
   void Mirror();
 
@@ -54,6 +57,7 @@ class FrmMes : public QMainWindow {
   UiText captions_;  ///< of the editor
   QPointer<FrmMake> frm_make_;
   QPointer<FrmInfo> frm_info_;
+  PostponedClose closing_{*this};
   WindowTop window_top_;
   QTimer typing_pause_;
   int dialogs_seen_ = 0;

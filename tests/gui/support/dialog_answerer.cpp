@@ -2,6 +2,7 @@
 
 #include <QAbstractButton>
 #include <QApplication>
+#include <QComboBox>
 #include <QFileDialog>
 #include <QInputDialog>
 #include <QLineEdit>
@@ -19,6 +20,15 @@ bool Click(QDialog& dialog, QMessageBox::StandardButton button) {
   }
   box->button(button)->click();
   return true;
+}
+
+QStringList ShownFilters(const QFileDialog& dialog) {
+  const auto* filters = dialog.findChild<QComboBox*>(QStringLiteral("fileTypeCombo"));
+  QStringList captions;
+  for (int i = 0; i < filters->count(); ++i) {
+    captions += filters->itemText(i);
+  }
+  return captions;
 }
 
 bool HasOneButton(QDialog& dialog) {
@@ -119,7 +129,7 @@ void DialogAnswerer::Note(QDialog& dialog) {
   } else if (auto* input = qobject_cast<QInputDialog*>(&dialog)) {
     inputs_.push_back({input->labelText(), input->windowTitle(), input->textValue()});
   } else if (auto* files = qobject_cast<QFileDialog*>(&dialog)) {
-    files_.push_back({files->nameFilters(), files->defaultSuffix(),
+    files_.push_back({files->windowTitle(), ShownFilters(*files), files->defaultSuffix(),
                       files->directory().absolutePath(),
                       files->acceptMode() == QFileDialog::AcceptSave,
                       !files->testOption(QFileDialog::DontConfirmOverwrite)});

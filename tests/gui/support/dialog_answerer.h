@@ -57,7 +57,8 @@ class DialogAnswerer : public QObject {
   };
   const std::vector<Input>& inputs() const { return inputs_; }
   struct FileQuestion {
-    QStringList name_filters;
+    QString title;
+    QStringList name_filters;  ///< as the dialog shows them
     QString suffix;
     QString folder;
     bool save;
