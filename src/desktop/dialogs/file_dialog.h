@@ -27,6 +27,7 @@ class FileDialog : public QFileDialog {
   bool IsQts() const;
 
   std::filesystem::path initial_name_;
+  QtFolder folder_;
 };
 
 }  // namespace vendlingua

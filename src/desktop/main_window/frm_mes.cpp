@@ -138,6 +138,7 @@ void FrmMes::Run(const std::function<void()>& command, QWidget& window) {
 void FrmMes::Mirror() {
   const Workspace& workspace = engine_.workspace;
   const ViewState view = ViewOf(workspace);
+  qt_texts_.Follow(workspace);
   setWindowTitle(FromUtf8(view.caption));
   setFixedSize(PixelsFromTwips(kWindowWidth), PixelsFromTwips(view.height));
   menus_->Show(MenusOf(workspace));

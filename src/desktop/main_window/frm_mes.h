@@ -11,6 +11,7 @@
 #include "core/presentation/window_top.h"
 #include "desktop/compiler/frm_make.h"
 #include "desktop/dialogs/qt_dialogs.h"
+#include "desktop/dialogs/qt_texts.h"
 #include "desktop/information/frm_info.h"
 #include "desktop/main_window/editor_panel.h"
 #include "desktop/main_window/main_menus.h"
@@ -57,6 +58,7 @@ class FrmMes : public QMainWindow {
   UiText captions_;  ///< of the editor
   QPointer<FrmMake> frm_make_;
   QPointer<FrmInfo> frm_info_;
+  QtTexts qt_texts_;
   PostponedClose closing_{*this};
   WindowTop window_top_;
   QTimer typing_pause_;
