@@ -1,7 +1,7 @@
 #include "desktop/application.h"
 
-#include <QScopeGuard>
 #include <QDebug>
+#include <QScopeGuard>
 #include <exception>
 
 #include "desktop/dialogs/qt_dialogs.h"

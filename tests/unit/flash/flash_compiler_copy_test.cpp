@@ -133,7 +133,8 @@ TEST_F(NineLanguageCompilerTest, AsksWhereTheCopyGoes) {
   EXPECT_EQ(dialogs_.save_requests[1].purpose, FilePurpose::kIdentifiedCopy);
   EXPECT_EQ(dialogs_.save_requests[1].initial_name, "*.MSX");
   EXPECT_EQ(dialogs_.save_requests[1].default_extension, "MSX");
-  EXPECT_THAT(dialogs_.save_requests[1].filter, StartsWith("Flash File(*.MSX)"));
+  EXPECT_THAT(dialogs_.save_requests[1].filters,
+              testing::ElementsAre(FileFilter{"Flash File", "MSX"}));
   EXPECT_FALSE(dialogs_.save_requests[1].overwrite_prompt);
 }
 

@@ -23,7 +23,7 @@ TEST_F(ShortLanguageTest, Writes0ForTheMessagesThatALanguageLacks) {
   engine_.languages.ChooseOrigin(0);
   engine_.languages.ChooseDestination(1);
   dialogs_.yes_no_answers = {MessageAnswer::kYes};
-  engine_.view.AddMessage(dialogs_);
+  engine_.editing.AddMessage(dialogs_);
   engine_.writer.Save();
   const CompileOutcome outcome = Compile({1, 2}, folder_ / "F.hex");
   EXPECT_TRUE(outcome.completed);

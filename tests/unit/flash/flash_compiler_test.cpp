@@ -27,7 +27,8 @@ TEST_F(FlashCompilerTest, AsksForAHexFile) {
   EXPECT_EQ(dialogs_.save_requests[0].purpose, FilePurpose::kFlashFile);
   EXPECT_EQ(dialogs_.save_requests[0].initial_name, "*.hex");
   EXPECT_EQ(dialogs_.save_requests[0].default_extension, "hex");
-  EXPECT_THAT(dialogs_.save_requests[0].filter, StartsWith("Flash File(*.hex)"));
+  EXPECT_THAT(dialogs_.save_requests[0].filters,
+              testing::ElementsAre(FileFilter{"Flash File", "hex"}));
   EXPECT_TRUE(dialogs_.save_requests[0].overwrite_prompt);
 }
 
@@ -37,7 +38,8 @@ TEST_F(FlashCompilerTest, AsksForAMhxFileInTheSdataFamily) {
   ASSERT_THAT(dialogs_.save_requests, SizeIs(1));
   EXPECT_EQ(dialogs_.save_requests[0].initial_name, "*.MHX");
   EXPECT_EQ(dialogs_.save_requests[0].default_extension, "MHX");
-  EXPECT_THAT(dialogs_.save_requests[0].filter, StartsWith("Flash File(*.MHX)"));
+  EXPECT_THAT(dialogs_.save_requests[0].filters,
+              testing::ElementsAre(FileFilter{"Flash File", "MHX"}));
 }
 
 TEST_F(FlashCompilerTest, StartsInTheFolderOfTheProgram) {

@@ -24,7 +24,7 @@ class WatchingDialogs : public ScriptedDialogs {
   std::function<void()> while_asking_for_file = [] {};
   std::function<void()> while_pending_events_run = [] {};
 
-  std::filesystem::path SaveFile(const FileRequest& request) override {
+  std::optional<std::filesystem::path> SaveFile(const FileRequest& request) override {
     while_asking_for_file();
     return ScriptedDialogs::SaveFile(request);
   }

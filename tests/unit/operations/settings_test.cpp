@@ -145,13 +145,13 @@ TEST_F(WorkspaceSettingsTest, WaitForNoPipe) {
   ASSERT_EQ(mkfifo((folder_ / "vendlingua.ini").c_str(), 0600), 0);
   ReadSettings(workspace_);
   EXPECT_EQ(workspace_.LanguageName, "deutsch");
-  workspace_.menus.smnuLingue[3] = {.caption = "english", .checked = true};
+  workspace_.interface_languages = {.names = {"english"}, .chosen = 0};
   WriteSettings(workspace_);
   EXPECT_EQ(test::Slurp(folder_ / "user/vendlingua.ini"), "Lingua=english\r\n");
 }
 
 TEST_F(WorkspaceSettingsTest, OutsideOfTheCodePageAreKept) {
-  workspace_.menus.smnuLingue[3] = {.caption = "\u65E5\u672C\u8A9E", .checked = true};
+  workspace_.interface_languages = {.names = {"\u65E5\u672C\u8A9E"}, .chosen = 0};
   WriteSettings(workspace_);
   ReadSettings(workspace_);
   EXPECT_EQ(workspace_.LanguageName, "\u65E5\u672C\u8A9E");
