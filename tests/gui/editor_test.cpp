@@ -230,6 +230,32 @@ class EditorTest : public DeskTest {
     QCOMPARE(desk_->Text1().text(), QString());
   }
 
+  void StepsNowhereWhileTheSelectorIsDisabled() {
+    desk_->EditMsx();
+    desk_->Open("A.MES", MesFile().Bytes());
+    QVERIFY(!desk_->HScroll1().isEnabled());
+    FrmMes& window = desk_->program.window();
+    window.activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(&window));
+    const QString number = Get<QLabel>("Label6").text();
+    QTest::keyClick(&window, Qt::Key_PageDown);
+    QTest::keyClick(&window, Qt::Key_Right, Qt::AltModifier);
+    QCOMPARE(Get<QLabel>("Label6").text(), number);
+    QTest::keyClick(&window, Qt::Key_PageUp);
+    QTest::keyClick(&window, Qt::Key_Left, Qt::AltModifier);
+    QCOMPARE(Get<QLabel>("Label6").text(), number);
+  }
+
+  void ACharacterOfADeadKeyIsPreviewedAndMarksTheSet() {
+    desk_->Edit(MesFile());
+    QInputMethodEvent commit;
+    commit.setCommitString(QStringLiteral("\u00EA"));
+    QApplication::sendEvent(&desk_->Text1(), &commit);
+    QCOMPARE(desk_->Text1().text(), QStringLiteral("\u00EA1000").left(4));
+    QCOMPARE(Get<QLabel>("Label7").text(), QStringLiteral("\u00EA"));
+    QVERIFY(desk_->Modified());
+  }
+
   void AKeyIsPreviewedAndMarksTheSet() {
     desk_->Edit(MesFile());
     QVERIFY(!desk_->Modified());

@@ -17,6 +17,7 @@
 #include "core/operations/rename_language.h"
 #include "core/presentation/compiler_status.h"
 #include "core/presentation/compiler_view.h"
+#include "desktop/announce.h"
 #include "desktop/qt_text.h"
 
 namespace vendlingua {
@@ -193,6 +194,7 @@ void FrmMake::Mirror() {
   Command2_->setText(FromUtf8(ui_text[26]));
   Command2_->setEnabled(view.Command2Enabled);
   status_->setText(FromUtf8(state.status));
+  Announce(*status_, status_->text());
   status_->setAccessibleName(FromUtf8(ui_text[70]));
   if (state.hourglass) {
     setCursor(Qt::WaitCursor);

@@ -2,10 +2,13 @@
 
 #include <QDragEnterEvent>
 #include <QGuiApplication>
+#include <QInputMethodEvent>
 #include <QKeyEvent>
 #include <QMimeData>
 #include <algorithm>
 
+#include "core/presentation/twips.h"
+#include "desktop/fonts/display_font.h"
 #include "desktop/fonts/widget_text.h"
 #include "desktop/main_window/display_text_validator.h"
 
@@ -107,9 +110,26 @@ void DestinationEdit::dropEvent(QDropEvent* event) {
   const QByteArray code = event->mimeData()->data(QString(kDraggedCodeType));
   if (code.size() == 1) {
     event->acceptProposedAction();
-    emit CharacterDropped(static_cast<DisplayCode>(code.front()), event->position().toPoint().x());
+    emit CharacterDropped(static_cast<DisplayCode>(code.front()),
+                          event->position().toPoint().x() - TextLeft());
   } else {
     QLineEdit::dropEvent(event);
+  }
+}
+
+// Where the first character begins, in pixels: left of the edit box when the text is scrolled. The
+// caret stands in the middle of its rectangle.
+int DestinationEdit::TextLeft() const {
+  const QRect caret = cursorRect();
+  return caret.x() + caret.width() / 2 - cursorPosition() * PixelsFromTwips(kCellPitch);
+}
+
+// A dead key types its character through the input method.
+void DestinationEdit::inputMethodEvent(QInputMethodEvent* event) {
+  const DisplayCodes typed = FromWidgetText(event->commitString());
+  QLineEdit::inputMethodEvent(event);
+  if (!typed.empty()) {
+    emit KeyPressed(typed.back());
   }
 }
 

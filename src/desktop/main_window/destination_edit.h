@@ -35,7 +35,7 @@ class DestinationEdit : public QLineEdit {
   /// A key that stands for a code was pressed and did not change the text.
   void KeyPressed();
 
-  /// `code` was dropped `x` pixels from the left edge.
+  /// `code` was dropped `x` pixels from the beginning of the text, which may be scrolled.
   void CharacterDropped(DisplayCode code, int x);
 
   /// `character` has no display code and was not taken.
@@ -46,10 +46,12 @@ class DestinationEdit : public QLineEdit {
   void dragEnterEvent(QDragEnterEvent* event) override;
   void dragMoveEvent(QDragMoveEvent* event) override;
   void dropEvent(QDropEvent* event) override;
+  void inputMethodEvent(QInputMethodEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
   void keyReleaseEvent(QKeyEvent* event) override;
 
  private:
+  int TextLeft() const;
   void LimitLength(int limit);
   bool TakeAltDigit(const QKeyEvent& event);
   void TypeAltCode();

@@ -4,6 +4,7 @@
 #include <algorithm>
 
 #include "core/presentation/twips.h"
+#include "desktop/announce.h"
 #include "desktop/fonts/display_font.h"
 #include "desktop/fonts/widget_text.h"
 #include "desktop/qt_text.h"
@@ -134,7 +135,7 @@ void EditorPanel::ConnectControls() {
   connect(Text1_, &DestinationEdit::KeyPressed, this, &EditorPanel::KeyPressed);
   connect(Text1_, &DestinationEdit::CharacterTyped, this, &EditorPanel::Preview);
   connect(Text1_, &DestinationEdit::CharacterDropped, this,
-          [this](DisplayCode code, int x) { emit CharacterDropped(code, x, Text1_->width()); });
+          [this](DisplayCode code, int x) { emit CharacterDropped(code, x, text_width_); });
   connect(map_, &CharacterMap::Picked, this, &EditorPanel::Preview);
   connect(map_, &CharacterMap::Typed, this, [this](DisplayCode code) {
     if (Text1_->isEnabled()) {
@@ -158,12 +159,15 @@ void EditorPanel::Show(const ViewState& view, const UiText& ui_text) {
     Label5_.at(i)->Show(view.Label5.at(i), ui_text);
   }
   SetTextWidth(view.label_width);
+  text_width_ = static_cast<int>(workspace.set.Width()) * PixelsFromTwips(kCellPitch);
   Text1_->Show(view);
   edit_frame_->setEnabled(view.Text1.enabled);
   HScroll1_->Show(view);
   Label6_->setText(QString::number(view.Label6));
+  Label6_->setAccessibleDescription(Label6_->text());
   status_text_ = FromUtf8(view.status);
   ShowStatus();
+  Announce(*status_, status_text_);
   for (std::size_t i = 0; i < Label8_.size(); ++i) {
     Label8_.at(i)->setEnabled(view.Label8Enabled.at(i));
     Label9_.at(i)->setVisible(view.Label9Visible);
@@ -231,6 +235,15 @@ void EditorPanel::SetEditorCaptions(const UiText& ui_text) {
   status_->setAccessibleName(FromUtf8(ui_text[70]));
 }
 
-void EditorPanel::Preview(DisplayCode code) { Label7_->setText(ToWidgetCharacter(code)); }
+void EditorPanel::Step(int messages) {
+  if (HScroll1_->isEnabled()) {
+    HScroll1_->setValue(HScroll1_->value() + messages);
+  }
+}
+
+void EditorPanel::Preview(DisplayCode code) {
+  Label7_->setText(ToWidgetCharacter(code));
+  Label7_->setAccessibleDescription(ToPlainText(Label7_->text()));
+}
 
 }  // namespace vendlingua

@@ -31,20 +31,17 @@ class EditorPanel : public QWidget {
   /// Captions the controls in the interface language.
   void SetEditorCaptions(const UiText& ui_text);
 
-  /// One message back or forward, where there is one to show.
-  void Step(int messages) {
-    if (HScroll1_->isEnabled()) {
-      HScroll1_->setValue(HScroll1_->value() + messages);
-    }
-  }
+  /// One message back or forward, while the selector is enabled.
+  void Step(int messages);
 
  signals:
   void Scrolled(int value);
   void TextChanged(const DisplayCodes& text);
   /// A key was pressed in the edit box that did not change its text.
   void KeyPressed();
-  /// `code` was dropped `x` pixels from the left edge of the edit box, which is `box_width` wide.
-  void CharacterDropped(DisplayCode code, int x, int box_width);
+  /// `code` was dropped `x` pixels from the beginning of the text, whose cells are `text_width`
+  /// pixels wide together.
+  void CharacterDropped(DisplayCode code, int x, int text_width);
   /// `character` was typed or pasted and has no display code.
   void CharacterRefused(const QString& character);
   /// The copy menu is wanted at `position`, relative to this panel.
@@ -78,6 +75,7 @@ class EditorPanel : public QWidget {
   QLabel* status_;
   QString status_text_;
   std::optional<std::size_t> display_type_;
+  int text_width_ = 0;  // pixels, of all cells of a message
 };
 
 }  // namespace vendlingua
