@@ -56,8 +56,10 @@ bool SectionFiles::ReadBack(const fs::path& flash_file, Dialogs& dialogs, const 
   while (const auto line = lines.Next()) {
     dialogs.LetPendingEventsRun();
     if (!line->text.starts_with('S')) {
-      dialogs.MessageBox({MessageIcon::kExclamation,
-                          fmt::format("{}\r{}", PathText(flash_file), ui_text[38]), ui_text[29]});
+      dialogs.MessageBox(
+          {MessageIcon::kExclamation,
+           fmt::format("{}\r{}", PathText(flash_file), ui_text[UiTextId::kBadFlashLine]),
+           ui_text[UiTextId::kErrorTitle]});
       return false;
     }
     if (line->text.starts_with("S2")) {

@@ -39,7 +39,7 @@ void Editing::ChangeText(std::span<const DisplayCode> text) {
   const bool pasted = text.size() > length_before + 1;
   if (cut) {
     text = text.first(set.Width());
-    workspace_.window.status = workspace_.ui_text[60];
+    workspace_.window.status = workspace_.ui_text[UiTextId::kTextShortened];
   }
   Enter({text.begin(), text.end()}, cut || pasted ? EditKind::kWhole : EditKind::kTyping);
 }
@@ -83,8 +83,9 @@ void Editing::CopyOrigin() {
 
 void Editing::AddMessage(Dialogs& dialogs) {
   workspace_.window.offers_new_message = false;
-  const MessageAnswer answer = dialogs.MessageBox(
-      {MessageIcon::kQuestion, workspace_.ui_text[40], "", MessageButtons::kYesNo});
+  const MessageAnswer answer =
+      dialogs.MessageBox({MessageIcon::kQuestion, workspace_.ui_text[UiTextId::kAddMessageQuestion],
+                          "", MessageButtons::kYesNo});
   if (answer != MessageAnswer::kNo) {
     workspace_.set.AppendMessage();
   }

@@ -71,7 +71,8 @@ void ChooseInterfaceLanguage(Workspace& workspace, Dialogs& dialogs, std::size_t
   } else {
     LoadLanguageFile(workspace, FileOf(previous));
     const UiText& ui_text = workspace.ui_text;
-    dialogs.MessageBox({MessageIcon::kExclamation, ui_text[37], ui_text[36]});
+    dialogs.MessageBox({MessageIcon::kExclamation, ui_text[UiTextId::kLanguageFileRefused],
+                        ui_text[UiTextId::kLanguageFileTitle]});
   }
   // From now on the entry of the menus is named in the interface language.
   workspace.window.file_names_entry_0 = false;

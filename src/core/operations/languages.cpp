@@ -38,7 +38,8 @@ DestinationOutcome Languages::Open(int language, bool as_new) {
   }
   if (set.IsMes() && language == kNewLanguage && set.IsFull()) {
     const UiText& ui_text = workspace_.ui_text;
-    dialogs_.MessageBox({MessageIcon::kInformation, ui_text[31], ui_text[30]});
+    dialogs_.MessageBox({MessageIcon::kInformation, ui_text[UiTextId::kFileFull],
+                         ui_text[UiTextId::kFileFullTitle]});
     return DestinationOutcome::kFileIsFull;
   }
   set.TakeDestination(TextsOf(set, language), as_new ? 0 : language);

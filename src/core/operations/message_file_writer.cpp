@@ -81,9 +81,9 @@ SaveOutcome MessageFileWriter::Save() {
   const UiText& ui_text = workspace_.ui_text;
   std::string& status = workspace_.window.status;
   if (outcome.result == SaveOutcome::kSaved) {
-    status = ui_text[54] + " " + PathText(workspace_.set.CurrentFileName);
+    status = ui_text[UiTextId::kSaved] + " " + PathText(workspace_.set.CurrentFileName);
   } else if (outcome.result == SaveOutcome::kFailed) {
-    status = ui_text[55] + " " + outcome.reason;
+    status = ui_text[UiTextId::kNotSaved] + " " + outcome.reason;
     workspace_.set.Modified = kFalse;
     workspace_.set.save_failed = true;
   }
@@ -135,14 +135,17 @@ NameField MessageFileWriter::AskNewLanguageName() {
   const UiText& ui_text = workspace_.ui_text;
   for (;;) {
     const std::string answer =
-        dialogs_.InputBox({InputPurpose::kNewLanguageName, ui_text[45], ui_text[46], ""});
+        dialogs_.InputBox({InputPurpose::kNewLanguageName, ui_text[UiTextId::kNewLanguagePrompt],
+                           ui_text[UiTextId::kNewLanguageTitle], ""});
     try {
       NameField name = NameField::FromAnswer(answer);
       if (name.IsBlank()) {
-        dialogs_.MessageBox({MessageIcon::kCritical, ui_text[32], ""});
+        dialogs_.MessageBox({MessageIcon::kCritical, ui_text[UiTextId::kNameIsBlank], ""});
       } else if (NameIsTaken(name)) {
         dialogs_.MessageBox({MessageIcon::kExclamation,
-                             ui_text[34] + "\n" + name.PaddedText() + "\n" + ui_text[35], ""});
+                             ui_text[UiTextId::kNameTakenBefore] + "\n" + name.PaddedText() + "\n" +
+                                 ui_text[UiTextId::kNameTakenAfter],
+                             ""});
       } else {
         return name;
       }
@@ -301,8 +304,9 @@ bool MessageFileWriter::NonSave() {
     return true;
   }
   const UiText& ui_text = workspace_.ui_text;
-  const MessageAnswer answer = dialogs_.MessageBox(
-      {MessageIcon::kQuestion, ui_text[43], ui_text[42], MessageButtons::kYesNo});
+  const MessageAnswer answer =
+      dialogs_.MessageBox({MessageIcon::kQuestion, ui_text[UiTextId::kUnsavedQuestion],
+                           ui_text[UiTextId::kUnsavedTitle], MessageButtons::kYesNo});
   if (answer == MessageAnswer::kYes) {
     return Save().result != SaveOutcome::kFailed;
   }

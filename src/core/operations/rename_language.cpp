@@ -25,9 +25,9 @@ std::optional<NameField> AskName(const Workspace& workspace, Dialogs& dialogs,
                                  std::size_t language) {
   const UiText& ui_text = workspace.ui_text;
   for (;;) {
-    const std::string answer =
-        dialogs.InputBox({InputPurpose::kRenamedLanguageName, ui_text[49], ui_text[48],
-                          workspace.set.language_names.at(language)});
+    const std::string answer = dialogs.InputBox(
+        {InputPurpose::kRenamedLanguageName, ui_text[UiTextId::kRenamePrompt],
+         ui_text[UiTextId::kRenameTitle], workspace.set.language_names.at(language)});
     try {
       const NameField name = NameField::FromAnswer(answer);
       if (name.IsBlank()) {
@@ -37,7 +37,9 @@ std::optional<NameField> AskName(const Workspace& workspace, Dialogs& dialogs,
         return name;
       }
       dialogs.MessageBox({MessageIcon::kExclamation,
-                          ui_text[34] + "\n" + name.Caption() + "\n" + ui_text[35], ui_text[51]});
+                          ui_text[UiTextId::kNameTakenBefore] + "\n" + name.Caption() + "\n" +
+                              ui_text[UiTextId::kNameTakenAfter],
+                          ui_text[UiTextId::kNameInUseTitle]});
     } catch (const Error& error) {
       dialogs.MessageBox({MessageIcon::kCritical, error.what(), "ERROR"});
     }
@@ -60,8 +62,9 @@ void RenameLanguage(Workspace& workspace, Dialogs& dialogs, int language) {
   const auto index = static_cast<std::size_t>(language);
   const UiText& ui_text = workspace.ui_text;
   const auto name = AskName(workspace, dialogs, index);
-  if (!name || dialogs.MessageBox({MessageIcon::kQuestion, ui_text[50], ui_text[48],
-                                   MessageButtons::kYesNo}) != MessageAnswer::kYes) {
+  if (!name || dialogs.MessageBox({MessageIcon::kQuestion, ui_text[UiTextId::kRenameQuestion],
+                                   ui_text[UiTextId::kRenameTitle], MessageButtons::kYesNo}) !=
+                   MessageAnswer::kYes) {
     return;
   }
   MessageSet& set = workspace.set;

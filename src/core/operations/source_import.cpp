@@ -74,7 +74,7 @@ bool SourceImport::ImportSource() {
     if (!NamingFile(source, [&] { return TakeSection(section); }) || !SaveSection()) {
       // The source must never be taken for the binary file that was to be made of it.
       set.CloseFile();
-      workspace_.window.status = workspace_.ui_text[56];
+      workspace_.window.status = workspace_.ui_text[UiTextId::kImportCancelled];
       return false;
     }
   }

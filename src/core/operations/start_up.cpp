@@ -43,7 +43,9 @@ bool StartUp::Form_Load() try {
   LoadLanguageFile(workspace_, std::string(kReferenceLanguageFile));
   if (FontMask(fonts_.Families()) != kAllDisplayFonts) {
     const UiText& ui_text = workspace_.ui_text;
-    dialogs_.MessageBox({MessageIcon::kCritical, ui_text[28] + "\n" + ui_text[41], ui_text[29]});
+    dialogs_.MessageBox({MessageIcon::kCritical,
+                         ui_text[UiTextId::kFontsMissing] + "\n" + ui_text[UiTextId::kInstallFonts],
+                         ui_text[UiTextId::kErrorTitle]});
     return false;
   }
   folders.current = folders.program;

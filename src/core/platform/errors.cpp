@@ -8,8 +8,24 @@
 
 namespace vendlingua {
 
-FileError::FileError(const std::filesystem::path& file, const std::string& reason)
-    : Error(PathText(file) + ": " + reason), reason_(reason) {}
+namespace {
+
+std::string About(const std::filesystem::path& file, const UiSentence& reason,
+                  const UiText& texts) {
+  return PathText(file) + ": " + reason.In(texts);
+}
+
+}  // namespace
+
+FileError::FileError(const std::filesystem::path& file, const UiSentence& reason)
+    : Error(About(file, reason, EnglishTexts()), reason), file_(file) {}
+
+std::string FileError::In(const UiText& texts) const { return About(file_, sentence(), texts); }
+
+std::string MessageOf(const std::exception& exception, const UiText& texts) {
+  const auto* error = dynamic_cast<const Error*>(&exception);
+  return error != nullptr ? error->In(texts) : exception.what();
+}
 
 #ifdef _WIN32
 

@@ -5,18 +5,9 @@
 #include "core/platform/errors.h"
 
 namespace vendlingua {
-namespace {
-
-constexpr std::size_t kFilesWritten = 57;
-constexpr std::size_t kToChoose = 58;
-constexpr std::size_t kChosen = 59;
-constexpr std::size_t kShortLanguages = 74;
-
-}  // namespace
-
 std::string SelectionStatus(const CompilerState& compiler, int lang_count, const UiText& ui_text) {
-  return fmt::format("{} {}, {} {}", ui_text[kToChoose], lang_count, ui_text[kChosen],
-                     compiler.TickedLanguages().size());
+  return fmt::format("{} {}, {} {}", ui_text[UiTextId::kLanguagesToChoose], lang_count,
+                     ui_text[UiTextId::kLanguagesChosen], compiler.TickedLanguages().size());
 }
 
 std::string WrittenStatus(const CompileOutcome& outcome, const UiText& ui_text) {
@@ -30,10 +21,11 @@ std::string WrittenStatus(const CompileOutcome& outcome, const UiText& ui_text) 
   }
   std::string status;
   if (!files.empty()) {
-    status = fmt::format("{} {}", ui_text[kFilesWritten], fmt::join(files, ", "));
+    status = fmt::format("{} {}", ui_text[UiTextId::kFilesWritten], fmt::join(files, ", "));
   }
   if (!languages.empty()) {
-    status += fmt::format("\n{} {}", ui_text[kShortLanguages], fmt::join(languages, ", "));
+    status +=
+        fmt::format("\n{} {}", ui_text[UiTextId::kShortLanguages], fmt::join(languages, ", "));
   }
   return status;
 }

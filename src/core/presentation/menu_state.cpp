@@ -4,26 +4,26 @@ namespace vendlingua {
 namespace {
 
 void InitMenu(const UiText& ui_text, MenuState& menus) {
-  menus.mnuFile.caption = ui_text[1];
-  menus.mnuOpen.caption = ui_text[2];
-  menus.mnuSave.caption = ui_text[3];
-  menus.mnuSaas.caption = ui_text[4];
-  menus.mnuEsci.caption = ui_text[5];
-  menus.mnuOrig.caption = ui_text[6];
-  menus.mnuDest.caption = ui_text[7];
-  menus.mnuDes[0].caption = ui_text[8];
-  menus.mnuNew[0].caption = ui_text[8];
-  menus.mnuMake.caption = ui_text[9];
-  menus.mnuTLCD.caption = ui_text[10];
-  menus.mnuLCD[0].caption = ui_text[11];
-  menus.mnuLCD[1].caption = ui_text[12];
+  menus.mnuFile.caption = ui_text[UiTextId::kFileMenu];
+  menus.mnuOpen.caption = ui_text[UiTextId::kOpen];
+  menus.mnuSave.caption = ui_text[UiTextId::kSave];
+  menus.mnuSaas.caption = ui_text[UiTextId::kSaveAs];
+  menus.mnuEsci.caption = ui_text[UiTextId::kExit];
+  menus.mnuOrig.caption = ui_text[UiTextId::kOriginMenu];
+  menus.mnuDest.caption = ui_text[UiTextId::kDestinationMenu];
+  menus.mnuDes[0].caption = ui_text[UiTextId::kNewLanguageEntry];
+  menus.mnuNew[0].caption = ui_text[UiTextId::kNewLanguageEntry];
+  menus.mnuMake.caption = ui_text[UiTextId::kCompileMenu];
+  menus.mnuTLCD.caption = ui_text[UiTextId::kDisplayTypeMenu];
+  menus.mnuLCD[0].caption = ui_text[UiTextId::kDisplayNormal];
+  menus.mnuLCD[1].caption = ui_text[UiTextId::kDisplayCyrillic];
   menus.mnuLCD[2].caption = "&KTV";
-  menus.mnuLingue.caption = ui_text[13];
+  menus.mnuLingue.caption = ui_text[UiTextId::kInterfaceLanguageMenu];
   menus.mnuInf.caption = "&?";
-  menus.mCopy.caption = ui_text[14];
-  menus.mnuAbor.caption = ui_text[15];
-  menus.mnuCopy.caption = ui_text[16];
-  menus.mnuLCD[3].caption = ui_text[17];
+  menus.mCopy.caption = ui_text[UiTextId::kCopyMenu];
+  menus.mnuAbor.caption = ui_text[UiTextId::kAbort];
+  menus.mnuCopy.caption = ui_text[UiTextId::kCopy];
+  menus.mnuLCD[3].caption = ui_text[UiTextId::kDisplayHebrew];
 }
 
 void EnableByPhase(const MessageSet& set, MenuState& menus) {
@@ -52,7 +52,8 @@ void ShowLanguages(const Workspace& workspace, MenuState& menus) {
   for (std::size_t k = 1; k < kLanguageEntries; ++k) {
     const bool there = set.HoldsLanguage(static_cast<int>(k));
     const std::string name = there ? names[k] : "";
-    const std::string start = set.IsMsx() && there ? workspace.ui_text[14] + " " + name : name;
+    const std::string start =
+        set.IsMsx() && there ? workspace.ui_text[UiTextId::kCopyMenu] + " " + name : name;
     menus.mnuori.at(k) = {.caption = name, .visible = there};
     menus.mnuDes.at(k) = {.caption = name, .visible = there};
     menus.mnuNew.at(k) = {.caption = start, .visible = there};

@@ -10,6 +10,7 @@ namespace {
 // Lays the view out for the dimensions of the set.
 void VisRef(const MessageSet& set, ViewState& view) {
   view.HScroll1.max = set.LastMsg;
+  view.Text1.cells = set.Width();
   // One character more than fits, so that it shows when something was too much.
   view.Text1.max_length = std::size_t{set.LastCol} + 2;
   view.label_width = 186 * set.LastCol + 206;

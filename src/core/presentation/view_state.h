@@ -30,6 +30,7 @@ struct ViewState {
 
   struct {
     DisplayCodes text;
+    std::size_t cells = 0;       ///< of a message
     std::size_t max_length = 0;  ///< characters; 0 for no limit
     bool enabled = false;
   } Text1;

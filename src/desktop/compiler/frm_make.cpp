@@ -189,13 +189,13 @@ void FrmMake::Mirror() {
     Label1_.at(i)->setText(FromUtf8(entry.caption));
   }
   const UiText& ui_text = parts_.workspace.ui_text;
-  Command1_->setText(FromUtf8(ui_text[25]));
+  Command1_->setText(FromUtf8(ui_text[UiTextId::kCompile]));
   Command1_->setEnabled(view.Command1Enabled);
-  Command2_->setText(FromUtf8(ui_text[26]));
+  Command2_->setText(FromUtf8(ui_text[UiTextId::kClose]));
   Command2_->setEnabled(view.Command2Enabled);
   status_->setText(FromUtf8(state.status));
   Announce(*status_, status_->text());
-  status_->setAccessibleName(FromUtf8(ui_text[70]));
+  status_->setAccessibleName(FromUtf8(ui_text[UiTextId::kStatus]));
   if (state.hourglass) {
     setCursor(Qt::WaitCursor);
   } else {

@@ -14,11 +14,6 @@
 namespace vendlingua {
 namespace {
 
-// Entries of the interface texts.
-constexpr std::size_t kYes = 62;
-constexpr std::size_t kNo = 63;
-constexpr std::size_t kCancel = 64;
-
 QMessageBox::Icon IconOf(MessageIcon icon) {
   switch (icon) {
     case MessageIcon::kCritical:
@@ -83,8 +78,8 @@ MessageAnswer QtDialogs::MessageBox(const MessageRequest& request) {
   }
   box.setStandardButtons(QMessageBox::Yes | QMessageBox::No);
   box.setDefaultButton(QMessageBox::Yes);
-  box.button(QMessageBox::Yes)->setText(FromUtf8(Caption(kYes, "&Yes")));
-  box.button(QMessageBox::No)->setText(FromUtf8(Caption(kNo, "&No")));
+  box.button(QMessageBox::Yes)->setText(FromUtf8(ui_text()[UiTextId::kYes]));
+  box.button(QMessageBox::No)->setText(FromUtf8(ui_text()[UiTextId::kNo]));
   return box.exec() == QMessageBox::Yes ? MessageAnswer::kYes : MessageAnswer::kNo;
 }
 
@@ -94,7 +89,7 @@ std::string QtDialogs::InputBox(const InputRequest& request) {
   dialog.setWindowTitle(TitleOf(request.title));
   dialog.setLabelText(FromUtf8(request.prompt));
   dialog.setTextValue(FromUtf8(request.default_answer));
-  dialog.setCancelButtonText(FromUtf8(Caption(kCancel, "Cancel")));
+  dialog.setCancelButtonText(FromUtf8(ui_text()[UiTextId::kCancel]));
   return dialog.exec() == QDialog::Accepted ? dialog.textValue().toStdString() : std::string();
 }
 
@@ -126,11 +121,6 @@ void QtDialogs::BeforeDialog() {
   if (refresh_) {
     refresh_();
   }
-}
-
-std::string QtDialogs::Caption(std::size_t number, const char* without_texts) const {
-  const std::string text = ui_text_ != nullptr ? (*ui_text_)[number] : "";
-  return text.empty() ? without_texts : text;
 }
 
 }  // namespace vendlingua

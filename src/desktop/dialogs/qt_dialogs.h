@@ -7,6 +7,7 @@
 #include <functional>
 
 #include "core/platform/dialogs.h"
+#include "core/texts/english_texts.h"
 #include "core/texts/ui_text.h"
 
 namespace vendlingua {
@@ -46,11 +47,11 @@ class QtDialogs : public Dialogs {
 
  private:
   void BeforeDialog();
-  std::string Caption(std::size_t number, const char* without_texts) const;
+  const UiText& ui_text() const { return *ui_text_; }
 
   QPointer<QWidget> owner_;
   std::function<void()> refresh_;
-  const UiText* ui_text_ = nullptr;
+  const UiText* ui_text_ = &EnglishTexts();
   int opened_ = 0;
   QElapsedTimer since_events_ran_;
 };

@@ -16,11 +16,12 @@ namespace {
 
 struct SharedText {
   const char* of_qt;
-  std::size_t number;
+  UiTextId id;
 };
 
 // Texts of Qt that are among the interface texts.
-constexpr std::array<SharedText, 3> kSharedTexts = {{{"&Yes", 62}, {"&No", 63}, {"Cancel", 64}}};
+constexpr std::array<SharedText, 3> kSharedTexts = {
+    {{"&Yes", UiTextId::kYes}, {"&No", UiTextId::kNo}, {"Cancel", UiTextId::kCancel}}};
 
 class InterfaceTexts : public QTranslator {
  public:
@@ -32,8 +33,8 @@ class InterfaceTexts : public QTranslator {
   QString translate(const char* /*context*/, const char* of_qt, const char* /*disambiguation*/,
                     int /*n*/) const override {
     for (const SharedText& text : kSharedTexts) {
-      if (QLatin1String(of_qt) == QLatin1String(text.of_qt) && !ui_text_[text.number].empty()) {
-        return FromUtf8(ui_text_[text.number]);
+      if (QLatin1String(of_qt) == QLatin1String(text.of_qt) && !ui_text_[text.id].empty()) {
+        return FromUtf8(ui_text_[text.id]);
       }
     }
     return {};

@@ -129,7 +129,7 @@ void DestinationEdit::inputMethodEvent(QInputMethodEvent* event) {
   const DisplayCodes typed = FromWidgetText(event->commitString());
   QLineEdit::inputMethodEvent(event);
   if (!typed.empty()) {
-    emit KeyPressed(typed.back());
+    emit CharacterTyped(typed.back());
   }
 }
 

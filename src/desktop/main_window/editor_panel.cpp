@@ -159,7 +159,7 @@ void EditorPanel::Show(const ViewState& view, const UiText& ui_text) {
     Label5_.at(i)->Show(view.Label5.at(i), ui_text);
   }
   SetTextWidth(view.label_width);
-  text_width_ = static_cast<int>(workspace.set.Width()) * PixelsFromTwips(kCellPitch);
+  text_width_ = static_cast<int>(view.Text1.cells) * PixelsFromTwips(kCellPitch);
   Text1_->Show(view);
   edit_frame_->setEnabled(view.Text1.enabled);
   HScroll1_->Show(view);
@@ -219,20 +219,19 @@ void EditorPanel::SetTextWidth(int label_width) {
 }
 
 void EditorPanel::SetEditorCaptions(const UiText& ui_text) {
-  for (std::size_t i = 0; i < Label8_.size(); ++i) {
-    Label8_.at(i)->setText(FromUtf8(ui_text[19 + i]));
-  }
-  Label9_[0]->setText(FromUtf8(ui_text[21]));
-  Command2_->setText(FromUtf8(ui_text[23]));
-  Command1_->setText(FromUtf8(ui_text[24]));
-  Text1_->setAccessibleName(WithoutMnemonic(ui_text[20]));
-  Label6_->setAccessibleName(FromUtf8(ui_text[66]));
-  HScroll1_->setAccessibleName(FromUtf8(ui_text[67]));
-  map_->setAccessibleName(FromUtf8(ui_text[68]));
-  Command1_->setAccessibleName(FromUtf8(ui_text[68]));
-  Command1_->setToolTip(FromUtf8(ui_text[68]));
-  Label7_->setAccessibleName(FromUtf8(ui_text[69]));
-  status_->setAccessibleName(FromUtf8(ui_text[70]));
+  Label8_[0]->setText(FromUtf8(ui_text[UiTextId::kOriginHeading]));
+  Label8_[1]->setText(FromUtf8(ui_text[UiTextId::kDestinationHeading]));
+  Label9_[0]->setText(FromUtf8(ui_text[UiTextId::kLanguageNameMarker]));
+  Command2_->setText(FromUtf8(ui_text[UiTextId::kNewMessage]));
+  Command1_->setText(FromUtf8(ui_text[UiTextId::kFont]));
+  Text1_->setAccessibleName(WithoutMnemonic(ui_text[UiTextId::kDestinationHeading]));
+  Label6_->setAccessibleName(FromUtf8(ui_text[UiTextId::kMessageNumber]));
+  HScroll1_->setAccessibleName(FromUtf8(ui_text[UiTextId::kMessage]));
+  map_->setAccessibleName(FromUtf8(ui_text[UiTextId::kCharacterMap]));
+  Command1_->setAccessibleName(FromUtf8(ui_text[UiTextId::kCharacterMap]));
+  Command1_->setToolTip(FromUtf8(ui_text[UiTextId::kCharacterMap]));
+  Label7_->setAccessibleName(FromUtf8(ui_text[UiTextId::kCharacterPreview]));
+  status_->setAccessibleName(FromUtf8(ui_text[UiTextId::kStatus]));
 }
 
 void EditorPanel::Step(int messages) {

@@ -96,8 +96,8 @@ void FrmMes::ConnectPanel() {
       panel_, &EditorPanel::CharacterRefused, this,
       [this](const QString& character) {
         Run([&] {
-          engine_.workspace.window.status =
-              engine_.workspace.ui_text[53] + " " + character.toStdString();
+          engine_.workspace.window.status = engine_.workspace.ui_text[UiTextId::kCharacterRefused] +
+                                            " " + character.toStdString();
         });
       },
       Qt::QueuedConnection);

@@ -37,8 +37,9 @@ OriginLabel::OriginLabel(int index, QWidget* parent) : QLabel(parent), index_(in
 void OriginLabel::Show(const OriginCell& cell, const UiText& ui_text) {
   dark_ = cell.dark;
   setText(cell.caption ? QString(ToWidgetCharacter(*cell.caption)) : QString());
-  setAccessibleName(FromUtf8(ui_text[71]) + QStringLiteral(" %1: ").arg(index_ + 1) +
-                    (cell.dark ? FromUtf8(ui_text[72]) : ToPlainText(text())));
+  setAccessibleName(
+      FromUtf8(ui_text[UiTextId::kCell]) + QStringLiteral(" %1: ").arg(index_ + 1) +
+      (cell.dark ? FromUtf8(ui_text[UiTextId::kPlaceholderName]) : ToPlainText(text())));
   setVisible(cell.visible);
   update();
 }

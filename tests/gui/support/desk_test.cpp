@@ -6,7 +6,7 @@
 namespace vendlingua::test {
 
 QString DeskTest::UiText(std::size_t number) const {
-  return QString::fromStdString(desk_->program.workspace().ui_text[number]);
+  return QString::fromStdString(desk_->program.workspace().ui_text.Entry(number));
 }
 
 QString DeskTest::Status() const { return desk_->program.Get<QLabel>("Status").toolTip(); }

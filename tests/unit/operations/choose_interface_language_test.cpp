@@ -80,16 +80,16 @@ TEST_F(ChooseInterfaceLanguageTest, RestoresEveryTextWhereverTheRefusedFileIsCut
     folder_.Write("two.lng", kFile.substr(0, size));
     Choose();
     EXPECT_THAT(dialogs_.messages, SizeIs(size + 1));
-    EXPECT_EQ(workspace_.ui_text[1], "File") << size;
-    EXPECT_EQ(workspace_.ui_text[2], "Open") << size;
-    EXPECT_EQ(workspace_.ui_text[3], ";-- mark") << size;
+    EXPECT_EQ(workspace_.ui_text.Entry(1), "File") << size;
+    EXPECT_EQ(workspace_.ui_text.Entry(2), "Open") << size;
+    EXPECT_EQ(workspace_.ui_text.Entry(3), ";-- mark") << size;
     EXPECT_EQ(workspace_.LanguageName, "one") << size;
   }
 }
 
 TEST_F(ChooseInterfaceLanguageTest, KeepsTheLanguageWhenAFileIsMissing) {
   EXPECT_THROW(Choose(), FileError);
-  EXPECT_EQ(workspace_.ui_text[1], "File");
+  EXPECT_EQ(workspace_.ui_text.Entry(1), "File");
   EXPECT_TRUE(MenusOf(workspace_).smnuLingue[0].checked);
 }
 
