@@ -16,9 +16,6 @@ namespace {
 
 namespace fs = std::filesystem;
 
-// A copy of so many languages is a message file of its own and needs a name.
-constexpr int kLanguagesWithCopyOption = 9;
-
 void TickLanguages(Session& session, std::vector<int> languages) {
   MessageSet& set = session.set();
   std::sort(languages.begin(), languages.end());

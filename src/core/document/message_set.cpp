@@ -155,9 +155,7 @@ std::uint16_t MesLangStride(std::uint32_t mem_length, std::uint32_t lang_count, 
 }
 
 std::uint16_t MsxLangStride(std::uint32_t mem_length) {
-  constexpr std::uint32_t kSlots = 9;
-  constexpr std::uint32_t kRecordBytes = 16;
-  return static_cast<std::uint16_t>(mem_length / kSlots / kRecordBytes);
+  return static_cast<std::uint16_t>(mem_length / kMsxLanguages / kDefaultMessageWidth);
 }
 
 float MesBlockLength(std::uint8_t last_col, std::uint16_t lang_stride) {

@@ -217,6 +217,10 @@ struct MessageSet {
 /// or when the result does not fit 16 bits.
 std::uint16_t MesLangStride(std::uint32_t mem_length, std::uint32_t lang_count, std::size_t width);
 
+/// Language slots of a ".MSX" file, whatever it holds. A language has as many messages as the
+/// built-in table, and as wide ones.
+inline constexpr int kMsxLanguages = 9;
+
 /// Message slots of one language in a ".MSX" file: nine slots of 16-byte records, whatever it
 /// holds.
 std::uint16_t MsxLangStride(std::uint32_t mem_length);

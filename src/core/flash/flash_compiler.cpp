@@ -16,9 +16,6 @@ namespace {
 
 namespace fs = std::filesystem;
 
-// A copy of this many languages is a ".MSX" message file, and the user says where it goes.
-constexpr int kLanguagesOfMsxFile = 9;
-
 // What the two files are that a compilation asks for.
 constexpr const char* kFlashFileTitle = "Save the flash file";
 constexpr const char* kCopyTitle = "Save the copy with identification header";

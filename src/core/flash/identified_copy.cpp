@@ -8,6 +8,7 @@
 #include "core/document/display_code.h"
 #include "core/formats/copy_header.h"
 #include "core/formats/hex.h"
+#include "core/texts/ascii_case.h"
 
 namespace vendlingua {
 namespace {
@@ -55,12 +56,6 @@ void StepVersionBack(DisplayCodes& identification) {
   }
 }
 
-std::string LowerCase(std::string text) {
-  std::transform(text.begin(), text.end(), text.begin(),
-                 [](char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c + 0x20) : c; });
-  return text;
-}
-
 }  // namespace
 
 std::string HeaderFromFirstRecord(std::string_view first_record) {
@@ -91,12 +86,12 @@ std::optional<CopyName> CopyNameFor(const std::filesystem::path& flash_file) {
   // The name of a file, not a text for people: its bytes have to stay.
   const std::u8string bytes = flash_file.u8string();
   const std::string path(bytes.begin(), bytes.end());
-  const std::string lower_path = LowerCase(path);
+  const std::string upper_path = UpperCase(path);
   std::string extension = ".MSX";
-  std::size_t dot = lower_path.find(".mhx");
+  std::size_t dot = upper_path.find(".MHX");
   if (dot == std::string::npos) {
     extension = ".HSX";
-    dot = lower_path.find(".hex");
+    dot = upper_path.find(".HEX");
   }
   if (dot == std::string::npos) {
     return std::nullopt;

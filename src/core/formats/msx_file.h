@@ -16,10 +16,6 @@ namespace vendlingua {
 
 /// Where the data of a record begins ("S2", count, 6-digit address stand before), counted from 1.
 inline constexpr std::size_t kMsxDataColumn = 11;
-/// Languages of a ".MSX" file.
-inline constexpr int kMsxLanguages = 9;
-/// Message lines of one language.
-inline constexpr std::size_t kMsxMessages = 455;
 
 /// The dimensions of every ".MSX" file, laid out like the header of a ".MES" file. The leading
 /// blank stands where that has its `LangCount` and is not used.

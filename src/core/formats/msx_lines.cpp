@@ -48,7 +48,7 @@ MsxLines BuildMsxLines(const MessageSet& set, std::string_view content) {
   TextLines lines(content);
   lines.Skip(MsxLinesBefore(set, set.DestLang));
   MsxLines result{0, ""};
-  for (std::size_t i = 0; i < kMsxMessages; ++i) {
+  for (std::size_t i = 0; i < kDefaultMessageCount; ++i) {
     const auto line = lines.Next();
     if (!line) {
       throw FileError(set.CurrentFileName,

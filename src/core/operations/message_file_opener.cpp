@@ -1,20 +1,16 @@
 #include "core/operations/message_file_opener.h"
 
-#include <algorithm>
-
 #include "core/formats/mes_file.h"
 #include "core/platform/errors.h"
 #include "core/platform/files.h"
+#include "core/texts/ascii_case.h"
 
 namespace vendlingua {
 
 std::string MessageFileType(const std::filesystem::path& path) {
   std::string name = PathText(path.filename());
   const std::size_t dot = name.find('.');
-  std::string type = dot == std::string::npos ? "" : name.substr(dot);
-  std::transform(type.begin(), type.end(), type.begin(),
-                 [](char c) { return c >= 'a' && c <= 'z' ? static_cast<char>(c - 0x20) : c; });
-  return type;
+  return dot == std::string::npos ? "" : UpperCase(name.substr(dot));
 }
 
 bool IsAssemblerSource(const std::filesystem::path& path) {
