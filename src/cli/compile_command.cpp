@@ -121,7 +121,7 @@ void CheckOptions(Session& session, const CompileOptions& options) {
   if (options.languages.empty()) {
     throw WrongUsage("--languages is required for a .MES file");
   }
-  const bool asks_for_copy = session.set().LangCount == kLanguagesWithCopyOption;
+  const bool asks_for_copy = session.set().LangCount == kMsxLanguages;
   if (asks_for_copy && options.copy.empty()) {
     throw WrongUsage("--copy is required: the board has 9 language slots");
   }

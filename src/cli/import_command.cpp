@@ -30,7 +30,7 @@ void RunImport(Session& session, const ImportOptions& options) {
   inputs[InputPurpose::kMemoryLength] = {options.memory_length};
   auto& names = inputs[InputPurpose::kNewLanguageName];
   names.assign(options.names.begin(), options.names.end());
-  session.dialogs.files[FilePurpose::kSaveMessages] = staged.path();
+  session.dialogs.files[FilePurpose::kSaveMessages] = staged.HandOver();
   if (session.engine.opener.Import(options.source) != OpenOutcome::kOpened) {
     throw CommandFailed(options.source + ": was not imported");
   }

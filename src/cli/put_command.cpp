@@ -1,4 +1,5 @@
 #include <iostream>
+#include <utility>
 
 #include "cli/commands.h"
 #include "core/formats/hex.h"
@@ -7,16 +8,12 @@ namespace vendlingua::cli {
 namespace {
 
 DisplayCodes CodesFromHex(const std::string& hex) {
-  DisplayCodes codes;
-  for (std::size_t i = 0; i < hex.size(); i += 2) {
-    const auto pair = std::string_view(hex).substr(i, 2);
-    const auto code = pair.size() == 2 ? ParseHex(pair) : std::nullopt;
-    if (!code) {
-      throw CommandFailed("--hex: \"" + std::string(pair) + "\" is not a hexadecimal pair");
-    }
-    codes.push_back(static_cast<DisplayCode>(*code));
+  DecodedHex decoded = DecodeHexPairs(hex);
+  if (!decoded.rest.empty()) {
+    throw CommandFailed("--hex: \"" + std::string(decoded.rest.substr(0, 2)) +
+                        "\" is not a hexadecimal pair");
   }
-  return codes;
+  return std::move(decoded.bytes);
 }
 
 }  // namespace

@@ -324,8 +324,7 @@ class CutFileTest(BadInputCase):
             if size < 20 or name < size < name + data_end:
                 yield from ("info", "compile")
             if size < last + data_end:
-                yield from ("texts", "export")
-            yield from ("put", "apply")
+                yield from ("texts", "export", "put", "apply")
             if size < head + 44 or inside_a_line(size):
                 yield "verify"
 
@@ -376,19 +375,14 @@ class LineEndTest(BadInputCase):
             # What stands behind the first record of a flash file belongs to its line.
             self.check(reader, content, sound=reader in (APPLY, SECTIONS))
 
-    def test_line_feeds_alone_end_lines_of_files_that_are_only_read(self) -> None:
+    def test_line_feeds_alone_end_lines_of_all_but_msx_files(self) -> None:
         for reader in TEXT_READERS:
             content = reader.content.replace(b"\r\n", b"\n")
-            self.check(reader, content, sound=not patches_lines(reader))
+            self.check(reader, content, sound=reader.file != "A.MSX")
 
-    def test_the_last_line_of_a_file_that_is_only_read_needs_no_end(self) -> None:
+    def test_the_last_line_needs_no_end(self) -> None:
         for reader in TEXT_READERS:
-            content = reader.content.removesuffix(b"\r\n")
-            self.check(reader, content, sound=not patches_lines(reader))
-
-
-def patches_lines(reader: Reader) -> bool:
-    return reader.file == "A.MSX" and reader.arguments[0] in ("put", "apply")
+            self.check(reader, reader.content.removesuffix(b"\r\n"), sound=True)
 
 
 class HexadecimalTest(BadInputCase):

@@ -615,8 +615,8 @@ class CompileMsxTest(CliTest):
         sections = ["P.MHX", "P.mtx", "P.SA0", "P.SA1", "P.SA2", "P.SA3", "P.SA4"]
         self.assertEqual(printed.split(), sections)
 
-    def test_line_ends_become_cr_lf(self) -> None:
-        self.write("A.MSX", msx_file(9).replace(b"\r\n", b"\n").rstrip())
+    def test_a_last_line_without_its_end_gets_one(self) -> None:
+        self.write("A.MSX", msx_file(9).rstrip())
         self.done("compile", "A.MSX", "--output=P.MHX")
         self.assertEqual(self.read("P.MHX"), msx_file(9)[len(msx_header()) :])
 

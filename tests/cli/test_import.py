@@ -81,8 +81,9 @@ class ImportTest(ImportCase):
             self.assert_header(header(1, 4, b"00", 1, 1, 0xFF8000, 0x2000))
 
     def test_hexadecimal_numbers_from_8000_on_are_positive(self) -> None:
-        self.import_source(SOURCE, "--memory-start=&HFFFFFFFF", "--memory-length=&HFFF0")
-        self.assert_header(header(1, 4, b"00", 1, 1, 0xFFFFFFFF, 0xFFF0))
+        numbers = ("--memory-start=&HFFFFFFFF", "--memory-length=&HFFF0")
+        self.import_source(SOURCE, "--languages=3", *numbers)
+        self.assert_header(header(3, 4, b"00", 1, 1, 0xFFFFFFFF, 0xFFF0))
 
     def test_the_number_of_languages_may_be_hexadecimal(self) -> None:
         self.import_source(SOURCE, "--languages=&H1F", "--memory-length=0x2000")
@@ -234,7 +235,7 @@ class WidthTest(ImportCase):
     def test_513_texts_are_the_most(self) -> None:
         self.import_source(source_of(513, 4))
         self.assertEqual(len(self.texts()), 513)
-        self.assertIn("source.asm: line 514: ", self.refused_source(source_of(514, 4)).err)
+        self.assertIn("source.asm: ", self.refused_source(source_of(514, 4)).err)
 
     def test_a_source_without_texts_is_refused(self) -> None:
         self.assertIn("source.asm: ", self.refused_source(b" ORG $6000\r\n no text\r\n").err)
@@ -279,6 +280,12 @@ class MemoryTest(ImportCase):
             err = self.refused_source(SOURCE, f"--memory-length={length}").err
             self.assertIn(f"gives {slots} messages", err)
 
+    def test_slots_whose_block_length_wraps_are_refused(self) -> None:
+        # 65520 / 16 = 4095; 16 x (4095 + 1) + 20 = 65556, which is 20 in 16 bits.
+        err = self.refused_source(source_of(3, 16), "--memory-length=&HFFF0").err
+        self.assertIn("source.asm: 4096 message slots of 16 cells", err)
+        self.assertIn(" 20 bytes", err)
+
     def test_slots_whose_block_length_wraps_below_0_are_refused(self) -> None:
         # 4 x (8191 + 1) + 20 = 32788, which is -32748 in 16 bits.
         self.assertIn("-32748", self.refused_source(SOURCE, "--memory-length=32764").err)
@@ -315,6 +322,12 @@ class SectionTest(ImportCase):
             + bytes(4)
             + block(b"DEUTSCH", b"QRSTUVWX"),
         )
+
+    def test_a_directive_that_is_the_last_line_begins_no_section(self) -> None:
+        for end in (b" ORG $8000\r\n", b" .SECT"):
+            self.import_source(self.FIRST + self.SECOND + end, *self.TWO_NAMES)
+            self.assertEqual(self.texts(2), ["IJKL", "MNOP"])
+            self.refused("texts", "OUT.MES", "--language=3")
 
     def test_the_line_that_ends_a_section_holds_no_text(self) -> None:
         source = self.FIRST + b" ORG 'ZZZZ' MNLING .SDATA\r\n DC.B 'IJKL'\r\n DC.B 'MNOP'\r\n"

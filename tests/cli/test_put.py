@@ -219,7 +219,7 @@ class PutIntoMsxFileTest(CliTest):
         self.assertEqual(self.read("A.MSX"), msx_file(2))
 
     def test_what_follows_the_language_stays(self) -> None:
-        content = msx_file(1) + b"S9030000FC\nany thing"
+        content = msx_file(1) + b"S9030000FC\r\nany thing"
         self.write("A.MSX", content)
         self.done("put", "A.MSX", "--language=1", "--message=454", "--text=L1 M454")
         self.assertEqual(self.read("A.MSX"), content)
@@ -245,17 +245,21 @@ class PutIntoMsxFileTest(CliTest):
         self.write("A.MSX", msx_file(2)[: msx_at(2, 300)])
         self.refused("put", "A.MSX", "--language=2", "--message=0", "--text=x")
 
-    def test_lines_that_do_not_end_in_cr_lf_are_refused(self) -> None:
+    def test_lines_that_end_in_lf_alone_are_refused(self) -> None:
         whole = msx_file(2)
         one_line_feed = whole[: msx_at(1, 9) - 2] + b"\n" + whole[msx_at(1, 9) :]
         for content in (whole.replace(b"\r\n", b"\n"), one_line_feed):
             self.write("A.MSX", content)
             err = self.refused("put", "A.MSX", "--language=1", "--message=0", "--text=x").err
-            self.assertRegex(err, r"A\.MSX: line \d+ does not end in CR LF")
+            self.assertRegex(err, r"A\.MSX: line \d+: ends in LF alone")
 
-    def test_a_last_line_without_its_end_is_refused(self) -> None:
+    def test_a_last_line_without_its_end_gets_one(self) -> None:
+        self.write("A.MSX", msx_file(1))
+        self.done("put", "A.MSX", "--language=1", "--message=0", "--text=x")
+        with_end = self.read("A.MSX")
         self.write("A.MSX", msx_file(1)[:-2])
-        self.refused("put", "A.MSX", "--language=1", "--message=0", "--text=x")
+        self.done("put", "A.MSX", "--language=1", "--message=0", "--text=x")
+        self.assertEqual(self.read("A.MSX"), with_end)
 
     def test_a_line_whose_head_is_not_hexadecimal_is_refused(self) -> None:
         content = bytearray(msx_file(1))

@@ -90,6 +90,19 @@ class VerifySRecordsTest(VerifyCase):
         self.assert_sound(data.replace(b"\r\n", b"\n"))
         self.assert_sound(data.rstrip())
 
+    def test_a_msx_file_with_line_feeds_alone_is_found(self) -> None:
+        content = msx_file(1)
+        self.assertEqual(
+            self.findings(content.replace(b"\r\n", b"\n")),
+            ["line 1: ends in LF alone, a .MSX file needs CR LF"],
+        )
+        self.assert_sound(content.rstrip())
+
+    def test_a_file_of_nothing_but_wrong_lines_is_given_up(self) -> None:
+        found = self.findings(b"x\n" * 1_000_000)
+        self.assertEqual(len(found), 10_001)
+        self.assertIn("too much is wrong", found[-1])
+
     def test_an_identified_copy_is_sound(self) -> None:
         records = s_records("2", 0xFF0000, bytes(40))
         self.assert_sound(b"S013000044543032363741412020202020202020E9\r\n" + records)

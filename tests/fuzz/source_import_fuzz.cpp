@@ -24,8 +24,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t siz
       return;
     }
     const MessageSet& set = engine->workspace.set;
-    fuzz::Require(set.Width() <= kMaxWidth, "the texts can be edited");
-    fuzz::Require(set.MessageCount() <= kMaxMessages, "the messages can be edited");
+    fuzz::Require(set.Width() <= 256, "a message is as wide as a byte can say");
+    fuzz::Require(set.OriginText.size() >= set.MessageCount(), "every message has a text");
     engine->languages.ChooseOrigin(0);
     engine->languages.StartNewLanguage(0);
     engine->writer.Save();

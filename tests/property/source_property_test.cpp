@@ -91,8 +91,9 @@ std::string Joined(const std::vector<std::string>& parts) {
 // Lines as sources have them, and some that have gone wrong.
 rc::Gen<std::string> RandomSourceLines() {
   using Lines = std::vector<std::string>;
-  const auto words = rc::gen::elementOf(
-      Lines{"'", "\"", "''", "\"\"", "'AB'", " DC.B ", "ORG", ".SECT", "MNLING", ".SDATA", "\r"});
+  const auto words =
+      rc::gen::elementOf(Lines{"'", "\"", "''", "\"\"", "'AB'", " DC.B ", "ORG", ".SECT", "MNLING",
+                               ".SDATA", "\r", "'" + std::string(41, 'x') + "'"});
   return rc::gen::weightedOneOf<std::string>(
       {{6, rc::gen::elementOf(Lines{" DC.B 'A'", " DC.B \"AB\"", " DC.B '\"", " DC.B 'A''B'"})},
        {2,
@@ -139,6 +140,7 @@ std::vector<SourceSection> SectionsByTheRules(std::string source) {
   std::vector<SourceSection> sections(1);
   std::size_t directives = 0;
   std::size_t widest = 0;
+  std::size_t number = 0;
   const auto end_section = [&] {
     SourceSection& section = sections.back();
     if (section.texts.empty() && !section.width_error) {
@@ -154,12 +156,16 @@ std::vector<SourceSection> SectionsByTheRules(std::string source) {
     const std::size_t end = std::min(source.find('\n'), source.size() - 1) + 1;
     std::string line = source.substr(0, end);
     source.erase(0, end);
+    ++number;
     line.resize(line.size() - (line.ends_with("\r\n") ? 2 : line.ends_with('\n') ? 1 : 0));
     const auto holds = [&line](const char* word) { return line.find(word) != std::string::npos; };
     if (holds("\r")) {
       throw CannotBeRead("lone carriage return");
     }
     if ((holds("ORG") || holds(".SECT")) && ++directives > 1) {
+      if (source.empty()) {
+        break;
+      }
       end_section();
       sections.emplace_back();
       continue;
@@ -179,10 +185,13 @@ std::vector<SourceSection> SectionsByTheRules(std::string source) {
       return sections;
     }
     widest = text->size();
-    if (widest > DisplayText::kCells || section.texts.size() == kLeastTexts) {
-      throw CannotBeRead("too large");
+    if (widest > 255) {
+      throw CannotBeRead("too wide");
     }
-    section.texts.push_back(CodesFromBytes(*text));
+    section.texts.push_back(CodesFromBytes(text->substr(0, 40)));
+    if (widest > 40) {
+      section.cut_lines.push_back(number);
+    }
   }
   end_section();
   sections.back().ends_file = true;
@@ -202,6 +211,7 @@ RC_GTEST_PROP(ParseSourceProperty, AnySourceIsSplitByTheRulesOrRefused, ()) {
   RC_ASSERT(sections.size() == expected.size());
   for (std::size_t s = 0; s < sections.size(); ++s) {
     RC_ASSERT(sections[s].texts == expected[s].texts);
+    RC_ASSERT(sections[s].cut_lines == expected[s].cut_lines);
     RC_ASSERT(sections[s].name_labels == expected[s].name_labels);
     RC_ASSERT(sections[s].has_sdata == expected[s].has_sdata);
     RC_ASSERT(sections[s].width == expected[s].width);

@@ -1,5 +1,7 @@
 #include "core/document/display_code.h"
 
+#include <utf8.h>
+
 #include <algorithm>
 #include <array>
 
@@ -14,53 +16,6 @@ constexpr std::array<char32_t, 32> kWindowsCharacters = {
     0x20AC, 0x0081, 0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021, 0x02C6, 0x2030, 0x0160,
     0x2039, 0x0152, 0x008D, 0x017D, 0x008F, 0x0090, 0x2018, 0x2019, 0x201C, 0x201D, 0x2022,
     0x2013, 0x2014, 0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0x009D, 0x017E, 0x0178};
-
-void AppendUtf8(char32_t character, std::string& out) {
-  const auto append = [&out](char32_t bits) { out.push_back(static_cast<char>(bits)); };
-  if (character < 0x80) {
-    append(character);
-  } else if (character < 0x800) {
-    append(0xC0 | (character >> 6));
-    append(0x80 | (character & 0x3F));
-  } else {
-    append(0xE0 | (character >> 12));
-    append(0x80 | ((character >> 6) & 0x3F));
-    append(0x80 | (character & 0x3F));
-  }
-}
-
-struct Utf8Character {
-  std::optional<char32_t> value;  // nothing when the bytes are malformed
-  std::size_t length;             // bytes, at least 1
-};
-
-// The first character of `text`, which is not empty.
-Utf8Character FirstCharacter(std::string_view text) {
-  const auto byte = [&text](std::size_t i) {
-    return static_cast<char32_t>(static_cast<unsigned char>(text[i]));
-  };
-  const char32_t lead = byte(0);
-  if (lead < 0x80) {
-    return {lead, 1};
-  }
-  const std::size_t length = lead >= 0xF0 ? 4 : lead >= 0xE0 ? 3 : 2;
-  if (lead < 0xC2 || lead > 0xF4 || text.size() < length) {
-    return {std::nullopt, 1};
-  }
-  constexpr std::array<char32_t, 5> kLeadBits = {0, 0, 0x1F, 0x0F, 0x07};
-  char32_t value = lead & kLeadBits[length];
-  for (std::size_t i = 1; i < length; ++i) {
-    if ((byte(i) & 0xC0) != 0x80) {
-      return {std::nullopt, 1};
-    }
-    value = (value << 6) | (byte(i) & 0x3F);
-  }
-  constexpr std::array<char32_t, 5> kSmallest = {0, 0, 0x80, 0x800, 0x10000};
-  if (value < kSmallest[length]) {
-    return {std::nullopt, 1};
-  }
-  return {value, length};
-}
 
 }  // namespace
 
@@ -85,23 +40,28 @@ std::optional<DisplayCode> ToDisplayCode(char32_t character) {
 std::string ToUtf8(std::span<const DisplayCode> codes) {
   std::string text;
   for (const DisplayCode code : codes) {
-    AppendUtf8(ToUnicode(code), text);
+    utf8::append(ToUnicode(code), text);
   }
   return text;
 }
 
-CodesFromUtf8 ToDisplayCodes(std::string_view utf8) {
+CodesFromUtf8 ToDisplayCodes(std::string_view text) {
   CodesFromUtf8 result;
-  while (!utf8.empty()) {
-    const Utf8Character character = FirstCharacter(utf8);
-    const std::optional<DisplayCode> code =
-        character.value ? ToDisplayCode(*character.value) : std::nullopt;
+  const char* next = text.data();
+  const char* const end = next + text.size();
+  while (next != end) {
+    const char* const start = next;
+    std::optional<DisplayCode> code;
+    try {
+      code = ToDisplayCode(utf8::next(next, end));
+    } catch (const utf8::exception&) {
+      next = start + 1;
+    }
     if (!code) {
-      result.unknown = std::string(utf8.substr(0, character.length));
+      result.unknown = std::string(start, next);
       return result;
     }
     result.codes.push_back(*code);
-    utf8.remove_prefix(character.length);
   }
   return result;
 }

@@ -126,7 +126,7 @@ void FlashCompiler::CheckOutputs(const CompileOutputs& outputs) const {
 std::optional<fs::path> FlashCompiler::NamedCopy(const fs::path& flash_file) const {
   const MessageSet& set = workspace_.set;
   const auto name = CopyNameFor(flash_file);
-  if (!set.IsMes() || set.LangCount == kLanguagesOfMsxFile || !name ||
+  if (!set.IsMes() || set.LangCount == kMsxLanguages || !name ||
       !HeaderFromBaseName(name->base_name)) {
     return std::nullopt;
   }
@@ -142,8 +142,8 @@ bool FlashCompiler::CompileMes(CompileOutputs& outputs, CompileOutcome& outcome)
   const std::string records =
       FormatSRecords(flash_image_.Bytes(), set.MemStart, SRecordTypeFor(set.MemStart));
   Write(outputs.flash_file, {records}, outcome);
-  return set.LangCount == kLanguagesOfMsxFile ? WriteNineLanguageCopy(outputs, records, outcome)
-                                              : WriteNamedCopy(outputs, records, outcome);
+  return set.LangCount == kMsxLanguages ? WriteNineLanguageCopy(outputs, records, outcome)
+                                        : WriteNamedCopy(outputs, records, outcome);
 }
 
 // The image of this run; that of the last one stays if an error comes up.

@@ -5,7 +5,7 @@
 #include <algorithm>
 #include <span>
 
-#include "core/formats/hex.h"
+#include "core/formats/srecord.h"
 #include "core/formats/text_lines.h"
 #include "core/platform/errors.h"
 #include "core/platform/files.h"
@@ -15,9 +15,6 @@ namespace {
 
 namespace fs = std::filesystem;
 
-constexpr std::size_t kCountColumn = 3;
-constexpr std::size_t kLowAddressColumn = 7;
-constexpr std::size_t kDataColumn = 11;
 // The record count also counts three address bytes and the checksum.
 constexpr std::int16_t kBytesBesideData = 4;
 
@@ -73,19 +70,18 @@ bool SectionFiles::ReadBack(const fs::path& flash_file, Dialogs& dialogs, const 
 }
 
 void SectionFiles::StoreRecord(std::string_view line) {
-  const std::uint32_t address = HexOrZero(Columns(line, kLowAddressColumn, 4));
+  const LenientRecord record(line);
+  const std::uint32_t address = record.LowAddress();
   if (address >= kBounds.back()) {
     return;
   }
-  const auto record_count = static_cast<std::int16_t>(HexPairOrZero(line, kCountColumn));
-  const auto count = static_cast<std::int16_t>(record_count - kBytesBesideData);
+  const auto count = static_cast<std::int16_t>(record.Count() - kBytesBesideData);
   NoteSectionUse(count, static_cast<std::int32_t>(address));
   const auto behind = std::span(memory_picture_).subspan(address);
   const auto data_bytes = static_cast<std::size_t>(std::max<std::int16_t>(count, 0));
-  std::size_t column = kDataColumn;
-  for (char& stored : behind.first(std::min(behind.size(), data_bytes))) {
-    stored = static_cast<char>(HexPairOrZero(line, column));
-    column += 2;
+  const auto stored_bytes = std::min(behind.size(), data_bytes);
+  for (std::size_t i = 0; i < stored_bytes; ++i) {
+    behind[i] = static_cast<char>(record.Data(i));
   }
 }
 

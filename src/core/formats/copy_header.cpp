@@ -7,6 +7,7 @@ namespace vendlingua {
 namespace {
 
 constexpr std::string_view kHeaderStart = "S01300004454";  // count 0x13, address 0, "DT"
+static_assert(kHeaderStart.size() + 1 == kIdentificationColumn);
 constexpr std::string_view kEightBlanks = "2020202020202020";
 
 }  // namespace
@@ -23,7 +24,7 @@ std::uint8_t CopyHeaderChecksum(std::string_view identification) {
 
 bool IsCopyHeader(std::string_view line) {
   const std::string_view identification =
-      Columns(line, kHeaderStart.size() + 1, kIdentificationDigits);
+      Columns(line, kIdentificationColumn, kIdentificationDigits);
   const std::uint8_t checksum = CopyHeaderChecksum(identification);
   return identification.size() == kIdentificationDigits &&
          (line == CopyHeader(identification, HexField(checksum, 2)) ||

@@ -8,8 +8,11 @@
 
 namespace vendlingua {
 
-/// Hexadecimal digits of the six identification characters of an identified copy.
+/// Where the hexadecimal digits of the six identification characters of an identified copy begin,
+/// counted from 1, and how many there are. The first eight digits are the firmware model.
+inline constexpr std::size_t kIdentificationColumn = 13;
 inline constexpr std::size_t kIdentificationDigits = 12;
+inline constexpr std::size_t kModelHexDigits = 8;
 
 /// The line that ends a nine-language copy. Its data field holds 31 digits where its count calls
 /// for 32; loaders in the field know the line as it is.

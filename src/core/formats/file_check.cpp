@@ -1,11 +1,13 @@
 #include "core/formats/file_check.h"
 
+#include <fmt/format.h>
+
 #include <algorithm>
 #include <cstdint>
 #include <string_view>
 
-#include "core/document/name_field.h"
 #include "core/formats/mes_file.h"
+#include "core/formats/mes_layout.h"
 #include "core/formats/srecord_check.h"
 #include "core/platform/errors.h"
 #include "core/platform/files.h"
@@ -17,24 +19,38 @@ namespace {
 constexpr std::uint64_t kSRecordFileLimit = 1U << 30U;
 
 void CheckDimensions(const MessageSet& set, Findings& findings) {
-  const auto report = [&findings](const std::string& what) { findings.push_back(what); };
   if (set.LastMsg > set.LangStride) {
-    report("LastMsg is " + std::to_string(set.LastMsg) + ", but a language block has only " +
-           std::to_string(set.LangStride + 1) + " message slots");
+    findings.push_back(fmt::format("LastMsg is {}, but a language block has only {} message slots",
+                                   set.LastMsg, set.LangStride + 1));
   }
   if (set.LangCount * set.MessageCount() * set.Width() > set.MemLength) {
-    report(std::to_string(set.LangCount) + " languages of " + std::to_string(set.MessageCount()) +
-           " messages do not fit the message memory of " + std::to_string(set.MemLength) +
-           " bytes");
+    findings.push_back(
+        fmt::format("{} languages of {} messages do not fit the message memory of {} bytes",
+                    set.LangCount, set.MessageCount(), set.MemLength));
   }
   if (set.HeaderCount > set.LastMsg) {
-    report("HeaderCount is " + std::to_string(set.HeaderCount) +
-           ", but the last message is number " + std::to_string(set.LastMsg));
+    findings.push_back(fmt::format("HeaderCount is {}, but the last message is number {}",
+                                   set.HeaderCount, set.LastMsg));
   }
-  if (set.BlockLength < static_cast<float>(NameField::kBytes + set.Width())) {
-    report("the block length wraps to " +
-           std::to_string(static_cast<std::int64_t>(set.BlockLength)) +
-           " bytes: language blocks overlap");
+  if (MesBlocksOverlap(set)) {
+    findings.push_back(fmt::format(
+        "the block length wraps to {:.0f} bytes: language blocks overlap", set.BlockLength));
+  }
+}
+
+void CheckNames(const std::vector<std::string>& names, Findings& findings) {
+  if (names.front() != kReferenceName) {
+    findings.push_back(fmt::format("the reference block is named \"{}\" instead of \"{}\"",
+                                   names.front(), kReferenceName));
+  }
+  for (auto name = names.begin() + 1; name != names.end(); ++name) {
+    const auto language = name - names.begin();
+    if (name->empty()) {
+      findings.push_back(fmt::format("language {} has no name", language));
+    } else if (std::find(names.begin() + 1, name, *name) != name) {
+      findings.push_back(
+          fmt::format("language {} has the name \"{}\" of a language before it", language, *name));
+    }
   }
 }
 
@@ -48,28 +64,16 @@ void CheckBlocks(const MessageSet& set, std::string_view content, Findings& find
   const auto end_of_last =
       static_cast<std::size_t>(MesMessageOffset(set, last, set.MessageCount()));
   if (content.size() < end_of_last) {
-    findings.push_back("the file has " + std::to_string(content.size()) +
-                       " bytes, but the messages of language " + std::to_string(last) +
-                       " end at byte " + std::to_string(end_of_last));
+    findings.push_back(
+        fmt::format("the file has {} bytes, but the messages of language {} end at byte {}",
+                    content.size(), last, end_of_last));
   }
   if (content.size() > static_cast<std::size_t>(MesBlockOffset(set, last + 1))) {
     findings.emplace_back(names.size() == kLanguageEntries
                               ? "the file has more than 100 languages"
                               : "bytes that are no language block stand behind the last one");
   }
-  if (names.front() != "Default") {
-    findings.push_back("the reference block is named \"" + names.front() +
-                       "\" instead of \"Default\"");
-  }
-  for (std::size_t k = 1; k < names.size(); ++k) {
-    if (names[k].empty()) {
-      findings.push_back("language " + std::to_string(k) + " has no name");
-    } else if (std::find(names.begin() + 1, names.begin() + static_cast<std::ptrdiff_t>(k),
-                         names[k]) != names.begin() + static_cast<std::ptrdiff_t>(k)) {
-      findings.push_back("language " + std::to_string(k) + " has the name \"" + names[k] +
-                         "\" of a language before it");
-    }
-  }
+  CheckNames(names, findings);
 }
 
 Findings CheckMes(std::string_view content) {

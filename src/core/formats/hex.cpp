@@ -1,17 +1,18 @@
 #include "core/formats/hex.h"
 
+#include <fmt/format.h>
+
 #include <bit>
 
 namespace vendlingua {
 namespace {
 
 constexpr std::string_view kDigits = "0123456789ABCDEF";
-constexpr std::size_t kMostDigits = 16;
 
-constexpr std::array<std::uint8_t, 256> MakeDigitValues() {
-  std::array<std::uint8_t, 256> values{};
+constexpr std::array<std::uint16_t, 256> MakeDigitValues() {
+  std::array<std::uint16_t, 256> values{};
   values.fill(kNoHexDigit);
-  for (std::uint8_t value = 0; value < 16; ++value) {
+  for (std::uint16_t value = 0; value < 16; ++value) {
     const auto digit = static_cast<unsigned char>(kDigits[value]);
     values[digit] = value;
     if (value >= 10) {
@@ -32,7 +33,7 @@ constexpr std::array<HexPair, 256> MakePairs() {
 }  // namespace
 
 constexpr std::array<HexPair, 256> kHexPairs = MakePairs();
-constexpr std::array<std::uint8_t, 256> kHexDigitValues = MakeDigitValues();
+constexpr std::array<std::uint16_t, 256> kHexDigitValues = MakeDigitValues();
 
 std::optional<std::uint32_t> ParseHex(std::string_view digits) {
   if (digits.empty() || digits.size() > 8) {
@@ -40,7 +41,7 @@ std::optional<std::uint32_t> ParseHex(std::string_view digits) {
   }
   std::uint32_t value = 0;
   for (const char digit : digits) {
-    const std::uint8_t digit_value = kHexDigitValues[static_cast<unsigned char>(digit)];
+    const std::uint16_t digit_value = kHexDigitValues[static_cast<unsigned char>(digit)];
     if (digit_value == kNoHexDigit) {
       return std::nullopt;
     }
@@ -52,19 +53,12 @@ std::optional<std::uint32_t> ParseHex(std::string_view digits) {
 std::uint32_t HexOrZero(std::string_view digits) { return ParseHex(digits).value_or(0); }
 
 std::string HexField(std::uint64_t value, std::size_t width) {
-  std::string field(width, '0');
-  for (std::size_t i = width; i > 0; --i) {
-    field[i - 1] = kDigits[value & 0xFU];
-    value >>= 4U;
-  }
-  return field;
+  const std::string digits = Hex(value, width);
+  return digits.substr(digits.size() - width);
 }
 
 std::string Hex(std::uint64_t value, std::size_t least_digits) {
-  std::string digits(std::max(least_digits, kMostDigits), '0');
-  digits.resize(
-      static_cast<std::size_t>(PutHex(digits.data(), value, least_digits) - digits.data()));
-  return digits;
+  return fmt::format("{:0{}X}", value, least_digits);
 }
 
 char* PutHex(char* at, std::uint64_t value, std::size_t least_digits) {
@@ -84,6 +78,20 @@ char* PutHex(char* at, std::uint64_t value, std::size_t least_digits) {
 
 void AppendHexByte(std::string& out, std::uint8_t byte) {
   out.append(kHexPairs[byte].data(), kHexPairs[byte].size());
+}
+
+DecodedHex DecodeHexPairs(std::string_view digits) {
+  DecodedHex decoded{{}, digits};
+  decoded.bytes.reserve(digits.size() / 2);
+  while (decoded.rest.size() >= 2) {
+    const std::uint32_t value = HexPairValue(decoded.rest[0], decoded.rest[1]);
+    if (value > kLastByte) {
+      break;
+    }
+    decoded.bytes.push_back(static_cast<std::uint8_t>(value));
+    decoded.rest.remove_prefix(2);
+  }
+  return decoded;
 }
 
 std::string_view Columns(std::string_view text, std::size_t column, std::size_t length) {

@@ -8,6 +8,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace vendlingua {
 
@@ -36,8 +37,16 @@ void AppendHexByte(std::string& out, std::uint8_t byte);
 
 /// The value of every character as a hexadecimal digit of either case, `kNoHexDigit` where it is
 /// none.
-inline constexpr std::uint8_t kNoHexDigit = 0xF0;
-extern const std::array<std::uint8_t, 256> kHexDigitValues;
+inline constexpr std::uint16_t kNoHexDigit = 0xFF00;
+extern const std::array<std::uint16_t, 256> kHexDigitValues;
+
+/// What two characters spell as a pair of hexadecimal digits: at most `kLastByte`, or a value above
+/// it when one of them is none.
+inline constexpr std::uint32_t kLastByte = 0xFF;
+inline std::uint32_t HexPairValue(char high, char low) {
+  return std::uint32_t{kHexDigitValues[static_cast<unsigned char>(high)]} << 4U |
+         kHexDigitValues[static_cast<unsigned char>(low)];
+}
 
 /// The byte that the two characters from the 1-based column `column` on spell; 0 where they are not
 /// hexadecimal, or the first one alone where the text ends behind it.
@@ -45,11 +54,16 @@ inline std::uint8_t HexPairOrZero(std::string_view text, std::size_t column) {
   if (column >= text.size()) {
     return static_cast<std::uint8_t>(HexOrZero(text.substr(std::min(column - 1, text.size()))));
   }
-  const std::uint8_t high = kHexDigitValues[static_cast<unsigned char>(text[column - 1])];
-  const std::uint8_t low = kHexDigitValues[static_cast<unsigned char>(text[column])];
-  const bool is_pair = high != kNoHexDigit && low != kNoHexDigit;
-  return is_pair ? static_cast<std::uint8_t>((high << 4U) | low) : std::uint8_t{0};
+  const std::uint32_t value = HexPairValue(text[column - 1], text[column]);
+  return value <= kLastByte ? static_cast<std::uint8_t>(value) : std::uint8_t{0};
 }
+
+/// Pairs of hexadecimal digits, decoded.
+struct DecodedHex {
+  std::vector<std::uint8_t> bytes;
+  std::string_view rest;  ///< from the first pair on that is none; empty when all of them are
+};
+DecodedHex DecodeHexPairs(std::string_view digits);
 
 /// `text` from the 1-based column `column` on, at most `length` characters; shorter, down to empty,
 /// where the text ends before.

@@ -1,5 +1,7 @@
 #include "core/formats/mes_file.h"
 
+#include <fmt/format.h>
+
 #include "core/document/name_field.h"
 #include "core/formats/hex.h"
 #include "core/platform/errors.h"
@@ -8,42 +10,48 @@
 namespace vendlingua {
 namespace {
 
-std::uint32_t HeaderField(std::string_view content, const char* name, std::size_t offset,
-                          std::size_t digits) {
-  const std::string_view field = content.substr(offset, digits);
-  const auto value = ParseHex(field);
+// Users know the positions of the header from 1 on.
+std::uint32_t HeaderField(std::string_view content, const MesField& field) {
+  const std::string_view digits = content.substr(field.offset, field.digits);
+  const auto value = ParseHex(digits);
   if (!value) {
-    throw Error("the header field " + std::string(name) + " at position " +
-                std::to_string(offset + 1) + " is not hexadecimal: \"" +
-                ToUtf8(CodesFromBytes(field)) + "\"");
+    throw Error(fmt::format("the header field {} at position {} is not hexadecimal: \"{}\"",
+                            field.name, field.offset + 1, ToUtf8(CodesFromBytes(digits))));
   }
   return *value;
+}
+
+void PutField(std::string& header, const MesField& field, std::uint64_t value) {
+  header.replace(field.offset, field.digits, HexField(value, field.digits));
 }
 
 }  // namespace
 
 MesHeader ParseMesHeader(std::string_view content) {
   if (content.size() < kMesHeaderBytes) {
-    throw Error("the header has " + std::to_string(content.size()) + " bytes instead of " +
-                std::to_string(kMesHeaderBytes));
+    throw Error(
+        fmt::format("the header has {} bytes instead of {}", content.size(), kMesHeaderBytes));
   }
   MesHeader header{};
-  header.lang_count = static_cast<std::uint8_t>(content[0]);
-  header.last_col = static_cast<std::uint8_t>(content[1]);
-  header.flags = static_cast<std::uint8_t>(HeaderField(content, "flags", 2, 2));
-  header.header_count = static_cast<std::uint16_t>(HeaderField(content, "HeaderCount", 4, 4));
-  header.last_msg = static_cast<std::uint16_t>(HeaderField(content, "LastMsg", 8, 4));
-  header.mem_start = HeaderField(content, "MemStart", 12, 8);
-  header.mem_length = HeaderField(content, "MemLength", 20, 4);
+  header.lang_count = static_cast<std::uint8_t>(content[kMesLangCountOffset]);
+  header.last_col = static_cast<std::uint8_t>(content[kMesLastColOffset]);
+  header.flags = static_cast<std::uint8_t>(HeaderField(content, kMesFlags));
+  header.header_count = static_cast<std::uint16_t>(HeaderField(content, kMesHeaderCount));
+  header.last_msg = static_cast<std::uint16_t>(HeaderField(content, kMesLastMsg));
+  header.mem_start = HeaderField(content, kMesMemStart);
+  header.mem_length = HeaderField(content, kMesMemLength);
   return header;
 }
 
 std::string FormatMesHeader(const MessageSet& set, std::uint8_t flags) {
-  std::string header;
-  header.push_back(static_cast<char>(set.LangCount));
-  header.push_back(static_cast<char>(set.LastCol));
-  header += HexField(flags, 2) + HexField(set.HeaderCount, 4) + HexField(set.LastMsg, 4) +
-            HexField(set.MemStart, 8) + HexField(set.MemLength, 4);
+  std::string header(kMesHeaderBytes, '0');
+  header[kMesLangCountOffset] = static_cast<char>(set.LangCount);
+  header[kMesLastColOffset] = static_cast<char>(set.LastCol);
+  PutField(header, kMesFlags, flags);
+  PutField(header, kMesHeaderCount, set.HeaderCount);
+  PutField(header, kMesLastMsg, set.LastMsg);
+  PutField(header, kMesMemStart, set.MemStart);
+  PutField(header, kMesMemLength, set.MemLength);
   return header;
 }
 
@@ -69,18 +77,6 @@ void ApplyMesHeader(const MesHeader& header, MessageSet& set) {
   }
 }
 
-std::int64_t MesBlockOffset(const MessageSet& set, int language) {
-  const std::int64_t offset = static_cast<std::int64_t>(kMesHeaderBytes) +
-                              language * static_cast<std::int64_t>(set.BlockLength);
-  if (offset < 0) {
-    throw Error("the block length wraps to " +
-                std::to_string(static_cast<std::int64_t>(set.BlockLength)) +
-                " bytes, which puts language " + std::to_string(language) +
-                " before the start of the file");
-  }
-  return offset;
-}
-
 std::vector<std::string> ReadMesNames(const MessageSet& set, std::string_view content) {
   std::vector<std::string> names;
   while (names.size() < kLanguageEntries) {
@@ -94,11 +90,6 @@ std::vector<std::string> ReadMesNames(const MessageSet& set, std::string_view co
   return names;
 }
 
-std::int64_t MesMessageOffset(const MessageSet& set, int language, std::size_t message) {
-  return MesBlockOffset(set, language) +
-         static_cast<std::int64_t>(NameField::kBytes + message * set.Width());
-}
-
 MessageTexts ReadMesTexts(const MessageSet& set, int language) {
   const std::string content = ReadFile(set.CurrentFileName);
   MessageTexts texts(set.MessageCount());
@@ -109,9 +100,9 @@ MessageTexts ReadMesTexts(const MessageSet& set, int language) {
     }
     const std::string_view bytes = std::string_view(content).substr(offset, set.Width());
     if (bytes.size() < set.Width()) {
-      throw FileError(set.CurrentFileName, "the file ends inside message " +
-                                               std::to_string(message) + " of language " +
-                                               std::to_string(language));
+      throw FileError(
+          set.CurrentFileName,
+          fmt::format("the file ends inside message {} of language {}", message, language));
     }
     texts[message] = DisplayText(CodesFromBytes(bytes));
   }

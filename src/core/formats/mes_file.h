@@ -8,16 +8,9 @@
 #include <vector>
 
 #include "core/document/message_set.h"
-
-// The layout of ".MES" files: a header of 24 bytes, then language blocks of `BlockLength` bytes,
-// each a name of 20 bytes and `LangStride` + 1 message slots of `LastCol` + 1 bytes. Block 0 is the
-// reference block "Default". Positions in this file are 0-based offsets.
+#include "core/formats/mes_layout.h"
 
 namespace vendlingua {
-
-inline constexpr std::size_t kMesHeaderBytes = 24;
-/// From this value on the first byte of a file says that it is an assembler source.
-inline constexpr std::uint8_t kFirstSourceByte = 32;
 
 /// The header fields as they stand in the file.
 struct MesHeader {
@@ -49,15 +42,8 @@ void ApplyDimensions(const MesHeader& header, MessageSet& set);
 /// 513 messages although a block has no room for them, as only a damaged header says.
 void ApplyMesHeader(const MesHeader& header, MessageSet& set);
 
-/// Where block `language` begins. Throws Error when a `BlockLength` that wrapped puts it before the
-/// start of the file.
-std::int64_t MesBlockOffset(const MessageSet& set, int language);
-
 /// The names of blocks 0, 1, 2, ... as captions, up to the end of the file and at most 101.
 std::vector<std::string> ReadMesNames(const MessageSet& set, std::string_view content);
-
-/// Where message `message` of block `language` begins.
-std::int64_t MesMessageOffset(const MessageSet& set, int language, std::size_t message);
 
 /// Messages 0 to `LastMsg` of block `language` of `CurrentFileName`. A message that lies wholly
 /// behind the end of the file reads as blanks: the last block of a file ends with the last message

@@ -1,8 +1,12 @@
 #include "core/formats/msx_file.h"
 
+#include <fmt/format.h>
+
 #include <algorithm>
 
+#include "core/formats/copy_header.h"
 #include "core/formats/hex.h"
+#include "core/formats/srecord.h"
 #include "core/formats/text_lines.h"
 #include "core/platform/errors.h"
 #include "core/platform/files.h"
@@ -10,47 +14,43 @@
 namespace vendlingua {
 namespace {
 
-constexpr std::size_t kMessageBytes = 16;
-
-// Decodes hexadecimal pairs; nothing when one of them is not hexadecimal.
-std::optional<DisplayCodes> DecodePairs(std::string_view digits) {
-  DisplayCodes codes;
-  for (std::size_t i = 0; i < digits.size(); i += 2) {
-    const std::string_view pair = digits.substr(i, 2);
-    const auto code = pair.size() == 2 ? ParseHex(pair) : std::nullopt;
-    if (!code) {
-      return std::nullopt;
-    }
-    codes.push_back(static_cast<DisplayCode>(*code));
-  }
-  return codes;
-}
-
 bool IsHeaderRecord(std::string_view line) { return line.starts_with("S0"); }
 
 bool NamesManagedFirmware(std::string_view header_record) {
-  constexpr std::size_t kModelColumn = 13;
-  constexpr std::size_t kModelDigits = 8;
-  const auto codes = DecodePairs(Columns(header_record, kModelColumn, kModelDigits));
-  const std::string model = codes ? BytesFromCodes(*codes) : std::string();
+  const std::string_view digits = Columns(header_record, kIdentificationColumn, kModelHexDigits);
+  const std::string model = BytesFromCodes(DecodeHexPairs(digits).bytes);
   return model == "0417" || model == "0405";
 }
 
 // The 16 data bytes of a message line; the checksum behind them is not part of the text.
 DisplayCodes DecodeMessage(const MessageSet& set, std::string_view line, std::size_t line_number) {
-  const auto codes = DecodePairs(Columns(line, kMsxDataColumn, 2 * kMessageBytes));
-  if (!codes || codes->size() < kMessageBytes) {
-    throw FileError(set.CurrentFileName,
-                    "line " + std::to_string(line_number) +
-                        " holds no message of 16 hexadecimal pairs from "
-                        "column 11 on: \"" +
-                        ToUtf8(CodesFromBytes(Columns(line, kMsxDataColumn, 2 * kMessageBytes))) +
-                        "\"");
+  const std::string_view digits = LenientRecord(line).DataDigits(kDefaultMessageWidth);
+  DisplayCodes codes = DecodeHexPairs(digits).bytes;
+  if (codes.size() < kDefaultMessageWidth) {
+    throw FileError(
+        set.CurrentFileName,
+        fmt::format("line {} holds no message of {} hexadecimal pairs from column {} on: \"{}\"",
+                    line_number, kDefaultMessageWidth, LenientRecord::kDataColumn,
+                    ToUtf8(CodesFromBytes(digits))));
   }
-  return *codes;
+  return codes;
+}
+
+// The lines of a language could not be written over the old ones.
+void RequireNoLoneLf(const MessageSet& set, std::string_view content) {
+  TextLines lines(content);
+  while (const auto line = lines.Next()) {
+    if (line->end == LineEnd::kLfAlone) {
+      throw FileError(set.CurrentFileName, fmt::format("line {}: {}", lines.count(), kLoneLfInMsx));
+    }
+  }
 }
 
 }  // namespace
+
+bool IsMsxHeader(std::string_view first_line) {
+  return IsHeaderRecord(first_line) && NamesManagedFirmware(first_line);
+}
 
 std::optional<std::vector<std::string>> ReadMsxNames(const MessageSet& set,
                                                      std::string_view content) {
@@ -62,8 +62,9 @@ std::optional<std::vector<std::string>> ReadMsxNames(const MessageSet& set,
   std::size_t name_line = 1 + MsxLinesBefore(set, 1) + static_cast<std::size_t>(set.NameMessage());
   while (const auto line = lines.Next()) {
     if (line->HasLoneCarriageReturn()) {
-      throw FileError(set.CurrentFileName, "line " + std::to_string(lines.count()) +
-                                               " holds a carriage return that does not end it");
+      throw FileError(
+          set.CurrentFileName,
+          fmt::format("line {} holds a carriage return that does not end it", lines.count()));
     }
     if (lines.count() == name_line) {
       names.push_back(ToUtf8(Trim(DecodeMessage(set, line->text, lines.count()))));
@@ -76,6 +77,7 @@ std::optional<std::vector<std::string>> ReadMsxNames(const MessageSet& set,
       return std::nullopt;
     }
   }
+  RequireNoLoneLf(set, content);
   return names;
 }
 
@@ -91,10 +93,10 @@ MessageTexts ReadMsxTexts(const MessageSet& set, int language) {
   for (std::size_t message = 0; message < set.MessageCount(); ++message) {
     const auto line = lines.Next();
     if (!line) {
-      throw FileError(set.CurrentFileName, "the file ends after line " +
-                                               std::to_string(lines.count()) + ": message " +
-                                               std::to_string(message) + " of language " +
-                                               std::to_string(language) + " is missing");
+      throw FileError(
+          set.CurrentFileName,
+          fmt::format("the file ends after line {}: message {} of language {} is missing",
+                      lines.count(), message, language));
     }
     texts[message] = DisplayText(DecodeMessage(set, line->text, lines.count()));
   }

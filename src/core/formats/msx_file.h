@@ -14,8 +14,8 @@
 
 namespace vendlingua {
 
-/// Where the data of a record begins ("S2", count, 6-digit address stand before), counted from 1.
-inline constexpr std::size_t kMsxDataColumn = 11;
+/// What is wrong with a line of such a file that does not end in CR LF.
+inline constexpr std::string_view kLoneLfInMsx = "ends in LF alone, a .MSX file needs CR LF";
 
 /// The dimensions of every ".MSX" file, laid out like the header of a ".MES" file. The leading
 /// blank stands where that has its `LangCount` and is not used.
@@ -23,9 +23,13 @@ inline constexpr std::string_view kMsxConfiguration =
     " \x0F"
     "0300AB01C600FF0000FFF0";
 
+/// Whether the first line of a file is an S0 record that names a managed firmware model: "0417" or
+/// "0405".
+bool IsMsxHeader(std::string_view first_line);
+
 /// The names of languages 1, 2, ... as captions; nothing when the file does not begin with an S0
-/// record or holds an S0 record that names a firmware model other than "0417" and "0405". Throws
-/// FileError when a name record cannot be decoded.
+/// record or holds an S0 record that names another firmware model. Throws FileError when a name
+/// record cannot be decoded, or a line ends in LF alone, because no language could be saved then.
 std::optional<std::vector<std::string>> ReadMsxNames(const MessageSet& set,
                                                      std::string_view content);
 

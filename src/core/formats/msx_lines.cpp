@@ -1,5 +1,9 @@
 #include "core/formats/msx_lines.h"
 
+#include <fmt/format.h>
+
+#include <numeric>
+
 #include "core/formats/hex.h"
 #include "core/formats/msx_file.h"
 #include "core/formats/srecord.h"
@@ -12,23 +16,20 @@ namespace {
 // "S2", count and address of a line, and the sum of the bytes that it spells.
 struct RecordHead {
   std::string_view text;
-  std::uint32_t sum = 0;
+  std::uint32_t sum;
 };
 
 RecordHead ParseHead(const MessageSet& set, std::string_view line, std::size_t line_number) {
-  constexpr std::size_t kHeadLength = kMsxDataColumn - 1;
-  RecordHead head{line.substr(0, kHeadLength)};
-  for (const std::size_t column : {3U, 5U, 7U, 9U}) {
-    const std::string_view pair = Columns(line, column, 2);
-    const auto byte = pair.size() == 2 ? ParseHex(pair) : std::nullopt;
-    if (!byte) {
-      throw FileError(set.CurrentFileName, "line " + std::to_string(line_number) + ", column " +
-                                               std::to_string(column) +
-                                               ": no hexadecimal pair of a record's head");
-    }
-    head.sum += *byte;
+  constexpr std::size_t kBytes = 4;  // of count and address
+  const std::string_view text = LenientRecord(line).Head();
+  const auto digits = Columns(text, LenientRecord::kCountColumn, 2 * kBytes);
+  const std::vector<std::uint8_t> bytes = DecodeHexPairs(digits).bytes;
+  if (bytes.size() < kBytes) {
+    throw FileError(set.CurrentFileName,
+                    fmt::format("line {}, column {}: no hexadecimal pair of a record's head",
+                                line_number, LenientRecord::kCountColumn + 2 * bytes.size()));
   }
-  return head;
+  return {text, std::accumulate(bytes.begin(), bytes.end(), std::uint32_t{0})};
 }
 
 void AppendLine(std::string& out, const RecordHead& head, std::span<const DisplayCode> data) {
@@ -44,28 +45,30 @@ void AppendLine(std::string& out, const RecordHead& head, std::span<const Displa
 
 }  // namespace
 
-MsxLines BuildMsxLines(const MessageSet& set, std::string_view content) {
+FilePatch BuildMsxLines(const MessageSet& set, std::string_view content) {
   TextLines lines(content);
   lines.Skip(MsxLinesBefore(set, set.DestLang));
-  MsxLines result{0, ""};
+  FilePatch patch{0, ""};
   for (std::size_t i = 0; i < kDefaultMessageCount; ++i) {
     const auto line = lines.Next();
     if (!line) {
       throw FileError(set.CurrentFileName,
-                      "the file ends after line " + std::to_string(lines.count()) +
-                          ": the language lies partly behind its end, nothing was written");
+                      fmt::format("the file ends after line {}: the language lies partly behind "
+                                  "its end, nothing was written",
+                                  lines.count()));
     }
-    if (!line->ends_in_crlf) {
-      throw FileError(set.CurrentFileName, "line " + std::to_string(lines.count()) +
-                                               " does not end in CR LF, nothing was written");
+    if (line->end == LineEnd::kLfAlone) {
+      throw FileError(
+          set.CurrentFileName,
+          fmt::format("line {} does not end in CR LF, nothing was written", lines.count()));
     }
     if (i == 0) {
-      result.position = static_cast<std::int64_t>(line->offset) + 1;
+      patch.position = static_cast<std::int64_t>(line->offset);
     }
-    AppendLine(result.content, ParseHead(set, line->text, lines.count()),
+    AppendLine(patch.bytes, ParseHead(set, line->text, lines.count()),
                set.DestText[i].First(set.Width()));
   }
-  return result;
+  return patch;
 }
 
 }  // namespace vendlingua

@@ -1,17 +1,18 @@
 #include "core/formats/source_parser.h"
 
+#include <fmt/format.h>
+
+#include <algorithm>
+#include <limits>
 #include <optional>
 
-#include "core/document/message_set.h"
+#include "core/document/display_text.h"
 #include "core/formats/source_line.h"
 #include "core/formats/text_lines.h"
 #include "core/platform/errors.h"
 
 namespace vendlingua {
 namespace {
-
-constexpr std::size_t kMaxWidth = DisplayText::kCells;
-constexpr std::size_t kMaxMessages = kLeastTexts;
 
 // A line as it may be quoted in a message: as much of it as a box shows.
 std::string Excerpt(std::string_view line) {
@@ -21,8 +22,12 @@ std::string Excerpt(std::string_view line) {
 }
 
 [[noreturn]] void FailAt(std::size_t line_number, const std::string& reason) {
-  throw Error("line " + std::to_string(line_number) + ": " + reason);
+  throw Error(fmt::format("line {}: {}", line_number, reason));
 }
+
+// Width and number of the texts of a section are counted in a byte and in 16 bits.
+constexpr std::size_t kMostCells = std::numeric_limits<std::uint8_t>::max();
+constexpr std::size_t kMostTexts = std::numeric_limits<std::uint16_t>::max();
 
 bool Contains(std::string_view line, std::string_view word) {
   return line.find(word) != std::string_view::npos;
@@ -37,11 +42,13 @@ class SourceParser {
       if (line->HasLoneCarriageReturn()) {
         FailAt(lines_.count(), "it holds a carriage return that does not end it");
       }
-      if (Contains(line->text, "ORG") || Contains(line->text, ".SECT")) {
-        if (++directives_ > 1) {
-          EndSection();
-          continue;
+      const bool is_directive = Contains(line->text, "ORG") || Contains(line->text, ".SECT");
+      if (is_directive && ++directives_ > 1) {
+        if (lines_.AtEnd()) {
+          break;
         }
+        EndSection();
+        continue;
       }
       if (!TakeLine(line->text)) {
         section_.width_error = true;
@@ -65,22 +72,28 @@ class SourceParser {
     if (!text) {
       return true;
     }
-    if (text->size() > kMaxWidth) {
-      FailAt(lines_.count(), "the text is " + std::to_string(text->size()) +
-                                 " characters long, at most " + std::to_string(kMaxWidth) +
-                                 " can be edited");
-    }
     if (text->size() < width_) {
       return false;
     }
-    width_ = static_cast<std::uint8_t>(text->size());
-    if (section_.texts.size() == kMaxMessages) {
-      FailAt(lines_.count(), "this is text number " + std::to_string(kMaxMessages + 1) +
-                                 " of its section, at most " + std::to_string(kMaxMessages) +
-                                 " can be edited");
-    }
-    section_.texts.push_back(CodesFromBytes(*text));
+    TakeText(CodesFromBytes(*text));
     return true;
+  }
+
+  void TakeText(const DisplayCodes& text) {
+    if (text.size() > kMostCells) {
+      FailAt(lines_.count(), fmt::format("the text is {} characters long, at most {} are possible",
+                                         text.size(), kMostCells));
+    }
+    if (section_.texts.size() == kMostTexts) {
+      FailAt(lines_.count(),
+             fmt::format("this is text number {} of its section, at most {} are possible",
+                         kMostTexts + 1, kMostTexts));
+    }
+    if (text.size() > DisplayText::kCells) {
+      section_.cut_lines.push_back(lines_.count());
+    }
+    width_ = static_cast<std::uint8_t>(text.size());
+    section_.texts.push_back(FitTo(text, std::min(text.size(), DisplayText::kCells)));
   }
 
   std::optional<std::string> ReadText(std::string_view line) const {

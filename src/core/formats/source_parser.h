@@ -13,7 +13,8 @@ namespace vendlingua {
 
 /// One section of a firmware assembler source: the message texts of one language.
 struct SourceSection {
-  std::vector<DisplayCodes> texts;
+  std::vector<DisplayCodes> texts;     ///< of each the first 40 characters
+  std::vector<std::size_t> cut_lines;  ///< numbers of the lines with more, counted from 1
   /// The label "MNLING" was met after so many texts (one entry a line that carries it).
   std::vector<std::uint16_t> name_labels;
   bool has_sdata = false;      ///< a line contains ".SDATA"
@@ -26,8 +27,9 @@ struct SourceSection {
 };
 
 /// Splits a source into its sections. A line that contains "ORG" or ".SECT" ends a section when one
-/// was met before, and is not looked at further. Throws Error with the number of the line when its
-/// quotes cannot be read, when a section has no texts, more than 513, or one wider than 40 cells.
+/// was met before, and is not looked at further; as the last line of the file it begins no further
+/// one. Throws Error with the number of the line when its quotes cannot be read, when a section has
+/// no texts, more than 65535, or one of more than 255 characters.
 std::vector<SourceSection> ParseSource(std::string_view content);
 
 }  // namespace vendlingua

@@ -1,8 +1,8 @@
 #include "core/formats/srecord.h"
 
-#include <algorithm>
+#include <fmt/format.h>
 
-#include "core/formats/hex.h"
+#include <algorithm>
 
 namespace vendlingua {
 namespace {
@@ -75,19 +75,15 @@ std::size_t AddressBytesOf(char type) {
 }
 
 [[noreturn]] void ThrowForCount(std::string_view line, std::size_t count) {
-  throw SRecordSyntaxError("the count is " + std::to_string(count) + ", but the line holds " +
-                           std::to_string(line.size() < 4 ? 0 : (line.size() - 4) / 2) + " bytes" +
-                           (line.size() % 2 != 0 ? " and a half" : ""));
+  throw SRecordSyntaxError(fmt::format("the count is {}, but the line holds {} bytes{}", count,
+                                       line.size() < 4 ? 0 : (line.size() - 4) / 2,
+                                       line.size() % 2 != 0 ? " and a half" : ""));
 }
 
 [[noreturn]] void ThrowForDigits(std::string_view line) {
-  std::size_t pair = 2;
-  while (pair < line.size() && ParseHex(line.substr(pair, 1)) &&
-         ParseHex(line.substr(pair + 1, 1))) {
-    pair += 2;
-  }
-  throw SRecordSyntaxError("column " + std::to_string(pair + 1) + ": \"" +
-                           std::string(Columns(line, pair + 1, 2)) + "\" is no hexadecimal pair");
+  const std::string_view rest = DecodeHexPairs(line.substr(2)).rest;
+  throw SRecordSyntaxError(fmt::format("column {}: \"{}\" is no hexadecimal pair",
+                                       line.size() - rest.size() + 1, rest.substr(0, 2)));
 }
 
 }  // namespace
@@ -98,8 +94,8 @@ SRecordType SRecordTypeFor(std::uint32_t start) {
 
 std::uint32_t SumOfHexPairs(std::string_view text) {
   std::uint32_t sum = 0;
-  for (std::size_t i = 0; i < text.size(); i += 2) {
-    sum += HexOrZero(text.substr(i, 2));
+  for (std::size_t column = 1; column <= text.size(); column += 2) {
+    sum += HexPairOrZero(text, column);
   }
   return sum;
 }
@@ -122,24 +118,23 @@ void ParseSRecord(std::string_view line, SRecord& record) {
   record.type = line[1];
   const std::size_t address_bytes = AddressBytesOf(record.type);
 
-  // Digits that are none leave their mark here and are looked for when all have been read.
+  // Pairs that are none leave their mark here and are looked for when all have been read.
   std::uint32_t marks = 0;
   std::uint32_t sum = 0;
   std::size_t column = 2;
   const auto next_byte = [&] {
-    const std::uint32_t high = kHexDigitValues[static_cast<unsigned char>(line[column])];
-    const std::uint32_t low = kHexDigitValues[static_cast<unsigned char>(line[column + 1])];
+    const std::uint32_t value = HexPairValue(line[column], line[column + 1]);
     column += 2;
-    marks |= high | low;
-    const std::uint32_t byte = ((high << 4U) | low) & 0xFFU;
+    marks |= value;
+    const auto byte = static_cast<std::uint8_t>(value);
     sum += byte;
-    return static_cast<std::uint8_t>(byte);
+    return byte;
   };
   const std::size_t count = line.size() >= 4 ? next_byte() : 0;
-  if (marks < kNoHexDigit && (count < address_bytes + 1 || line.size() != 4 + 2 * count)) {
+  if (marks <= kLastByte && (count < address_bytes + 1 || line.size() != 4 + 2 * count)) {
     ThrowForCount(line, count);
   }
-  if (marks >= kNoHexDigit) {
+  if (marks > kLastByte) {
     ThrowForDigits(line);
   }
   record.address = 0;
@@ -152,7 +147,7 @@ void ParseSRecord(std::string_view line, SRecord& record) {
   }
   record.sum = static_cast<std::uint8_t>(sum);
   record.checksum = next_byte();
-  if (marks >= kNoHexDigit) {
+  if (marks > kLastByte) {
     ThrowForDigits(line);
   }
 }

@@ -9,6 +9,8 @@
 #include <string>
 #include <string_view>
 
+#include "core/formats/hex.h"
+
 namespace vendlingua {
 
 /// The line end of every S-record file.
@@ -60,6 +62,38 @@ struct SRecord {
 /// when it is no S-record or its length is not what its count says; a wrong checksum is not an
 /// error here.
 void ParseSRecord(std::string_view line, SRecord& record);
+
+/// A line taken as an S2 record, whatever it holds: nothing is checked, what stands behind its end
+/// is missing, and a pair that is not hexadecimal counts as 0. Columns are counted from 1.
+class LenientRecord {
+ public:
+  static constexpr std::size_t kCountColumn = 3;
+  static constexpr std::size_t kLowAddressColumn = 7;
+  static constexpr std::size_t kDataColumn = 11;
+
+  explicit LenientRecord(std::string_view line) : line_(line) {}
+
+  /// Type, count and address as they stand: the first 10 characters.
+  std::string_view Head() const { return line_.substr(0, kDataColumn - 1); }
+
+  std::uint8_t Count() const { return HexPairOrZero(line_, kCountColumn); }
+
+  /// The low 16 bits of the address; 0 when one of their four digits is not hexadecimal.
+  std::uint32_t LowAddress() const { return HexOrZero(Columns(line_, kLowAddressColumn, 4)); }
+
+  /// Data byte `index`, counted from 0.
+  std::uint8_t Data(std::size_t index) const {
+    return HexPairOrZero(line_, kDataColumn + 2 * index);
+  }
+
+  /// The characters of the first `bytes` data bytes as they stand.
+  std::string_view DataDigits(std::size_t bytes) const {
+    return Columns(line_, kDataColumn, 2 * bytes);
+  }
+
+ private:
+  std::string_view line_;
+};
 
 }  // namespace vendlingua
 

@@ -1,71 +1,71 @@
 #include "core/formats/srecord_check.h"
 
+#include <fmt/format.h>
+
 #include <algorithm>
+#include <boost/icl/interval_set.hpp>
+#include <boost/icl/right_open_interval.hpp>
 #include <cstdint>
-#include <iterator>
-#include <map>
+#include <functional>
 
 #include "core/formats/copy_header.h"
-#include "core/formats/hex.h"
+#include "core/formats/msx_file.h"
 #include "core/formats/srecord.h"
 #include "core/formats/text_lines.h"
 
 namespace vendlingua {
 namespace {
 
-// The addresses that records have filled so far, as ranges [first, second).
-class CoveredAddresses {
- public:
-  // False when part of the range was filled before.
-  bool Add(std::uint64_t begin, std::uint64_t end) {
-    auto next = ranges_.lower_bound(begin);
-    bool free = next == ranges_.end() || next->first >= end;
-    if (next != ranges_.begin()) {
-      const auto previous = std::prev(next);
-      if (previous->second >= begin) {
-        free = free && previous->second == begin;
-        begin = previous->first;
-        end = std::max(end, previous->second);
-        ranges_.erase(previous);
-      }
-    }
-    while (next != ranges_.end() && next->first <= end) {
-      end = std::max(end, next->second);
-      next = ranges_.erase(next);
-    }
-    ranges_.emplace(begin, end);
-    return free;
-  }
+// A file of which so much is wrong is no file of S-records.
+constexpr std::size_t kMostFindings = 10000;
 
- private:
-  std::map<std::uint64_t, std::uint64_t> ranges_;
-};
+using AddressRange = boost::icl::right_open_interval<std::uint64_t>;
+using AddressRanges = boost::icl::interval_set<std::uint64_t, std::less, AddressRange>;
 
 class SRecordChecker {
  public:
   Findings Check(std::string_view content) {
     TextLines lines(content);
-    while (const auto line = lines.Next()) {
-      line_number_ = lines.count();
-      const bool is_last = line->text.data() + line->text.size() + 2 >= content.end();
-      if (line_number_ == 1 && IsCopyHeader(line->text)) {
-        is_copy_ = true;
-      } else if (!(is_copy_ && is_last && line->text == kLastCopyLine)) {
-        CheckLine(line->text);
+    while (findings_.size() < kMostFindings) {
+      const auto line = lines.Next();
+      if (!line) {
+        break;
       }
+      line_number_ = lines.count();
+      CheckPlace(*line, lines.AtEnd());
     }
-    if (!has_data_) {
+    if (!lines.AtEnd()) {
+      findings_.push_back(fmt::format("line {} and what follows was not checked: too much is wrong",
+                                      line_number_ + 1));
+    } else if (!has_data_) {
       findings_.emplace_back("the file holds no data record");
     }
     return findings_;
   }
 
  private:
-  void Report(const std::string& what) {
-    findings_.push_back("line " + std::to_string(line_number_) + ": " + what);
+  void Report(std::string_view what) {
+    findings_.push_back(fmt::format("line {}: {}", line_number_, what));
   }
 
-  void CheckLine(std::string_view line) {
+  // What is special about the first line, the last one and the line ends of some files.
+  void CheckPlace(const TextLine& line, bool is_last) {
+    if (line_number_ == 1) {
+      is_copy_ = IsCopyHeader(line.text);
+      needs_crlf_ = IsMsxHeader(line.text);
+    }
+    if (needs_crlf_ && line.end == LineEnd::kLfAlone) {
+      Report(kLoneLfInMsx);
+      needs_crlf_ = false;
+    }
+    const bool is_known =
+        is_copy_ && (line_number_ == 1 || (is_last && line.text == kLastCopyLine));
+    if (!is_known) {
+      CheckRecord(line.text);
+    }
+  }
+
+  void CheckRecord(std::string_view line) {
     try {
       ParseSRecord(line, record_);
     } catch (const SRecordSyntaxError& error) {
@@ -76,8 +76,8 @@ class SRecordChecker {
       Report("lower-case hexadecimal digits");
     }
     if (!record_.ChecksumIsRight()) {
-      Report("the checksum is " + HexField(record_.checksum, 2) + " instead of " +
-             HexField(SRecordChecksum(record_.sum), 2));
+      Report(fmt::format("the checksum is {:02X} instead of {:02X}", record_.checksum,
+                         SRecordChecksum(record_.sum)));
     }
     if (record_.type >= '1' && record_.type <= '3') {
       CheckAddress();
@@ -85,27 +85,28 @@ class SRecordChecker {
   }
 
   void CheckAddress() {
-    const std::uint64_t begin = record_.address;
-    const std::uint64_t end = begin + record_.size;
-    if (has_data_ && begin > next_address_) {
-      Report("gap: address " + Hex(begin) + " follows " + Hex(next_address_ - 1));
-    } else if (has_data_ && begin < next_address_) {
-      Report("address " + Hex(begin) + " goes back behind " + Hex(next_address_ - 1));
+    const AddressRange range(record_.address, std::uint64_t{record_.address} + record_.size);
+    if (has_data_ && range.lower() > next_address_) {
+      Report(fmt::format("gap: address {:X} follows {:X}", range.lower(), next_address_ - 1));
+    } else if (has_data_ && range.lower() < next_address_) {
+      Report(fmt::format("address {:X} goes back behind {:X}", range.lower(), next_address_ - 1));
     }
-    if (record_.size != 0 && !covered_.Add(begin, end)) {
-      Report("overlap: bytes from address " + Hex(begin) + " on were given before");
+    if (boost::icl::intersects(covered_, range)) {
+      Report(fmt::format("overlap: bytes from address {:X} on were given before", range.lower()));
     }
+    covered_ += range;
     has_data_ = true;
-    next_address_ = end;
+    next_address_ = range.upper();
   }
 
   Findings findings_;
   SRecord record_;
-  CoveredAddresses covered_;
+  AddressRanges covered_;
   std::size_t line_number_ = 0;
   std::uint64_t next_address_ = 0;
   bool has_data_ = false;
   bool is_copy_ = false;
+  bool needs_crlf_ = false;  // no line that ends otherwise was reported yet
 };
 
 }  // namespace

@@ -7,10 +7,12 @@
 
 namespace vendlingua {
 
+enum class LineEnd { kCrAndLf, kLfAlone, kEndOfFile };
+
 struct TextLine {
   std::string_view text;  ///< without its line end
   std::size_t offset;     ///< of its first byte in the file, from 0
-  bool ends_in_crlf;      ///< otherwise it ends in LF, or with the file
+  LineEnd end;
 
   /// A carriage return that ends no line: the file has line ends that are not read as such.
   bool HasLoneCarriageReturn() const { return text.find('\r') != std::string_view::npos; }
@@ -22,17 +24,25 @@ class TextLines {
   explicit TextLines(std::string_view content) : content_(content) {}
 
   std::optional<TextLine> Next() {
-    if (position_ >= content_.size()) {
+    if (AtEnd()) {
       return std::nullopt;
     }
     ++count_;
     const std::size_t start = position_;
     const std::size_t newline = content_.find('\n', start);
-    const std::size_t end = newline == std::string_view::npos ? content_.size() : newline;
-    position_ = newline == std::string_view::npos ? end : end + 1;
-    const bool crlf = end < content_.size() && end > start && content_[end - 1] == '\r';
-    return TextLine{content_.substr(start, (crlf ? end - 1 : end) - start), start, crlf};
+    if (newline == std::string_view::npos) {
+      position_ = content_.size();
+      return TextLine{content_.substr(start), start, LineEnd::kEndOfFile};
+    }
+    position_ = newline + 1;
+    if (newline > start && content_[newline - 1] == '\r') {
+      return TextLine{content_.substr(start, newline - 1 - start), start, LineEnd::kCrAndLf};
+    }
+    return TextLine{content_.substr(start, newline - start), start, LineEnd::kLfAlone};
   }
+
+  /// Whether there is no further line.
+  bool AtEnd() const { return position_ >= content_.size(); }
 
   /// Passes over `lines` lines; false when the file ends before.
   bool Skip(std::size_t lines) {

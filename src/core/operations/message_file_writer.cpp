@@ -4,9 +4,7 @@
 #include <string_view>
 #include <system_error>
 
-#include "core/formats/hex.h"
-#include "core/formats/mes_file.h"
-#include "core/formats/msx_file.h"
+#include "core/formats/mes_patch.h"
 #include "core/formats/msx_lines.h"
 #include "core/platform/errors.h"
 #include "core/platform/files.h"
@@ -16,27 +14,6 @@ namespace {
 
 namespace fs = std::filesystem;
 
-// File positions are counted from 1.
-constexpr std::int64_t kFlagsPosition = 3;
-constexpr std::int64_t kLastMsgPosition = 9;
-constexpr std::string_view kReferenceName = "Default             ";
-constexpr std::string_view kReferenceCaption = "Default";
-
-std::string MessageBytes(const DisplayText& text, std::size_t width) {
-  return BytesFromCodes(text.First(width));
-}
-
-// The origin texts of one language block of a new file. Slots that the set has no text for are
-// blank.
-std::string OriginBlock(const MessageSet& set) {
-  std::string block;
-  for (std::size_t i = 0; i <= set.LangStride; ++i) {
-    block +=
-        MessageBytes(i < set.OriginText.size() ? set.OriginText[i] : DisplayText(), set.Width());
-  }
-  return block;
-}
-
 // What stands behind the first `size` bytes of a file that a new one replaces: it stays.
 std::string TailOf(const fs::path& path, std::size_t size) {
   std::error_code not_there;
@@ -45,29 +22,6 @@ std::string TailOf(const fs::path& path, std::size_t size) {
   }
   const std::string content = ReadFile(path);
   return content.substr(std::min(size, content.size()));
-}
-
-// A file that was cut by another program: with a patch alone it would be no message file any more.
-void RequireHeader(const MessageSet& set, std::uintmax_t file_size) {
-  if (file_size < kMesHeaderBytes) {
-    throw FileError(set.CurrentFileName,
-                    "has only " + std::to_string(file_size) +
-                        " bytes since it was opened, less than its header: save it under another "
-                        "name");
-  }
-}
-
-// A block that does not hold `LastMsg` + 1 messages would be written over the next language.
-void RefuseToOverwriteNextBlock(const MessageSet& set, std::int64_t file_size) {
-  const std::int64_t end = MesMessageOffset(set, set.DestLang, set.MessageCount());
-  const std::int64_t next = MesBlockOffset(set, set.DestLang + 1);
-  if (end > next && file_size > next) {
-    throw FileError(set.CurrentFileName,
-                    "a language block of " +
-                        std::to_string(static_cast<std::int64_t>(set.BlockLength)) +
-                        " bytes does not hold " + std::to_string(set.MessageCount()) +
-                        " messages: saving would overwrite the next language");
-  }
 }
 
 }  // namespace
@@ -199,16 +153,9 @@ SaveOutcome MessageFileWriter::WriteNewMes(const std::optional<NameField>& new_n
   set.CurrentFileName = path;
   set.Modified = kFalse;
 
-  const std::string origin_block = OriginBlock(set);
-  std::string content = FormatMesHeader(set, HeaderFlags());
-  content += kReferenceName;
-  content += origin_block;
-  if (new_name) {
-    content += new_name->Bytes();
-  }
-  content += origin_block;
+  const std::string content = BuildNewMes(set, new_name, HeaderFlags());
   WriteFile(path, {content, TailOf(path, content.size())});
-  set.language_names = {std::string(kReferenceCaption)};
+  set.language_names = {std::string(kReferenceName)};
   if (new_name) {
     set.language_names.push_back(new_name->Caption());
   }
@@ -238,33 +185,15 @@ void MessageFileWriter::WriteMesBlock(const NameField& name) {
   MessageSet& set = workspace_.set;
   set.Modified = kFalse;
   set.BlockLength = MesBlockLength(set.LastCol, set.LangStride);
-  const std::int64_t block = MesBlockOffset(set, set.DestLang) + 1;
-  std::error_code no_such_file;
-  const auto file_size = fs::file_size(set.CurrentFileName, no_such_file);
-  if (!no_such_file) {
-    RequireHeader(set, file_size);
-    RefuseToOverwriteNextBlock(set, static_cast<std::int64_t>(file_size));
-  }
-
-  std::string content = name.Bytes();
-  for (std::size_t i = 0; i < set.MessageCount(); ++i) {
-    content += MessageBytes(set.DestText[i], set.Width());
-  }
-  PatchFile file(set.CurrentFileName, PatchFile::IfMissing::kFail);
-  file.WriteAt(kFlagsPosition, HexField(HeaderFlags(), 2));
-  file.WriteAt(kLastMsgPosition, HexField(set.LastMsg, 4));
-  file.WriteAt(block, content);
-  file.Close();
+  ApplyPatches(set.CurrentFileName, BuildMesPatch(set, set.DestLang, name, HeaderFlags(),
+                                                  ReadFile(set.CurrentFileName)));
 }
 
 void MessageFileWriter::PatchMsx() {
   MessageSet& set = workspace_.set;
   editing_.StoreCurrentMessage();
   set.Modified = kFalse;
-  const MsxLines lines = BuildMsxLines(set, ReadFile(set.CurrentFileName));
-  PatchFile file(set.CurrentFileName, PatchFile::IfMissing::kFail);
-  file.WriteAt(lines.position, lines.content);
-  file.Close();
+  ApplyPatches(set.CurrentFileName, {BuildMsxLines(set, ReadFile(set.CurrentFileName))});
 }
 
 SaveOutcome MessageFileWriter::SaveAs() {

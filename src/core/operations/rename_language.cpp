@@ -49,7 +49,7 @@ std::optional<NameField> AskName(const Workspace& workspace, Dialogs& dialogs,
 void WriteNames(MessageSet& set) {
   PatchFile file(set.CurrentFileName, PatchFile::IfMissing::kFail);
   for (std::size_t i = 1; i < set.language_names.size(); ++i) {
-    file.WriteAt(MesBlockOffset(set, static_cast<int>(i)) + 1,
+    file.WriteAt(MesBlockOffset(set, static_cast<int>(i)),
                  NameField::FromCaption(set.language_names[i]).Bytes());
   }
   file.Close();

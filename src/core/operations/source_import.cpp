@@ -1,11 +1,13 @@
 #include "core/operations/source_import.h"
 
+#include <fmt/format.h>
+
 #include <algorithm>
 #include <limits>
 #include <optional>
 #include <string>
 
-#include "core/formats/mes_file.h"
+#include "core/formats/mes_layout.h"
 #include "core/operations/answers.h"
 #include "core/platform/errors.h"
 #include "core/platform/files.h"
@@ -30,13 +32,11 @@ void RequireOneWidth(const std::vector<SourceSection>& sections) {
 
 // What would make a file that cannot be opened again, or a language that runs into the next one.
 void RequireUsableBlocks(const MessageSet& set) {
-  const float block_length = MesBlockLength(set.LastCol, set.LangStride);
-  if (block_length < 0) {
-    throw Error(std::to_string(set.LangStride + 1) + " message slots of " +
-                std::to_string(set.Width()) +
-                " cells make the length of a language block wrap to " +
-                std::to_string(static_cast<int>(block_length)) +
-                " bytes; give more languages or less memory");
+  if (MesBlocksOverlap(set)) {
+    throw Error(
+        fmt::format("{} message slots of {} cells make the length of a language block wrap "
+                    "to {:.0f} bytes; give more languages or less memory",
+                    set.LangStride + 1, set.Width(), set.BlockLength));
   }
   if (set.LastMsg > set.LangStride) {
     throw Error("a section has " + std::to_string(set.MessageCount()) +
@@ -102,6 +102,7 @@ bool SourceImport::TakeSection(const SourceSection& section) {
   }
   --set.LastCol;
   --set.LastMsg;
+  set.BlockLength = MesBlockLength(set.LastCol, set.LangStride);
   RequireUsableBlocks(set);
   return true;
 }

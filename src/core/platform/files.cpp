@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "core/platform/errors.h"
+#include "core/platform/file_errors.h"
 #include "core/platform/staged_file.h"
 
 namespace vendlingua {
@@ -12,39 +13,21 @@ namespace {
 
 namespace fs = std::filesystem;
 
-std::string SystemReason(int error_number) {
-  return error_number == 0 ? "unknown error" : std::generic_category().message(error_number);
-}
+std::error_code LastError() { return {errno, std::generic_category()}; }
 
-bool FolderIsMissing(const fs::path& file) {
-  std::error_code ignored;
-  const fs::path folder = file.parent_path();
-  return !folder.empty() && !fs::is_directory(folder, ignored);
-}
-
-[[noreturn]] void ThrowFileError(const fs::path& file, const std::string& action,
-                                 int error_number) {
-  const std::string reason = action + ": " + SystemReason(error_number);
-  if (FolderIsMissing(file) || error_number == ENODEV || error_number == ENXIO) {
-    throw FolderNotReadyError(file, reason);
-  }
-  throw FileError(file, reason);
-}
-
-// Errors name `path`, although the bytes go to `written` until they are complete.
-void WritePieces(const fs::path& written, const fs::path& path,
-                 std::initializer_list<std::string_view> pieces) {
+// A device takes its bytes where it is; a folder refuses them.
+void WriteInPlace(const fs::path& path, std::initializer_list<std::string_view> pieces) {
   errno = 0;
-  std::ofstream stream(written, std::ios::binary | std::ios::trunc);
+  std::ofstream stream(path, std::ios::binary);
   if (!stream) {
-    ThrowFileError(path, "cannot be created", errno);
+    ThrowFileError(path, "cannot be created", LastError());
   }
   for (const std::string_view piece : pieces) {
     stream.write(piece.data(), static_cast<std::streamsize>(piece.size()));
   }
   stream.close();
   if (!stream) {
-    ThrowFileError(path, "cannot be written", errno);
+    ThrowFileError(path, "cannot be written", LastError());
   }
 }
 
@@ -52,28 +35,8 @@ void WritePieces(const fs::path& written, const fs::path& path,
 void RequireWritable(const fs::path& path) {
   errno = 0;
   if (!std::fstream(path, std::ios::binary | std::ios::in | std::ios::out)) {
-    ThrowFileError(path, "cannot be written", errno);
+    ThrowFileError(path, "cannot be written", LastError());
   }
-}
-
-void WriteNewFile(const fs::path& path, std::initializer_list<std::string_view> pieces) {
-  try {
-    WritePieces(path, path, pieces);
-  } catch (const FileError&) {
-    std::error_code ignored;
-    fs::remove(path, ignored);
-    throw;
-  }
-}
-
-void ReplaceFile(const fs::path& path, const fs::file_status& status,
-                 std::initializer_list<std::string_view> pieces) {
-  RequireWritable(path);
-  StagedFile staged(fs::is_symlink(path) ? fs::canonical(path) : path);
-  WritePieces(staged.path(), path, pieces);
-  std::error_code ignored;  // not every file system keeps modes
-  fs::permissions(staged.path(), status.permissions(), ignored);
-  staged.Commit();
 }
 
 }  // namespace
@@ -82,7 +45,8 @@ std::string ReadFile(const fs::path& path, std::uint64_t limit) {
   std::error_code error;
   const fs::file_status status = fs::status(path, error);
   if (!fs::exists(status)) {
-    ThrowFileError(path, "cannot be opened", error ? error.value() : ENOENT);
+    ThrowFileError(path, "cannot be opened",
+                   error ? error : std::make_error_code(std::errc::no_such_file_or_directory));
   }
   if (!fs::is_regular_file(status)) {
     throw FileError(path, "is not a file that can be read");
@@ -95,12 +59,12 @@ std::string ReadFile(const fs::path& path, std::uint64_t limit) {
   errno = 0;
   std::ifstream stream(path, std::ios::binary);
   if (!stream) {
-    ThrowFileError(path, "cannot be opened", errno);
+    ThrowFileError(path, "cannot be opened", LastError());
   }
   std::string content(size, '\0');
   stream.read(content.data(), static_cast<std::streamsize>(size));
   if (stream.gcount() != static_cast<std::streamsize>(size)) {
-    ThrowFileError(path, "cannot be read", errno);
+    ThrowFileError(path, "cannot be read", LastError());
   }
   return content;
 }
@@ -108,14 +72,22 @@ std::string ReadFile(const fs::path& path, std::uint64_t limit) {
 void WriteFile(const fs::path& path, std::initializer_list<std::string_view> pieces) {
   std::error_code not_there;
   const fs::file_status status = fs::status(path, not_there);
-  if (!fs::exists(status)) {
-    WriteNewFile(path, pieces);
-  } else if (fs::is_regular_file(status)) {
-    ReplaceFile(path, status, pieces);
-  } else {
-    // A device takes its bytes where it is; a folder refuses them.
-    WritePieces(path, path, pieces);
+  const bool replaces = fs::is_regular_file(status);
+  if (fs::exists(status) && !replaces) {
+    WriteInPlace(path, pieces);
+    return;
   }
+  if (replaces) {
+    RequireWritable(path);
+  }
+  StagedFile staged(path);
+  for (const std::string_view piece : pieces) {
+    staged.Write(piece);
+  }
+  if (replaces) {
+    staged.SetPermissions(status.permissions());
+  }
+  staged.Commit();
 }
 
 PatchFile::PatchFile(fs::path path, IfMissing if_missing) : path_(std::move(path)) {
@@ -134,10 +106,10 @@ PatchFile::PatchFile(fs::path path, IfMissing if_missing) : path_(std::move(path
 
 void PatchFile::WriteAt(std::int64_t position, std::string_view bytes) {
   errno = 0;
-  stream_.seekp(position - 1);
+  stream_.seekp(position);
   stream_.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
   if (!stream_) {
-    Fail("cannot be written at position " + std::to_string(position));
+    Fail("cannot be written at position " + std::to_string(position + 1));
   }
 }
 
@@ -149,6 +121,16 @@ void PatchFile::Close() {
   }
 }
 
-void PatchFile::Fail(const std::string& action) const { ThrowFileError(path_, action, errno); }
+void PatchFile::Fail(const std::string& action) const {
+  ThrowFileError(path_, action, LastError());
+}
+
+void ApplyPatches(const fs::path& path, const std::vector<FilePatch>& patches) {
+  PatchFile file(path, PatchFile::IfMissing::kFail);
+  for (const FilePatch& patch : patches) {
+    file.WriteAt(patch.position, patch.bytes);
+  }
+  file.Close();
+}
 
 }  // namespace vendlingua

@@ -2,28 +2,45 @@
 #define VENDLINGUA_CORE_PLATFORM_STAGED_FILE_H_
 
 #include <filesystem>
+#include <string_view>
+
+#include "core/platform/file_handle.h"
 
 namespace vendlingua {
 
-/// A new file that takes its name only when it is complete, so that what fails half-way leaves
-/// neither a piece of a file nor a damaged old one.
+/// A new file that takes its name only when it is complete and on the disk, so that what fails
+/// half-way, a power cut included, leaves neither a piece of a file nor a damaged old one. Until
+/// then it lies beside its target under a name that nobody can foresee, and goes away with this
+/// object. Errors name the target. Where the target is a link, the file that it leads to is
+/// replaced.
 class StagedFile {
  public:
-  /// Throws FolderNotReadyError when the folder of `target` is not there.
+  /// Creates the file, empty. Throws FileError; FolderNotReadyError when the folder is not there.
   explicit StagedFile(std::filesystem::path target);
   StagedFile(const StagedFile&) = delete;
   StagedFile& operator=(const StagedFile&) = delete;
   ~StagedFile();
 
-  /// Where to write until then: beside the target, with its extension.
-  const std::filesystem::path& path() const { return staging_; }
+  /// Adds bytes at the end. Throws FileError.
+  void Write(std::string_view bytes);
 
-  /// Gives the file its name. Throws FileError.
+  /// Gives the file the mode of the one that it replaces, where the file system keeps modes.
+  void SetPermissions(std::filesystem::perms permissions);
+
+  /// Leaves the writing to somebody else: closes the file and returns where it lies. Whatever
+  /// stands there in the end is what Commit() takes.
+  const std::filesystem::path& HandOver();
+
+  /// Waits until the bytes are on the disk and gives the file its name. Throws FileError.
   void Commit();
 
  private:
+  void Create();
+
   std::filesystem::path target_;
+  std::filesystem::path place_;  ///< the target, or where it leads as a link
   std::filesystem::path staging_;
+  FileHandle file_;
   bool committed_ = false;
 };
 

@@ -69,6 +69,49 @@ TEST(AppendHexByte, AlwaysAppendsTwoUpperCaseDigits) {
   EXPECT_EQ(text, "S205FE");
 }
 
+TEST(HexPairValue, IsAByteForDigitsOfEitherCaseOnly) {
+  EXPECT_EQ(HexPairValue('0', '0'), 0U);
+  EXPECT_EQ(HexPairValue('f', 'F'), 0xFFU);
+  EXPECT_EQ(HexPairValue('a', '9'), 0xA9U);
+  for (const char other : {'G', 'g', ' ', '/', ':', '@', '`', '\0', '\xFF'}) {
+    EXPECT_GT(HexPairValue(other, 'F'), kLastByte);
+    EXPECT_GT(HexPairValue('F', other), kLastByte);
+    EXPECT_GT(HexPairValue('0', other), kLastByte);
+  }
+}
+
+TEST(DecodeHexPairs, DecodesPairsOfEitherCase) {
+  const DecodedHex decoded = DecodeHexPairs("00fFa9");
+  EXPECT_THAT(decoded.bytes, testing::ElementsAre(0x00, 0xFF, 0xA9));
+  EXPECT_EQ(decoded.rest, "");
+  EXPECT_THAT(DecodeHexPairs("").bytes, testing::IsEmpty());
+}
+
+TEST(DecodeHexPairs, EndsBeforeThePairThatIsNone) {
+  const DecodedHex decoded = DecodeHexPairs("41424G43");
+  EXPECT_THAT(decoded.bytes, testing::ElementsAre(0x41, 0x42));
+  EXPECT_EQ(decoded.rest, "4G43");
+  EXPECT_EQ(DecodeHexPairs("G1").rest, "G1");
+  EXPECT_EQ(DecodeHexPairs("414").rest, "4");
+}
+
+TEST(HexPairOrZero, CountsColumnsFromOne) {
+  EXPECT_EQ(HexPairOrZero("S214FF", 3), 0x14);
+  EXPECT_EQ(HexPairOrZero("S214FF", 5), 0xFF);
+}
+
+TEST(HexPairOrZero, IsZeroForWhatIsNoPair) {
+  EXPECT_EQ(HexPairOrZero("1G", 1), 0);
+  EXPECT_EQ(HexPairOrZero("G1", 1), 0);
+  EXPECT_EQ(HexPairOrZero("12", 3), 0);
+  EXPECT_EQ(HexPairOrZero("12", 9), 0);
+}
+
+TEST(HexPairOrZero, IsTheOneDigitWhereTheTextEndsBehindIt) {
+  EXPECT_EQ(HexPairOrZero("12A", 3), 0xA);
+  EXPECT_EQ(HexPairOrZero("12G", 3), 0);
+}
+
 TEST(Columns, CountFromOne) {
   EXPECT_EQ(Columns("S214FF8000", 1, 2), "S2");
   EXPECT_EQ(Columns("S214FF8000", 5, 6), "FF8000");

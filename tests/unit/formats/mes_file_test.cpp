@@ -165,26 +165,6 @@ TEST(FormatMesHeader, WritesOnlyTheLowSixteenBitsOfMemLength) {
   EXPECT_EQ(FormatMesHeader(set, 15), With(kHeader, 20, "2345"));
 }
 
-TEST(MesBlockOffset, StandsBehindHeaderAndEarlierBlocks) {
-  const MessageSet set = SetOf(MesFile());
-  EXPECT_EQ(MesBlockOffset(set, 0), 24);
-  EXPECT_EQ(MesBlockOffset(set, 1), 24 + 36);
-  EXPECT_EQ(MesBlockOffset(set, 101), 24 + 101 * 36);
-}
-
-TEST(MesBlockOffset, IsAnErrorBeforeTheStartOfTheFile) {
-  MessageSet set;
-  set.BlockLength = -8;
-  EXPECT_EQ(MesBlockOffset(set, 3), 0);
-  EXPECT_THROW(MesBlockOffset(set, 4), Error);
-}
-
-TEST(MesMessageOffset, StandsBehindTheNameAndEarlierMessages) {
-  const MessageSet set = SetOf(MesFile());
-  EXPECT_EQ(MesMessageOffset(set, 0, 0), 44);
-  EXPECT_EQ(MesMessageOffset(set, 1, 2), 60 + 20 + 8);
-}
-
 TEST(MesNames, FollowOneAnotherToTheEndOfTheFile) {
   const MesFile file{.names = {"Default", "ITALIANO", "ENGLISH"}};
   EXPECT_THAT(ReadMesNames(SetOf(file), file.Bytes()),

@@ -40,7 +40,7 @@ class MsxLinesTest : public ::testing::Test {
   std::string Rewritten(std::string_view line) {
     std::string content = MsxFile(1);
     content.replace(kHeaderLine, kLine - 2, line);
-    const std::string lines = BuildMsxLines(set_, content).content;
+    const std::string lines = BuildMsxLines(set_, content).bytes;
     return lines.substr(0, lines.find('\r'));
   }
 
@@ -57,9 +57,9 @@ class MsxLinesTest : public ::testing::Test {
 };
 
 TEST_F(MsxLinesTest, AreTheOldOnesWhenNothingChanged) {
-  const MsxLines lines = BuildMsxLines(set_, MsxFile(1));
-  EXPECT_EQ(lines.position, static_cast<std::int64_t>(kHeaderLine) + 1);
-  EXPECT_TRUE(SameBytes(lines.content, MsxFile(1).substr(kHeaderLine)));
+  const FilePatch lines = BuildMsxLines(set_, MsxFile(1));
+  EXPECT_EQ(lines.position, static_cast<std::int64_t>(kHeaderLine));
+  EXPECT_TRUE(SameBytes(lines.bytes, MsxFile(1).substr(kHeaderLine)));
 }
 
 TEST_F(MsxLinesTest, CarryTheChecksumOverCountAddressAndData) {
@@ -91,7 +91,7 @@ TEST_F(MsxLinesTest, DoNotLookAtTheLengthOfTheOldData) {
 
 TEST_F(MsxLinesTest, AreAlways455) {
   set_.LastMsg = 3;
-  EXPECT_TRUE(SameBytes(BuildMsxLines(set_, MsxFile(2)).content, MsxFile(1).substr(kHeaderLine)));
+  EXPECT_TRUE(SameBytes(BuildMsxLines(set_, MsxFile(2)).bytes, MsxFile(1).substr(kHeaderLine)));
 }
 
 TEST_F(MsxLinesTest, AreAsWideAsTheSet) {
@@ -103,14 +103,14 @@ TEST_F(MsxLinesTest, AreAsWideAsTheSet) {
 
 TEST_F(MsxLinesTest, ReplaceTheRunOfTheDestinationLanguage) {
   set_.DestLang = 3;
-  const MsxLines lines = BuildMsxLines(set_, MsxFile(3));
-  EXPECT_EQ(lines.position, static_cast<std::int64_t>(kHeaderLine + 2 * 455 * kLine) + 1);
-  EXPECT_THAT(lines.content, testing::StartsWith(S2Line(0xFF0000 + 910 * 16, MsxMessage(1, 0))));
+  const FilePatch lines = BuildMsxLines(set_, MsxFile(3));
+  EXPECT_EQ(lines.position, static_cast<std::int64_t>(kHeaderLine + 2 * 455 * kLine));
+  EXPECT_THAT(lines.bytes, testing::StartsWith(S2Line(0xFF0000 + 910 * 16, MsxMessage(1, 0))));
 }
 
 TEST_F(MsxLinesTest, ReplaceTheFirstLanguageForDestLangZero) {
   set_.DestLang = 0;
-  EXPECT_EQ(BuildMsxLines(set_, MsxFile(2)).position, static_cast<std::int64_t>(kHeaderLine) + 1);
+  EXPECT_EQ(BuildMsxLines(set_, MsxFile(2)).position, static_cast<std::int64_t>(kHeaderLine));
 }
 
 TEST_F(MsxLinesTest, AreRefusedForALanguagePartlyBehindTheEndOfTheFile) {
@@ -126,9 +126,14 @@ TEST_F(MsxLinesTest, AreRefusedUnlessAllOldOnesEndInCrLf) {
   std::string content = MsxFile(2);
   content.erase(kHeaderLine + 455 * kLine - 2, 1);
   EXPECT_THAT(ReasonAgainst(content), HasSubstr("line 456 does not end in CR LF"));
-  std::string unfinished = MsxFile(1);
-  unfinished.resize(unfinished.size() - 2);
-  EXPECT_THAT(ReasonAgainst(unfinished), HasSubstr("line 456 does not end in CR LF"));
+}
+
+TEST_F(MsxLinesTest, GetTheLineEndThatTheLastLineOfTheFileHasNot) {
+  const std::string whole = MsxFile(1);
+  for (const std::size_t missing : {1U, 2U}) {
+    EXPECT_TRUE(SameBytes(BuildMsxLines(set_, whole.substr(0, whole.size() - missing)).bytes,
+                          whole.substr(kHeaderLine)));
+  }
 }
 
 TEST_F(MsxLinesTest, DoNotMindTheLineEndsOfOtherLanguages) {
@@ -136,8 +141,8 @@ TEST_F(MsxLinesTest, DoNotMindTheLineEndsOfOtherLanguages) {
   std::string content = MsxFile(3);
   content.erase(kHeaderLine + 2 * 455 * kLine + kLine - 2, 1);  // in language 3
   content.erase(kHeaderLine + kLine - 2, 1);                    // in language 1
-  const MsxLines lines = BuildMsxLines(set_, content);
-  EXPECT_EQ(lines.position, static_cast<std::int64_t>(kHeaderLine + 455 * kLine - 1) + 1);
+  const FilePatch lines = BuildMsxLines(set_, content);
+  EXPECT_EQ(lines.position, static_cast<std::int64_t>(kHeaderLine + 455 * kLine - 1));
 }
 
 TEST_F(MsxLinesTest, AreRefusedWithoutAHeadToKeep) {

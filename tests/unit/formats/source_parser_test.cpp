@@ -94,6 +94,22 @@ TEST(ParseSource, CountsTheDirectivesSeenAtTheEndOfEachSection) {
   EXPECT_TRUE(sections[2].ends_file);
 }
 
+TEST(ParseSource, EndsTheFileWithADirectiveThatIsItsLastLine) {
+  for (const std::string_view end : {"", "\n", "\r\n"}) {
+    const auto sections = ParseSource(" ORG 1\n" + Line("ABCD") + " .SECT 2\n" + Line("EFGH") +
+                                      " ORG 3" + std::string(end));
+    ASSERT_THAT(sections, SizeIs(2));
+    EXPECT_THAT(sections[1].texts, ElementsAre(Codes("EFGH")));
+    EXPECT_EQ(sections[1].directives, 3U);
+    EXPECT_FALSE(sections[0].ends_file);
+    EXPECT_TRUE(sections[1].ends_file);
+  }
+}
+
+TEST(ParseSource, RefusesASectionOfWhichOnlyTheDirectiveAndABlankLineAreThere) {
+  EXPECT_THAT(ReasonOfRefusal(" ORG 1\n" + Line("ABCD") + " ORG 2\n\n"), HasSubstr("line 4"));
+}
+
 TEST(ParseSource, FindsADirectiveInsideAnyWord) {
   EXPECT_THAT(ParseSource("; FORGET\n" + Line("ABCD") + "XORGX\n" + Line("EFGH")), SizeIs(2));
 }
@@ -169,21 +185,45 @@ TEST(ParseSource, TakesTextsOf40Cells) {
   EXPECT_EQ(ParseSource(Line(std::string(40, 'x'))).at(0).width, 40);
 }
 
-TEST(ParseSource, RefusesAWiderTextNamingItsLineAndWidth) {
-  EXPECT_THAT(ReasonOfRefusal(Line("ABCD") + Line(std::string(41, 'x'))),
-              testing::AllOf(HasSubstr("line 2"), HasSubstr("41")));
+TEST(ParseSource, TakesTheFirst40CellsOfAWiderText) {
+  const auto sections =
+      ParseSource(Line("ABCD") + Line(std::string(40, 'x') + "y") + Line(std::string(255, 'z')));
+  ASSERT_THAT(sections, SizeIs(1));
+  EXPECT_THAT(sections[0].texts,
+              ElementsAre(Codes("ABCD"), Codes(std::string(40, 'x')), Codes(std::string(40, 'z'))));
+  EXPECT_EQ(sections[0].width, 255);
 }
 
-TEST(ParseSource, Takes513TextsASection) {
-  const auto sections = ParseSource(" ORG 1\n" + Lines(513, "AB") + " ORG 2\n" + Lines(513, "CD"));
+TEST(ParseSource, NotesTheLinesWhoseTextsWereCut) {
+  const auto sections =
+      ParseSource(" ORG 1\n" + Line(std::string(40, 'x')) + Line(std::string(41, 'x')) +
+                  Line(std::string(41, 'y')) + " ORG 2\n" + Line(std::string(42, 'z')));
   ASSERT_THAT(sections, SizeIs(2));
-  EXPECT_THAT(sections[0].texts, SizeIs(513));
-  EXPECT_THAT(sections[1].texts, SizeIs(513));
+  EXPECT_THAT(sections[0].cut_lines, ElementsAre(3, 4));
+  EXPECT_THAT(sections[1].cut_lines, ElementsAre(6));
+}
+
+TEST(ParseSource, ComparesTheWholeWidthsOfTextsThatAreCut) {
+  EXPECT_TRUE(
+      ParseSource(Line(std::string(42, 'x')) + Line(std::string(41, 'x'))).at(0).width_error);
+}
+
+TEST(ParseSource, RefusesATextWhoseWidthDoesNotFitAByteNamingItsLine) {
+  EXPECT_THAT(ReasonOfRefusal(Line("ABCD") + Line(std::string(256, 'x'))),
+              testing::AllOf(HasSubstr("line 2"), HasSubstr("256")));
+}
+
+TEST(ParseSource, Takes65535TextsASection) {
+  const auto sections =
+      ParseSource(" ORG 1\n" + Lines(514, "AB") + " ORG 2\n" + Lines(65535, "CD"));
+  ASSERT_THAT(sections, SizeIs(2));
+  EXPECT_THAT(sections[0].texts, SizeIs(514));
+  EXPECT_THAT(sections[1].texts, SizeIs(65535));
 }
 
 TEST(ParseSource, RefusesAFurtherTextNamingItsLineAndNumber) {
-  EXPECT_THAT(ReasonOfRefusal("; first\n" + Lines(514, "AB")),
-              testing::AllOf(HasSubstr("line 515"), HasSubstr("514")));
+  EXPECT_THAT(ReasonOfRefusal("; first\n" + Lines(65536, "AB")),
+              testing::AllOf(HasSubstr("line 65537"), HasSubstr("65536")));
 }
 
 TEST(ParseSource, RefusesAQuoteAloneNamingItsLine) {
@@ -223,7 +263,7 @@ TEST(ParseSource, ReadsOrRefusesRandomBytes) {
     }
     try {
       for (const SourceSection& section : ParseSource(source)) {
-        EXPECT_LE(section.width, 40);
+        EXPECT_GE(section.width, 1);
       }
     } catch (const Error& error) {
       EXPECT_THAT(error.what(), HasSubstr("line "));

@@ -50,6 +50,19 @@ TEST(CheckSRecords, TakesLinesThatEndInLfAndALastLineWithoutEnd) {
   EXPECT_THAT(CheckSRecords(kFirst + "\n" + kSecond), IsEmpty());
 }
 
+// It cannot be opened as a message file.
+TEST(CheckSRecords, ReportsTheFirstLineOfAMsxFileThatEndsInLfAlone) {
+  const std::string header(kHeader);
+  EXPECT_THAT(CheckSRecords(header + "\r\n" + kFirst + "\n" + kSecond + "\n"),
+              ElementsAre("line 2: ends in LF alone, a .MSX file needs CR LF"));
+  EXPECT_THAT(CheckSRecords(header + "\n" + kFirst + "\n"),
+              ElementsAre("line 1: ends in LF alone, a .MSX file needs CR LF"));
+}
+
+TEST(CheckSRecords, TakesAMsxFileWhoseLastLineHasNoEnd) {
+  EXPECT_THAT(CheckSRecords(std::string(kHeader) + "\r\n" + kFirst), IsEmpty());
+}
+
 TEST(CheckSRecords, KnowsTheHeaderChecksumOfAnIdentifiedCopy) {
   EXPECT_THAT(CheckSRecords(File({kHeader, kFirst})), IsEmpty());
 }
@@ -159,6 +172,27 @@ TEST(CheckSRecords, FindsEveryFileThatIsCutInsideALine) {
               sound_lengths.contains(length))
         << length;
   }
+}
+
+TEST(CheckSRecords, GivesUpAFileOfWhichTooMuchIsWrong) {
+  std::string file;
+  for (int i = 0; i < 20000; ++i) {
+    file += "x\n";
+  }
+  const auto findings = CheckSRecords(file);
+  EXPECT_THAT(findings, testing::SizeIs(10001));
+  EXPECT_THAT(findings.at(9999), StartsWith("line 10000: "));
+  EXPECT_EQ(findings.at(10000), "line 10001 and what follows was not checked: too much is wrong");
+}
+
+TEST(CheckSRecords, ChecksAFileToItsEndWhenJustAboutTooMuchIsWrong) {
+  std::string file;
+  for (int i = 0; i < 9999; ++i) {
+    file += "x\n";
+  }
+  const auto findings = CheckSRecords(file);
+  EXPECT_THAT(findings, testing::SizeIs(10000));
+  EXPECT_EQ(findings.back(), "the file holds no data record");
 }
 
 TEST(CheckSRecords, TakesRandomBytesWithoutHarm) {

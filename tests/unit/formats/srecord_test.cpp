@@ -185,5 +185,33 @@ TEST(ParseSRecord, NamesTheColumnOfWhatIsNotHexadecimal) {
   EXPECT_THAT(ReasonAgainst("S1031234-1"), HasSubstr("column 9"));
 }
 
+TEST(LenientRecord, IsTakenApartByItsColumns) {
+  const LenientRecord record("S206FF8000A1B2C3");
+  EXPECT_EQ(record.Head(), "S206FF8000");
+  EXPECT_EQ(record.Count(), 6);
+  EXPECT_EQ(record.LowAddress(), 0x8000U);
+  EXPECT_EQ(record.Data(0), 0xA1);
+  EXPECT_EQ(record.Data(1), 0xB2);
+  EXPECT_EQ(record.DataDigits(2), "A1B2");
+}
+
+TEST(LenientRecord, CountsWhatIsNotHexadecimalAsZero) {
+  const LenientRecord record("S2XXFF80G0A1-2C3");
+  EXPECT_EQ(record.Count(), 0);
+  EXPECT_EQ(record.LowAddress(), 0U);
+  EXPECT_EQ(record.Data(0), 0xA1);
+  EXPECT_EQ(record.Data(1), 0);
+  EXPECT_EQ(record.Data(2), 0xC3);
+}
+
+TEST(LenientRecord, LacksWhatStandsBehindTheEndOfTheLine) {
+  EXPECT_EQ(LenientRecord("").Head(), "");
+  EXPECT_EQ(LenientRecord("").Count(), 0);
+  EXPECT_EQ(LenientRecord("S214FF").Head(), "S214FF");
+  EXPECT_EQ(LenientRecord("S214FF").LowAddress(), 0U);
+  EXPECT_EQ(LenientRecord("S214FF8000A1").Data(1), 0);
+  EXPECT_EQ(LenientRecord("S214FF8000A1").DataDigits(16), "A1");
+}
+
 }  // namespace
 }  // namespace vendlingua

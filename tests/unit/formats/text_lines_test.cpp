@@ -54,13 +54,23 @@ TEST(TextLines, TellWhereTheyBegin) {
   EXPECT_EQ(lines.Next()->offset, 6U);
 }
 
-TEST(TextLines, TellWhetherTheyEndInCrLf) {
+TEST(TextLines, TellHowTheyEnd) {
   TextLines lines("a\r\nb\n\r\n\nc\r");
-  EXPECT_TRUE(lines.Next()->ends_in_crlf);
-  EXPECT_FALSE(lines.Next()->ends_in_crlf);
-  EXPECT_TRUE(lines.Next()->ends_in_crlf);
-  EXPECT_FALSE(lines.Next()->ends_in_crlf);
-  EXPECT_FALSE(lines.Next()->ends_in_crlf);
+  EXPECT_EQ(lines.Next()->end, LineEnd::kCrAndLf);
+  EXPECT_EQ(lines.Next()->end, LineEnd::kLfAlone);
+  EXPECT_EQ(lines.Next()->end, LineEnd::kCrAndLf);
+  EXPECT_EQ(lines.Next()->end, LineEnd::kLfAlone);
+  EXPECT_EQ(lines.Next()->end, LineEnd::kEndOfFile);
+}
+
+TEST(TextLines, TellWhetherTheyAreAllRead) {
+  EXPECT_TRUE(TextLines("").AtEnd());
+  TextLines lines("a\nb");
+  EXPECT_FALSE(lines.AtEnd());
+  lines.Next();
+  EXPECT_FALSE(lines.AtEnd());
+  lines.Next();
+  EXPECT_TRUE(lines.AtEnd());
 }
 
 TEST(TextLines, CountWhatWasRead) {

@@ -637,6 +637,13 @@ TEST_F(MsxPatch, LeavesAFileThatEndsInsideTheLanguageAsItWas) {
   EXPECT_THAT(dialogs_.messages, IsEmpty());
 }
 
+TEST_F(MsxPatch, EndsALastLineThatHadNoEnd) {
+  Open("OPEN.MSX", bytes_.substr(0, bytes_.size() - 2));
+  engine_.languages.ChooseDestination(2);
+  EXPECT_EQ(engine_.writer.Save().result, SaveOutcome::kSaved);
+  EXPECT_TRUE(SameBytes(Slurp(folder_ / "OPEN.MSX"), bytes_));
+}
+
 TEST_F(MsxPatch, LeavesAFileWhoseLinesDoNotEndInCrLfAsItWas) {
   std::string bytes = bytes_;
   bytes.erase(44 + 500 * 46 - 2, 1);

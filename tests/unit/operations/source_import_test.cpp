@@ -233,6 +233,16 @@ TEST_F(SectionImportTest, MakesOneLanguageOfEachSection) {
                                             "TRE                 12345678");
 }
 
+TEST_F(SectionImportTest, MakesNoLanguageOfADirectiveThatIsTheLastLine) {
+  answers_ = {"2", "1", "&H6000", "24", "uno", "due"};
+  EXPECT_EQ(Import(two_sections_ + " ORG 3\r\n"), OpenOutcome::kOpened);
+  EXPECT_TRUE(dialogs_.input_answers.empty());
+  EXPECT_EQ(Slurp(folder_ / "NEW.MES"), std::string("\x02\x03") + "0000010001000060000018" +
+                                            "Default             ABCDEFGH        " +
+                                            "UNO                 ABCDEFGH        " +
+                                            "DUE                 abcdefgh");
+}
+
 TEST_F(SectionImportTest, AsksForTheFileOnlyOnce) {
   answers_ = {"2", "1", "&H6000", "24", "uno", "due", "tre"};
   Import(two_sections_ + third_section_);
@@ -489,6 +499,23 @@ TEST_F(SourceImportTest, TakesTheLargestBlocksThatDoNotWrap) {
   answers_ = {"1", "1", "&H6000", "32740", "italiano"};
   EXPECT_EQ(Import(three_texts_), OpenOutcome::kOpened);
   EXPECT_EQ(set_.BlockLength, 32764.0F);
+}
+
+// 65520 / 16 are 4095 slots; 16 x (4095 + 1) + 20 bytes wrap to 20.
+TEST_F(SourceImportTest, RefusesAMemoryWhoseBlocksWouldOverlap) {
+  answers_ = {"1", "1", "&H6000", "&HFFF0", "italiano"};
+  EXPECT_THAT(ReasonOfRefusal(Lines(3, kText16)),
+              testing::AllOf(HasSubstr("SOURCE.MES: "), HasSubstr("4096 message slots of 16 cells"),
+                             HasSubstr("wrap to 20 bytes")));
+  ExpectNothingWrittenAndNoFileOpen();
+}
+
+// 73728 / 16 are 4608 slots; 16 x (4608 + 1) + 20 bytes wrap to 8228: room for the texts, but not
+// for the slots that a new file has.
+TEST_F(SourceImportTest, RefusesAMemoryWhoseBlocksWouldBeShorterThanTheirSlots) {
+  answers_ = {"1", "1", "&H6000", "73728", "italiano"};
+  EXPECT_THAT(ReasonOfRefusal(Lines(3, kText16)), HasSubstr("wrap to 8228 bytes"));
+  ExpectNothingWrittenAndNoFileOpen();
 }
 
 TEST_F(SourceImportTest, EndsWithoutAFileWhenTheSaveIsCancelled) {

@@ -5,6 +5,7 @@
 #include <filesystem>
 #include <functional>
 #include <string>
+#include <vector>
 
 #include "core/platform/errors.h"
 #include "support/full_disk.h"
@@ -81,6 +82,20 @@ TEST_F(Files, AreReplacedWhereALinkLeads) {
   WriteFile(folder / "link.bin", "new");
   EXPECT_TRUE(fs::is_symlink(folder / "link.bin"));
   EXPECT_EQ(Slurp(folder / "old.bin"), "new");
+}
+
+TEST_F(Files, AreCreatedWhereALinkToNothingLeads) {
+  fs::create_symlink("new.bin", folder / "link.bin");
+  WriteFile(folder / "link.bin", "new");
+  EXPECT_TRUE(fs::is_symlink(folder / "link.bin"));
+  EXPECT_EQ(Slurp(folder / "new.bin"), "new");
+}
+
+TEST_F(Files, ThatAreLinksInACircleAreRefused) {
+  fs::create_symlink("b.bin", folder / "a.bin");
+  fs::create_symlink("a.bin", folder / "b.bin");
+  EXPECT_THROW(WriteFile(folder / "a.bin", "x"), FileError);
+  EXPECT_EQ(folder.Names(), "a.bin b.bin");
 }
 
 TEST_F(Files, ThatAreDevicesTakeTheirBytesWhereTheyAre) {
@@ -172,7 +187,7 @@ TEST_F(Files, OnAFullDiskFailToBePatched) {
   }
   EXPECT_THAT(FailureOf([] {
                 PatchFile file("/dev/full", PatchFile::IfMissing::kFail);
-                file.WriteAt(1, "x");
+                file.WriteAt(0, "x");
                 file.Close();
               }),
               HasSubstr("cannot be written"));
@@ -183,8 +198,8 @@ using PatchFileTest = Files;
 TEST_F(PatchFileTest, ChangesOnlyTheBytesThatAreWritten) {
   const fs::path path = folder.Write("a.bin", "0123456789");
   PatchFile file(path, PatchFile::IfMissing::kFail);
-  file.WriteAt(1, "A");
-  file.WriteAt(4, "BC");
+  file.WriteAt(0, "A");
+  file.WriteAt(3, "BC");
   file.Close();
   EXPECT_EQ(Slurp(path), "A12BC56789");
 }
@@ -192,7 +207,7 @@ TEST_F(PatchFileTest, ChangesOnlyTheBytesThatAreWritten) {
 TEST_F(PatchFileTest, LengthensTheFileFromItsEnd) {
   const fs::path path = folder.Write("a.bin", "0123");
   PatchFile file(path, PatchFile::IfMissing::kFail);
-  file.WriteAt(4, "XYZ");
+  file.WriteAt(3, "XYZ");
   file.Close();
   EXPECT_EQ(Slurp(path), "012XYZ");
 }
@@ -200,7 +215,7 @@ TEST_F(PatchFileTest, LengthensTheFileFromItsEnd) {
 TEST_F(PatchFileTest, FillsAGapBehindTheOldEndWithZeros) {
   const fs::path path = folder.Write("a.bin", "01");
   PatchFile file(path, PatchFile::IfMissing::kFail);
-  file.WriteAt(6, "X");
+  file.WriteAt(5, "X");
   file.Close();
   EXPECT_EQ(Slurp(path), std::string("01\0\0\0X", 6));
 }
@@ -208,7 +223,7 @@ TEST_F(PatchFileTest, FillsAGapBehindTheOldEndWithZeros) {
 TEST_F(PatchFileTest, WritesEveryByteAsItIs) {
   const fs::path path = folder.Write("a.bin", "");
   PatchFile file(path, PatchFile::IfMissing::kFail);
-  file.WriteAt(1, AllBytes());
+  file.WriteAt(0, AllBytes());
   file.Close();
   EXPECT_EQ(Slurp(path), AllBytes());
 }
@@ -216,14 +231,14 @@ TEST_F(PatchFileTest, WritesEveryByteAsItIs) {
 TEST_F(PatchFileTest, TruncatesNothingWhenItMayCreate) {
   const fs::path path = folder.Write("a.bin", "0123456789");
   PatchFile file(path, PatchFile::IfMissing::kCreate);
-  file.WriteAt(1, "AB");
+  file.WriteAt(0, "AB");
   file.Close();
   EXPECT_EQ(Slurp(path), "AB23456789");
 }
 
 TEST_F(PatchFileTest, CreatesAMissingFileWhenItMay) {
   PatchFile file(folder / "new.bin", PatchFile::IfMissing::kCreate);
-  file.WriteAt(1, "AB");
+  file.WriteAt(0, "AB");
   file.Close();
   EXPECT_EQ(Slurp(folder / "new.bin"), "AB");
 }
@@ -233,11 +248,35 @@ TEST_F(PatchFileTest, CreatesNoMissingFileOtherwise) {
   EXPECT_EQ(folder.Names(), "");
 }
 
+// Users know the positions of the file's layout from 1 on.
+TEST_F(PatchFileTest, NamesThePositionThatCannotBeWrittenFromOne) {
+  const fs::path path = folder.Write("a.bin", "0123");
+  const test::FullDisk disk(4);
+  EXPECT_THAT(FailureOf([&path] {
+                PatchFile file(path, PatchFile::IfMissing::kFail);
+                file.WriteAt(4, std::string(100000, 'x'));
+                file.Close();
+              }),
+              HasSubstr("cannot be written at position 5"));
+}
+
 TEST_F(PatchFileTest, RefusesAPositionBeforeTheFirst) {
   const fs::path path = folder.Write("a.bin", "0123");
   PatchFile file(path, PatchFile::IfMissing::kFail);
-  EXPECT_THROW(file.WriteAt(0, "X"), FileError);
+  EXPECT_THROW(file.WriteAt(-1, "X"), FileError);
   EXPECT_EQ(Slurp(path), "0123");
+}
+
+TEST_F(Files, ArePatchedInSeveralPlaces) {
+  const fs::path path = folder.Write("a.bin", "0123456789");
+  const std::vector<FilePatch> patches = {{8, "IJK"}, {0, "A"}, {3, ""}, {5, "F"}};
+  ApplyPatches(path, patches);
+  EXPECT_EQ(Slurp(path), "A1234F67IJK");
+}
+
+TEST_F(Files, ThatAreMissingAreNotPatched) {
+  EXPECT_THROW(ApplyPatches(folder / "none.bin", {}), FileError);
+  EXPECT_EQ(folder.Names(), "");
 }
 
 }  // namespace
