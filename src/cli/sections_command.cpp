@@ -10,7 +10,7 @@ namespace {
 namespace fs = std::filesystem;
 
 void RefuseToReplaceInput(const fs::path& input, const fs::path& base) {
-  const std::vector<KeptFile> kept = {{input, "the flash file that is read"}};
+  const std::vector<KeptFile> kept = {{input, UiTextId::kIsReadFile}};
   for (const fs::path& path : SectionFiles::Paths(base)) {
     RefuseToReplace(kept, path);
   }

@@ -141,15 +141,14 @@ MessageSet::Saved MessageSet::ToSave() const { return {DestText, LastMsg, Displa
 
 std::uint16_t MesLangStride(std::uint32_t mem_length, std::uint32_t lang_count, std::size_t width) {
   if (lang_count == 0) {
-    throw Error("the number of languages is 0");
+    throw Error(UiTextId::kNoLanguages);
   }
   if (width == 0) {
-    throw Error("the message width is 0");
+    throw Error(UiTextId::kNoWidth);
   }
   const std::size_t stride = mem_length / lang_count / width;
   if (stride > std::numeric_limits<std::uint16_t>::max()) {
-    throw Error("a memory of " + std::to_string(mem_length) + " bytes gives " +
-                std::to_string(stride) + " messages a language, at most 65535 are possible");
+    throw Error(UiTextId::kTooManySlots, mem_length, stride);
   }
   return static_cast<std::uint16_t>(stride);
 }

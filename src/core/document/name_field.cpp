@@ -9,8 +9,7 @@ namespace vendlingua {
 NameField NameField::FromCaption(std::string_view utf8) {
   const CodesFromUtf8 converted = ToDisplayCodes(utf8);
   if (converted.unknown) {
-    throw Error("The name \"" + std::string(utf8) + "\" holds the character \"" +
-                *converted.unknown + "\", which the display does not have. Choose another name.");
+    throw Error(UiTextId::kNameNotOnDisplay, utf8, *converted.unknown);
   }
   return NameField(converted.codes);
 }

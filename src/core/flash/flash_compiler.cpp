@@ -16,10 +16,6 @@ namespace {
 
 namespace fs = std::filesystem;
 
-// What the two files are that a compilation asks for.
-constexpr const char* kFlashFileTitle = "Save the flash file";
-constexpr const char* kCopyTitle = "Save the copy with identification header";
-
 void Write(const fs::path& path, std::initializer_list<std::string_view> pieces,
            CompileOutcome& outcome) {
   WriteFile(path, pieces);
@@ -56,8 +52,8 @@ CompileOutcome FlashCompiler::Compile() {
   workspace_.folders.current = workspace_.folders.program;
   SetBusy(true);
   try {
-    const fs::path flash_file =
-        AskPath(FilePurpose::kFlashFile, kFlashFileTitle, FlashExtension(workspace_.set), true);
+    const fs::path flash_file = AskPath(FilePurpose::kFlashFile, UiTextId::kFlashFileTitle,
+                                        FlashExtension(workspace_.set), true);
     if (flash_file.empty()) {
       SetBusy(false);
       return outcome;
@@ -88,11 +84,11 @@ void FlashCompiler::Run(CompileOutputs outputs, CompileOutcome& outcome) {
 }
 
 // Empty when nothing was chosen.
-fs::path FlashCompiler::AskPath(FilePurpose purpose, const std::string& title,
-                                const std::string& extension, bool overwrite_prompt) {
+fs::path FlashCompiler::AskPath(FilePurpose purpose, UiTextId title, const std::string& extension,
+                                bool overwrite_prompt) {
   const std::string wildcard = "*." + extension;
   const auto path = dialogs_.SaveFile({.purpose = purpose,
-                                       .title = title,
+                                       .title = workspace_.ui_text[title],
                                        .initial_name = wildcard,
                                        .default_extension = extension,
                                        .filters = {{"Flash File", extension}},
@@ -106,13 +102,12 @@ fs::path FlashCompiler::AskPath(FilePurpose purpose, const std::string& title,
 }
 
 void FlashCompiler::CheckOutputs(const CompileOutputs& outputs) const {
-  std::vector<KeptFile> kept = {
-      {workspace_.set.CurrentFileName, "the message file that is being compiled"}};
+  std::vector<KeptFile> kept = {{workspace_.set.CurrentFileName, UiTextId::kIsMessageFile}};
   RefuseToReplace(kept, outputs.flash_file);
-  kept.push_back({outputs.flash_file, "the flash file"});
+  kept.push_back({outputs.flash_file, UiTextId::kIsFlashFile});
   if (outputs.copy) {
     RefuseToReplace(kept, *outputs.copy);
-    kept.push_back({*outputs.copy, "the identified copy"});
+    kept.push_back({*outputs.copy, UiTextId::kIsIdentifiedCopy});
   }
   if (IsMhxFamily()) {
     for (const fs::path& path : SectionFiles::Paths(SectionBase(outputs.flash_file))) {
@@ -173,9 +168,7 @@ void FlashCompiler::CompileMsx(const CompileOutputs& outputs, CompileOutcome& ou
   std::size_t written = 0;
   while (const auto line = lines.Next()) {
     if (lines.count() > kMostLines) {
-      throw FileError(
-          workspace_.set.CurrentFileName,
-          fmt::format("the file has more than {} lines; nothing was written", kMostLines));
+      throw FileError(workspace_.set.CurrentFileName, UiTextId::kTooManyLines, kMostLines);
     }
     if (written < kMsxLinesCompiled) {
       records.append(line->text).append(kCrLf);
@@ -191,7 +184,8 @@ void FlashCompiler::CompileMsx(const CompileOutputs& outputs, CompileOutcome& ou
 // False when the run stops here.
 bool FlashCompiler::WriteNineLanguageCopy(CompileOutputs& outputs, const std::string& records,
                                           CompileOutcome& outcome) {
-  const fs::path copy = AskPath(FilePurpose::kIdentifiedCopy, kCopyTitle, "MSX", false);
+  const fs::path copy =
+      AskPath(FilePurpose::kIdentifiedCopy, UiTextId::kIdentifiedCopyTitle, "MSX", false);
   if (copy.empty()) {
     return false;
   }

@@ -58,8 +58,8 @@ class FlashCompiler {
 
  private:
   bool IsMhxFamily() const { return workspace_.set.HeaderBit1 != kFalse; }
-  std::filesystem::path AskPath(FilePurpose purpose, const std::string& title,
-                                const std::string& extension, bool overwrite_prompt);
+  std::filesystem::path AskPath(FilePurpose purpose, UiTextId title, const std::string& extension,
+                                bool overwrite_prompt);
   std::optional<std::filesystem::path> NamedCopy(const std::filesystem::path& flash_file) const;
   void Run(CompileOutputs outputs, CompileOutcome& outcome);
   bool CompileMes(CompileOutputs& outputs, CompileOutcome& outcome);

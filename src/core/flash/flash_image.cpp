@@ -18,9 +18,7 @@ std::size_t SlotLength(const MessageSet& set) { return set.MemLength / set.LangC
 std::string_view MessagesOf(const MessageSet& set, std::string_view mes_content, int language) {
   const auto offset = static_cast<std::size_t>(MesMessageOffset(set, language, 0));
   if (offset > mes_content.size()) {
-    throw FileError(
-        set.CurrentFileName,
-        fmt::format("the file does not hold language {}; nothing was written", language));
+    throw FileError(set.CurrentFileName, UiTextId::kLanguageIsMissing, language);
   }
   return mes_content.substr(offset, set.MessageCount() * set.Width());
 }
@@ -39,11 +37,9 @@ void FlashImage::MatchTo(const MessageSet& set) {
   }
 }
 
-void FlashImage::RequireInside(std::size_t end, std::string_view what) const {
+void FlashImage::RequireInside(std::size_t end, UiTextId id) const {
   if (end > bytes_.size()) {
-    throw Error(
-        fmt::format("{} end at byte {} of the flash image, which has {} bytes; nothing was written",
-                    what, end, bytes_.size()));
+    throw Error(id, end, bytes_.size());
   }
 }
 
@@ -52,7 +48,7 @@ std::vector<int> FlashImage::Pack(const MessageSet& set, std::string_view mes_co
   const std::size_t language_bytes = set.MessageCount() * set.Width();
   if (!languages.empty()) {
     RequireInside((languages.size() - 1) * SlotLength(set) + language_bytes,
-                  "the messages of the chosen languages");
+                  UiTextId::kMessagesOutsideImage);
   }
   std::vector<int> short_languages;
   for (std::size_t slot = 0; slot < languages.size(); ++slot) {
@@ -72,15 +68,12 @@ void FlashImage::WriteLanguageNames(const MessageSet& set) {
   const std::size_t slots = set.LangCount;
   const std::size_t width = set.Width();
   if (slots > kMaxNames) {
-    throw Error(
-        fmt::format("the list of language names holds at most {} slots, the file declares {}; "
-                    "nothing was written",
-                    kMaxNames, slots));
+    throw Error(UiTextId::kTooManySlotsForNames, kMaxNames, slots);
   }
   const auto list_offset = [&](std::size_t slot) {
     return slot * SlotLength(set) + width * set.HeaderCount;
   };
-  RequireInside(list_offset(slots - 1) + slots * width, "the language names of the last slot");
+  RequireInside(list_offset(slots - 1) + slots * width, UiTextId::kNamesOutsideImage);
   std::vector<std::uint8_t> names;
   for (std::size_t slot = 0; slot < slots; ++slot) {
     const auto name = Bytes().subspan(list_offset(slot), width);

@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "core/document/message_set.h"
+#include "core/texts/ui_text_id.h"
 
 namespace vendlingua {
 
@@ -35,7 +36,7 @@ class FlashImage {
   std::span<const std::uint8_t> Bytes() const { return bytes_; }
 
  private:
-  void RequireInside(std::size_t end, std::string_view what) const;
+  void RequireInside(std::size_t end, UiTextId id) const;
 
   std::vector<std::uint8_t> bytes_;
   std::optional<std::uint32_t> opened_files_;

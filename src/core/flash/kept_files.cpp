@@ -1,7 +1,5 @@
 #include "core/flash/kept_files.h"
 
-#include <fmt/format.h>
-
 #include "core/platform/errors.h"
 #include "core/platform/same_file.h"
 
@@ -10,7 +8,7 @@ namespace vendlingua {
 void RefuseToReplace(std::span<const KeptFile> kept, const std::filesystem::path& output) {
   for (const KeptFile& file : kept) {
     if (LeadToSameFile(output, file.path)) {
-      throw FileError(output, fmt::format("is {}; choose another name", file.name));
+      throw FileError(output, file.refusal);
     }
   }
 }

@@ -3,14 +3,15 @@
 
 #include <filesystem>
 #include <span>
-#include <string_view>
+
+#include "core/texts/ui_text_id.h"
 
 namespace vendlingua {
 
 /// A file whose place no further output of a run may take.
 struct KeptFile {
   std::filesystem::path path;
-  std::string_view name;  ///< what it is, for the error: "the flash file"
+  UiTextId refusal;  ///< says what it is
 };
 
 /// Throws FileError when `output` leads to one of the files, also where neither is made yet.

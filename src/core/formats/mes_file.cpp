@@ -15,8 +15,8 @@ std::uint32_t HeaderField(std::string_view content, const MesField& field) {
   const std::string_view digits = content.substr(field.offset, field.digits);
   const auto value = ParseHex(digits);
   if (!value) {
-    throw Error(fmt::format("the header field {} at position {} is not hexadecimal: \"{}\"",
-                            field.name, field.offset + 1, ToUtf8(CodesFromBytes(digits))));
+    throw Error(UiTextId::kHeaderFieldNoHex, field.name, field.offset + 1,
+                ToUtf8(CodesFromBytes(digits)));
   }
   return *value;
 }
@@ -29,8 +29,7 @@ void PutField(std::string& header, const MesField& field, std::uint64_t value) {
 
 MesHeader ParseMesHeader(std::string_view content) {
   if (content.size() < kMesHeaderBytes) {
-    throw Error(
-        fmt::format("the header has {} bytes instead of {}", content.size(), kMesHeaderBytes));
+    throw Error(UiTextId::kHeaderIsCut, content.size(), kMesHeaderBytes);
   }
   MesHeader header{};
   header.lang_count = static_cast<std::uint8_t>(content[kMesLangCountOffset]);
@@ -71,9 +70,7 @@ void ApplyMesHeader(const MesHeader& header, MessageSet& set) {
   set.LangStride = MesLangStride(set.MemLength, set.LangCount, set.Width());
   set.BlockLength = MesBlockLength(set.LastCol, set.LangStride);
   if (set.MessageCount() > kLeastTexts && set.LastMsg > set.LangStride) {
-    throw Error("the header field LastMsg at position 9 gives a language " +
-                std::to_string(set.MessageCount()) + " messages, but a block has room for " +
-                std::to_string(set.LangStride + 1));
+    throw Error(UiTextId::kMessagesWithoutRoom, set.MessageCount(), set.LangStride + 1);
   }
 }
 
@@ -100,9 +97,7 @@ MessageTexts ReadMesTexts(const MessageSet& set, int language) {
     }
     const std::string_view bytes = std::string_view(content).substr(offset, set.Width());
     if (bytes.size() < set.Width()) {
-      throw FileError(
-          set.CurrentFileName,
-          fmt::format("the file ends inside message {} of language {}", message, language));
+      throw FileError(set.CurrentFileName, UiTextId::kEndsInsideMessage, message, language);
     }
     texts[message] = DisplayText(CodesFromBytes(bytes));
   }

@@ -11,9 +11,7 @@ std::int64_t MesBlockOffset(const MessageSet& set, int language) {
   const auto block_length = static_cast<std::int64_t>(set.BlockLength);
   const std::int64_t offset = static_cast<std::int64_t>(kMesHeaderBytes) + language * block_length;
   if (offset < 0) {
-    throw Error(fmt::format(
-        "the block length wraps to {} bytes, which puts language {} before the start of the file",
-        block_length, language));
+    throw Error(UiTextId::kBlockBeforeStart, block_length, language);
   }
   return offset;
 }

@@ -31,10 +31,7 @@ std::string OriginMessages(const MessageSet& set) {
 // A file that was cut by another program: with a patch alone it would be no message file any more.
 void RequireHeader(const MessageSet& set, std::size_t file_size) {
   if (file_size < kMesHeaderBytes) {
-    throw FileError(set.CurrentFileName,
-                    fmt::format("has only {} bytes since it was opened, less than its header: save "
-                                "it under another name",
-                                file_size));
+    throw FileError(set.CurrentFileName, UiTextId::kHeaderIsLost, file_size);
   }
 }
 
@@ -43,11 +40,8 @@ void RefuseToOverwriteNextBlock(const MessageSet& set, int language, std::size_t
   const std::int64_t end = MesMessageOffset(set, language, set.MessageCount());
   const std::int64_t next = MesBlockOffset(set, language + 1);
   if (end > next && static_cast<std::int64_t>(file_size) > next) {
-    throw FileError(
-        set.CurrentFileName,
-        fmt::format("a language block of {:.0f} bytes does not hold {} messages: saving would "
-                    "overwrite the next language",
-                    set.BlockLength, set.MessageCount()));
+    throw FileError(set.CurrentFileName, UiTextId::kBlockIsTooSmall,
+                    static_cast<int>(set.BlockLength), set.MessageCount());
   }
 }
 

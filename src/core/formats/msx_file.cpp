@@ -27,11 +27,9 @@ DisplayCodes DecodeMessage(const MessageSet& set, std::string_view line, std::si
   const std::string_view digits = LenientRecord(line).DataDigits(kDefaultMessageWidth);
   DisplayCodes codes = DecodeHexPairs(digits).bytes;
   if (codes.size() < kDefaultMessageWidth) {
-    throw FileError(
-        set.CurrentFileName,
-        fmt::format("line {} holds no message of {} hexadecimal pairs from column {} on: \"{}\"",
-                    line_number, kDefaultMessageWidth, LenientRecord::kDataColumn,
-                    ToUtf8(CodesFromBytes(digits))));
+    throw FileError(set.CurrentFileName, UiTextId::kNoMessageInLine, line_number,
+                    kDefaultMessageWidth, LenientRecord::kDataColumn,
+                    ToUtf8(CodesFromBytes(digits)));
   }
   return codes;
 }
@@ -41,7 +39,8 @@ void RequireNoLoneLf(const MessageSet& set, std::string_view content) {
   TextLines lines(content);
   while (const auto line = lines.Next()) {
     if (line->end == LineEnd::kLfAlone) {
-      throw FileError(set.CurrentFileName, fmt::format("line {}: {}", lines.count(), kLoneLfInMsx));
+      throw FileError(set.CurrentFileName, UiTextId::kAtLine, lines.count(),
+                      UiSentence(UiTextId::kLoneLineFeed));
     }
   }
 }
@@ -62,9 +61,7 @@ std::optional<std::vector<std::string>> ReadMsxNames(const MessageSet& set,
   std::size_t name_line = 1 + MsxLinesBefore(set, 1) + static_cast<std::size_t>(set.NameMessage());
   while (const auto line = lines.Next()) {
     if (line->HasLoneCarriageReturn()) {
-      throw FileError(
-          set.CurrentFileName,
-          fmt::format("line {} holds a carriage return that does not end it", lines.count()));
+      throw FileError(set.CurrentFileName, UiTextId::kLoneReturnInLine, lines.count());
     }
     if (lines.count() == name_line) {
       names.push_back(ToUtf8(Trim(DecodeMessage(set, line->text, lines.count()))));
@@ -93,10 +90,8 @@ MessageTexts ReadMsxTexts(const MessageSet& set, int language) {
   for (std::size_t message = 0; message < set.MessageCount(); ++message) {
     const auto line = lines.Next();
     if (!line) {
-      throw FileError(
-          set.CurrentFileName,
-          fmt::format("the file ends after line {}: message {} of language {} is missing",
-                      lines.count(), message, language));
+      throw FileError(set.CurrentFileName, UiTextId::kMessageIsMissing, lines.count(), message,
+                      language);
     }
     texts[message] = DisplayText(DecodeMessage(set, line->text, lines.count()));
   }

@@ -14,9 +14,6 @@
 
 namespace vendlingua {
 
-/// What is wrong with a line of such a file that does not end in CR LF.
-inline constexpr std::string_view kLoneLfInMsx = "ends in LF alone, a .MSX file needs CR LF";
-
 /// The dimensions of every ".MSX" file, laid out like the header of a ".MES" file. The leading
 /// blank stands where that has its `LangCount` and is not used.
 inline constexpr std::string_view kMsxConfiguration =

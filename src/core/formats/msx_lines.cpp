@@ -25,9 +25,8 @@ RecordHead ParseHead(const MessageSet& set, std::string_view line, std::size_t l
   const auto digits = Columns(text, LenientRecord::kCountColumn, 2 * kBytes);
   const std::vector<std::uint8_t> bytes = DecodeHexPairs(digits).bytes;
   if (bytes.size() < kBytes) {
-    throw FileError(set.CurrentFileName,
-                    fmt::format("line {}, column {}: no hexadecimal pair of a record's head",
-                                line_number, LenientRecord::kCountColumn + 2 * bytes.size()));
+    throw FileError(set.CurrentFileName, UiTextId::kNoRecordHead, line_number,
+                    LenientRecord::kCountColumn + 2 * bytes.size());
   }
   return {text, std::accumulate(bytes.begin(), bytes.end(), std::uint32_t{0})};
 }
@@ -52,15 +51,10 @@ FilePatch BuildMsxLines(const MessageSet& set, std::string_view content) {
   for (std::size_t i = 0; i < kDefaultMessageCount; ++i) {
     const auto line = lines.Next();
     if (!line) {
-      throw FileError(set.CurrentFileName,
-                      fmt::format("the file ends after line {}: the language lies partly behind "
-                                  "its end, nothing was written",
-                                  lines.count()));
+      throw FileError(set.CurrentFileName, UiTextId::kLanguageBehindEnd, lines.count());
     }
     if (line->end == LineEnd::kLfAlone) {
-      throw FileError(
-          set.CurrentFileName,
-          fmt::format("line {} does not end in CR LF, nothing was written", lines.count()));
+      throw FileError(set.CurrentFileName, UiTextId::kNotInCrLf, lines.count());
     }
     if (i == 0) {
       patch.position = static_cast<std::int64_t>(line->offset);

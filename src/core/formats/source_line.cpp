@@ -35,7 +35,7 @@ bool EndsPair(const QuoteTable& table, std::size_t k) {
 // Removes the character behind column `column`.
 void RemoveBehind(std::string& line, std::size_t column) {
   if (column >= line.size()) {
-    throw Error("its doubled quotes cannot be read");
+    throw Error(UiTextId::kBadDoubledQuotes);
   }
   line.erase(column, 1);
 }
@@ -73,7 +73,7 @@ std::optional<std::string> QuotedText(std::string_view source_line) {
   }
   last -= adjustment;
   if (last <= first) {
-    throw Error("it holds a quote without a text behind it");
+    throw Error(UiTextId::kLoneQuote);
   }
   return line.substr(std::min(first, line.size()), last - first - 1);
 }

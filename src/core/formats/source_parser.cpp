@@ -21,8 +21,8 @@ std::string Excerpt(std::string_view line) {
   return ToUtf8(CodesFromBytes(line.substr(0, kMostCharacters))) + (cut ? "..." : "");
 }
 
-[[noreturn]] void FailAt(std::size_t line_number, const std::string& reason) {
-  throw Error(fmt::format("line {}: {}", line_number, reason));
+[[noreturn]] void FailAt(std::size_t line_number, const UiSentence& reason) {
+  throw Error(UiTextId::kAtLine, line_number, reason);
 }
 
 // Width and number of the texts of a section are counted in a byte and in 16 bits.
@@ -40,7 +40,7 @@ class SourceParser {
   std::vector<SourceSection> Parse() {
     while (const auto line = lines_.Next()) {
       if (line->HasLoneCarriageReturn()) {
-        FailAt(lines_.count(), "it holds a carriage return that does not end it");
+        FailAt(lines_.count(), UiSentence(UiTextId::kLoneReturn));
       }
       const bool is_directive = Contains(line->text, "ORG") || Contains(line->text, ".SECT");
       if (is_directive && ++directives_ > 1) {
@@ -81,13 +81,10 @@ class SourceParser {
 
   void TakeText(const DisplayCodes& text) {
     if (text.size() > kMostCells) {
-      FailAt(lines_.count(), fmt::format("the text is {} characters long, at most {} are possible",
-                                         text.size(), kMostCells));
+      FailAt(lines_.count(), UiSentence(UiTextId::kTextTooLong, text.size(), kMostCells));
     }
     if (section_.texts.size() == kMostTexts) {
-      FailAt(lines_.count(),
-             fmt::format("this is text number {} of its section, at most {} are possible",
-                         kMostTexts + 1, kMostTexts));
+      FailAt(lines_.count(), UiSentence(UiTextId::kTooManyTexts, kMostTexts + 1, kMostTexts));
     }
     if (text.size() > DisplayText::kCells) {
       section_.cut_lines.push_back(lines_.count());
@@ -100,13 +97,13 @@ class SourceParser {
     try {
       return QuotedText(line);
     } catch (const Error& error) {
-      FailAt(lines_.count(), error.what() + (": " + Excerpt(line)));
+      FailAt(lines_.count(), UiSentence(UiTextId::kQuotedLine, error.sentence(), Excerpt(line)));
     }
   }
 
   void EndSection() {
     if (width_ == 0 || (section_.texts.empty() && !section_.width_error)) {
-      FailAt(lines_.count(), "the section that ends here holds no quoted text");
+      FailAt(lines_.count(), UiSentence(UiTextId::kNoQuotedText));
     }
     section_.width = width_;
     section_.directives = directives_;

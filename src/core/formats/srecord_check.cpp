@@ -12,6 +12,7 @@
 #include "core/formats/msx_file.h"
 #include "core/formats/srecord.h"
 #include "core/formats/text_lines.h"
+#include "core/texts/english_texts.h"
 
 namespace vendlingua {
 namespace {
@@ -55,7 +56,7 @@ class SRecordChecker {
       needs_crlf_ = IsMsxHeader(line.text);
     }
     if (needs_crlf_ && line.end == LineEnd::kLfAlone) {
-      Report(kLoneLfInMsx);
+      Report(EnglishTexts()[UiTextId::kLoneLineFeed]);
       needs_crlf_ = false;
     }
     const bool is_known =

@@ -53,10 +53,8 @@ DestinationOutcome Languages::Open(int language, bool as_new) {
 void Languages::RequireEditableWidth() const {
   const MessageSet& set = workspace_.set;
   if (set.Width() > DisplayText::kCells) {
-    throw FileError(set.CurrentFileName, "its messages are " + std::to_string(set.Width()) +
-                                             " cells wide, at most " +
-                                             std::to_string(DisplayText::kCells) +
-                                             " can be edited; it can be compiled as it is");
+    throw FileError(set.CurrentFileName, UiTextId::kTooWideToEdit, set.Width(),
+                    DisplayText::kCells);
   }
 }
 

@@ -16,7 +16,7 @@ std::string MessageFileType(const std::filesystem::path& path) {
 bool IsAssemblerSource(const std::filesystem::path& path) {
   const std::string content = ReadFile(path);
   if (content.empty()) {
-    throw FileError(path, "the file is empty");
+    throw FileError(path, UiTextId::kFileIsEmpty);
   }
   return static_cast<std::uint8_t>(content.front()) >= kFirstSourceByte;
 }
@@ -40,7 +40,7 @@ OpenOutcome MessageFileOpener::Open() {
 
 OpenOutcome MessageFileOpener::Import(const std::filesystem::path& path) {
   if (!IsAssemblerSource(path)) {
-    throw FileError(path, "is a binary message file, not an assembler source");
+    throw FileError(path, UiTextId::kNotASource);
   }
   return OpenPath(path, std::string(kMesType));
 }

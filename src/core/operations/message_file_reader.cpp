@@ -48,7 +48,7 @@ void MessageFileReader::ReloadMes() {
   set.LoadDisplayType(header.DisplayType());
   std::vector<std::string> names = ReadMesNames(set, content);
   if (names.empty()) {
-    throw Error("the file ends before the name of its first language block");
+    throw Error(UiTextId::kNoFirstBlock);
   }
   Take(std::move(names), std::move(content));
   workspace_.window.file_names_entry_0 = true;

@@ -4,6 +4,7 @@
 #include <string_view>
 #include <system_error>
 
+#include "core/formats/mes_layout.h"
 #include "core/formats/mes_patch.h"
 #include "core/formats/msx_lines.h"
 #include "core/platform/errors.h"
@@ -62,9 +63,9 @@ SaveOutcome MessageFileWriter::SaveUnderTrap() {
     rollback.Keep();
   } catch (const FolderNotReadyError& error) {
     dialogs_.MessageBox({MessageIcon::kCritical, " Directory not ready", ""});
-    outcome = {SaveOutcome::kFailed, error.what()};
+    outcome = {SaveOutcome::kFailed, error.In(workspace_.ui_text)};
   } catch (const Error& error) {
-    outcome = {SaveOutcome::kFailed, error.what()};
+    outcome = {SaveOutcome::kFailed, error.In(workspace_.ui_text)};
   }
   return outcome;
 }
@@ -104,7 +105,7 @@ NameField MessageFileWriter::AskNewLanguageName() {
         return name;
       }
     } catch (const Error& error) {
-      dialogs_.MessageBox({MessageIcon::kCritical, error.what(), "ERROR"});
+      dialogs_.MessageBox({MessageIcon::kCritical, error.In(ui_text), "ERROR"});
     }
   }
 }
@@ -167,7 +168,7 @@ void MessageFileWriter::PatchMes(const std::optional<NameField>& new_name) {
   editing_.StoreCurrentMessage();
   if (new_name) {
     if (set.IsFull()) {
-      throw FileError(set.CurrentFileName, "the file already holds 100 languages");
+      throw FileError(set.CurrentFileName, UiTextId::kFileHolds100Languages);
     }
     set.DestLang = static_cast<std::uint8_t>(set.language_names.size());
     set.language_names.push_back(new_name->Caption());
@@ -199,7 +200,7 @@ void MessageFileWriter::PatchMsx() {
 SaveOutcome MessageFileWriter::SaveAs() {
   MessageSet& set = workspace_.set;
   if (!set.IsMes() && !set.IsMsx()) {
-    throw Error("No message file is open: open one before saving it under another name.");
+    throw Error(UiTextId::kNoFileToSaveAs);
   }
   const fs::path old_path = set.CurrentFileName;
   const fs::path path = AskSavePath();

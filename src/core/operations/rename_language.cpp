@@ -41,7 +41,7 @@ std::optional<NameField> AskName(const Workspace& workspace, Dialogs& dialogs,
                               ui_text[UiTextId::kNameTakenAfter],
                           ui_text[UiTextId::kNameInUseTitle]});
     } catch (const Error& error) {
-      dialogs.MessageBox({MessageIcon::kCritical, error.what(), "ERROR"});
+      dialogs.MessageBox({MessageIcon::kCritical, error.In(ui_text), "ERROR"});
     }
   }
 }

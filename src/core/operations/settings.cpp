@@ -34,7 +34,7 @@ void WriteSettings(const fs::path& file, const std::string& language_name) {
   const fs::file_status status = fs::status(file, not_there);
   // A pipe would wait for a reader.
   if (fs::exists(status) && !fs::is_regular_file(status)) {
-    throw FileError(file, "is not a file that can be written");
+    throw FileError(file, UiTextId::kNoWritableFile);
   }
   WriteFile(file, ComposeSettings(language_name));
 }
@@ -52,7 +52,7 @@ void WriteSettings(const Workspace& workspace) {
   const Folders& folders = workspace.folders;
   const InterfaceLanguages& languages = workspace.interface_languages;
   if (!languages.chosen) {
-    throw Error("No interface language is chosen: the settings cannot be written.");
+    throw Error(UiTextId::kNoInterfaceLanguage);
   }
   const std::string& chosen = languages.names.at(*languages.chosen);
   std::error_code ignored;

@@ -23,9 +23,7 @@ constexpr std::size_t kLastAskedDirective = 2;
 void RequireOneWidth(const std::vector<SourceSection>& sections) {
   for (std::size_t i = 1; i < sections.size(); ++i) {
     if (!sections[i].width_error && sections[i].width != sections.front().width) {
-      throw Error("the texts of section " + std::to_string(i + 1) + " are " +
-                  std::to_string(sections[i].width) + " cells wide, those of the first " +
-                  std::to_string(sections.front().width));
+      throw Error(UiTextId::kSectionOfOtherWidth, i + 1, sections[i].width, sections.front().width);
     }
   }
 }
@@ -33,21 +31,17 @@ void RequireOneWidth(const std::vector<SourceSection>& sections) {
 // What would make a file that cannot be opened again, or a language that runs into the next one.
 void RequireUsableBlocks(const MessageSet& set) {
   if (MesBlocksOverlap(set)) {
-    throw Error(
-        fmt::format("{} message slots of {} cells make the length of a language block wrap "
-                    "to {:.0f} bytes; give more languages or less memory",
-                    set.LangStride + 1, set.Width(), set.BlockLength));
+    throw Error(UiTextId::kBlockLengthWraps, set.LangStride + 1, set.Width(),
+                static_cast<int>(set.BlockLength));
   }
   if (set.LastMsg > set.LangStride) {
-    throw Error("a section has " + std::to_string(set.MessageCount()) +
-                " texts, a language has room for " + std::to_string(set.LangStride + 1));
+    throw Error(UiTextId::kSectionWithoutRoom, set.MessageCount(), set.LangStride + 1);
   }
 }
 
 std::uint64_t AtMost(std::uint64_t value, std::uint64_t limit, const std::string& what) {
   if (value > limit) {
-    throw Error(what + ": " + std::to_string(value) + " is too large, at most " +
-                std::to_string(limit) + " is possible");
+    throw Error(UiTextId::kNumberTooLarge, what, value, limit);
   }
   return value;
 }
@@ -70,6 +64,7 @@ bool SourceImport::ImportSource() {
     RequireOneWidth(parsed);
     return parsed;
   });
+  TellOfCutTexts(sections);
   for (const SourceSection& section : sections) {
     if (!NamingFile(source, [&] { return TakeSection(section); }) || !SaveSection()) {
       // The source must never be taken for the binary file that was to be made of it.
@@ -84,6 +79,19 @@ bool SourceImport::ImportSource() {
   return reader_.Reload();
 }
 
+// The width of the set grows with such a text all the same.
+void SourceImport::TellOfCutTexts(const std::vector<SourceSection>& sections) {
+  std::vector<std::size_t> lines;
+  for (const SourceSection& section : sections) {
+    lines.insert(lines.end(), section.cut_lines.begin(), section.cut_lines.end());
+  }
+  if (!lines.empty()) {
+    const UiSentence notice(UiTextId::kTextsCut, DisplayText::kCells,
+                            fmt::format("{}", fmt::join(lines, ", ")));
+    dialogs_.MessageBox({MessageIcon::kInformation, notice.In(workspace_.ui_text), "Configura"});
+  }
+}
+
 bool SourceImport::TakeSection(const SourceSection& section) {
   MessageSet& set = workspace_.set;
   const std::uint16_t stride_of_file = set.LangStride;
@@ -96,9 +104,7 @@ bool SourceImport::TakeSection(const SourceSection& section) {
     return false;
   }
   if (set.file_was_imported && set.LangStride != stride_of_file) {
-    throw Error("these answers give " + std::to_string(set.LangStride) +
-                " messages a language, those of the first section gave " +
-                std::to_string(stride_of_file) + "; answer as for the first section");
+    throw Error(UiTextId::kOtherAnswers, set.LangStride, stride_of_file);
   }
   --set.LastCol;
   --set.LastMsg;
@@ -111,7 +117,7 @@ bool SourceImport::SaveSection() {
   workspace_.set.DestLang = 0;
   const SaveOutcome outcome = writer_.Save();
   if (outcome.result == SaveOutcome::kFailed) {
-    throw Error(outcome.reason);
+    throw Error(UiSentence::Verbatim(outcome.reason));
   }
   if (outcome.result == SaveOutcome::kNothingWritten) {
     return false;
@@ -174,7 +180,7 @@ bool SourceImport::AskMemoryLayout() {
       ask(InputPurpose::kMemoryLength, "Lunghezza Blocco Memoria? (Byte)", "&H2000");
   const std::optional<std::uint64_t> length = WholeNumber(answer);
   if (!length) {
-    throw Error("Lunghezza Blocco Memoria: \"" + answer + "\" is not a number");
+    throw Error(UiTextId::kNotANumber, "Lunghezza Blocco Memoria", answer);
   }
   set.MemLength = static_cast<std::uint32_t>(
       AtMost(*length, std::numeric_limits<std::int32_t>::max(), "Lunghezza Blocco Memoria"));

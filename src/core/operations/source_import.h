@@ -2,6 +2,7 @@
 #define VENDLINGUA_CORE_OPERATIONS_SOURCE_IMPORT_H_
 
 #include <cstdint>
+#include <vector>
 
 #include "core/document/workspace.h"
 #include "core/formats/source_parser.h"
@@ -29,6 +30,7 @@ class SourceImport {
   bool ImportSource();
 
  private:
+  void TellOfCutTexts(const std::vector<SourceSection>& sections);
   bool TakeSection(const SourceSection& section);
   bool SaveSection();
   void TakeTexts(const SourceSection& section);

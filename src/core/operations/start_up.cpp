@@ -9,6 +9,7 @@
 #include "core/operations/interface_language.h"
 #include "core/operations/language_files.h"
 #include "core/operations/settings.h"
+#include "core/platform/errors.h"
 #include "core/texts/ascii_case.h"
 
 namespace vendlingua {
@@ -52,7 +53,7 @@ bool StartUp::Form_Load() try {
   ReadSettings(workspace_);
   return CeckLingue();
 } catch (const std::exception& error) {
-  dialogs_.MessageBox({MessageIcon::kCritical, error.what(), "ERROR"});
+  dialogs_.MessageBox({MessageIcon::kCritical, MessageOf(error, workspace_.ui_text), "ERROR"});
   return false;
 }
 

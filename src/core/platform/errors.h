@@ -18,9 +18,6 @@ class Error : public std::runtime_error {
   explicit Error(const UiSentence& sentence)
       : std::runtime_error(sentence.In(EnglishTexts())), sentence_(sentence) {}
 
-  explicit Error(const std::string& english) : Error(UiSentence(english)) {}
-  explicit Error(const char* english) : Error(std::string(english)) {}
-
   template <typename... Values>
   explicit Error(UiTextId id, const Values&... values) : Error(UiSentence(id, values...)) {}
 
@@ -42,9 +39,6 @@ class Error : public std::runtime_error {
 class FileError : public Error {
  public:
   FileError(const std::filesystem::path& file, const UiSentence& reason);
-
-  FileError(const std::filesystem::path& file, const std::string& reason)
-      : FileError(file, UiSentence(reason)) {}
 
   template <typename... Values>
   FileError(const std::filesystem::path& file, UiTextId id, const Values&... values)

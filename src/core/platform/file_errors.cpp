@@ -13,9 +13,8 @@ bool FolderIsMissing(const std::filesystem::path& file) {
 
 }  // namespace
 
-void ThrowFileError(const std::filesystem::path& file, const std::string& action,
+void ThrowFileError(const std::filesystem::path& file, const UiSentence& reason,
                     std::error_code error) {
-  const std::string reason = action + ": " + (error ? error.message() : "unknown error");
   if (FolderIsMissing(file) || error == std::errc::no_such_device ||
       error == std::errc::no_such_device_or_address) {
     throw FolderNotReadyError(file, reason);
@@ -23,8 +22,11 @@ void ThrowFileError(const std::filesystem::path& file, const std::string& action
   throw FileError(file, reason);
 }
 
-void RequireDone(const std::filesystem::path& file, const std::string& action,
-                 std::error_code error) {
+UiSentence ReasonOf(std::error_code error) {
+  return error ? UiSentence::Verbatim(error.message()) : UiSentence(UiTextId::kUnknownError);
+}
+
+void RequireDone(const std::filesystem::path& file, UiTextId action, std::error_code error) {
   if (error) {
     ThrowFileError(file, action, error);
   }

@@ -2,19 +2,29 @@
 #define VENDLINGUA_CORE_PLATFORM_FILE_ERRORS_H_
 
 #include <filesystem>
-#include <string>
 #include <system_error>
+
+#include "core/texts/ui_sentence.h"
 
 namespace vendlingua {
 
-/// Throws the FileError of a call to the system that failed: FolderNotReadyError when the folder of
-/// `file` or its device is not there. `action` says what could not be done.
-[[noreturn]] void ThrowFileError(const std::filesystem::path& file, const std::string& action,
+/// What the system says of an error.
+UiSentence ReasonOf(std::error_code error);
+
+/// Throws the FileError of a call to the system that failed with `error`: FolderNotReadyError when
+/// the folder of `file` or its device is not there.
+[[noreturn]] void ThrowFileError(const std::filesystem::path& file, const UiSentence& reason,
                                  std::error_code error);
 
+/// The same; `action` says what could not be done and takes the system's reason and `values`.
+template <typename... Values>
+[[noreturn]] void ThrowFileError(const std::filesystem::path& file, UiTextId action,
+                                 std::error_code error, const Values&... values) {
+  ThrowFileError(file, UiSentence(action, ReasonOf(error), values...), error);
+}
+
 /// Nothing when `error` is none; otherwise as ThrowFileError.
-void RequireDone(const std::filesystem::path& file, const std::string& action,
-                 std::error_code error);
+void RequireDone(const std::filesystem::path& file, UiTextId action, std::error_code error);
 
 }  // namespace vendlingua
 

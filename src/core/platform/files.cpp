@@ -20,14 +20,14 @@ void WriteInPlace(const fs::path& path, std::initializer_list<std::string_view> 
   errno = 0;
   std::ofstream stream(path, std::ios::binary);
   if (!stream) {
-    ThrowFileError(path, "cannot be created", LastError());
+    ThrowFileError(path, UiTextId::kCannotBeCreated, LastError());
   }
   for (const std::string_view piece : pieces) {
     stream.write(piece.data(), static_cast<std::streamsize>(piece.size()));
   }
   stream.close();
   if (!stream) {
-    ThrowFileError(path, "cannot be written", LastError());
+    ThrowFileError(path, UiTextId::kCannotBeWritten, LastError());
   }
 }
 
@@ -35,7 +35,7 @@ void WriteInPlace(const fs::path& path, std::initializer_list<std::string_view> 
 void RequireWritable(const fs::path& path) {
   errno = 0;
   if (!std::fstream(path, std::ios::binary | std::ios::in | std::ios::out)) {
-    ThrowFileError(path, "cannot be written", LastError());
+    ThrowFileError(path, UiTextId::kCannotBeWritten, LastError());
   }
 }
 
@@ -45,26 +45,25 @@ std::string ReadFile(const fs::path& path, std::uint64_t limit) {
   std::error_code error;
   const fs::file_status status = fs::status(path, error);
   if (!fs::exists(status)) {
-    ThrowFileError(path, "cannot be opened",
+    ThrowFileError(path, UiTextId::kCannotBeOpened,
                    error ? error : std::make_error_code(std::errc::no_such_file_or_directory));
   }
   if (!fs::is_regular_file(status)) {
-    throw FileError(path, "is not a file that can be read");
+    throw FileError(path, UiTextId::kNoReadableFile);
   }
   const std::uint64_t size = fs::file_size(path);
   if (size > limit) {
-    throw FileError(path, "is too large: " + std::to_string(size) + " bytes, at most " +
-                              std::to_string(limit) + " are read");
+    throw FileError(path, UiTextId::kFileIsTooLarge, size, limit);
   }
   errno = 0;
   std::ifstream stream(path, std::ios::binary);
   if (!stream) {
-    ThrowFileError(path, "cannot be opened", LastError());
+    ThrowFileError(path, UiTextId::kCannotBeOpened, LastError());
   }
   std::string content(size, '\0');
   stream.read(content.data(), static_cast<std::streamsize>(size));
   if (stream.gcount() != static_cast<std::streamsize>(size)) {
-    ThrowFileError(path, "cannot be read", LastError());
+    ThrowFileError(path, UiTextId::kCannotBeRead, LastError());
   }
   return content;
 }
@@ -100,7 +99,7 @@ PatchFile::PatchFile(fs::path path, IfMissing if_missing) : path_(std::move(path
     stream_.open(path_, mode);
   }
   if (!stream_) {
-    Fail("cannot be opened for writing");
+    ThrowFileError(path_, UiTextId::kCannotBeWritten, LastError());
   }
 }
 
@@ -109,7 +108,7 @@ void PatchFile::WriteAt(std::int64_t position, std::string_view bytes) {
   stream_.seekp(position);
   stream_.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
   if (!stream_) {
-    Fail("cannot be written at position " + std::to_string(position + 1));
+    ThrowFileError(path_, UiTextId::kCannotBeWrittenAt, LastError(), position + 1);
   }
 }
 
@@ -117,12 +116,8 @@ void PatchFile::Close() {
   errno = 0;
   stream_.close();
   if (!stream_) {
-    Fail("cannot be written");
+    ThrowFileError(path_, UiTextId::kCannotBeWritten, LastError());
   }
-}
-
-void PatchFile::Fail(const std::string& action) const {
-  ThrowFileError(path_, action, LastError());
 }
 
 void ApplyPatches(const fs::path& path, const std::vector<FilePatch>& patches) {

@@ -59,8 +59,6 @@ class PatchFile {
   void Close();
 
  private:
-  [[noreturn]] void Fail(const std::string& action) const;
-
   std::filesystem::path path_;
   std::fstream stream_;
 };

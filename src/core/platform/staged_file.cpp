@@ -24,7 +24,7 @@ fs::path FollowLinks(const fs::path& target) {
   std::error_code ignored;
   for (int i = 0; fs::is_symlink(path, ignored); ++i) {
     if (i == kMostLinks) {
-      ThrowFileError(target, "cannot be created",
+      ThrowFileError(target, UiTextId::kCannotBeCreated,
                      std::make_error_code(std::errc::too_many_symbolic_link_levels));
     }
     path = path.parent_path() / fs::read_symlink(path, ignored);
@@ -37,7 +37,7 @@ fs::path FollowLinks(const fs::path& target) {
 StagedFile::StagedFile(fs::path target) : target_(std::move(target)), place_(FollowLinks(target_)) {
   std::error_code not_there;
   if (!fs::is_directory(FolderOf(place_), not_there)) {
-    throw FolderNotReadyError(target_, "cannot be created: its folder is not there");
+    throw FolderNotReadyError(target_, UiTextId::kFolderIsMissing);
   }
   Create();
 }
@@ -56,7 +56,7 @@ void StagedFile::Create() {
       break;
     }
   }
-  RequireDone(target_, "cannot be created", error);
+  RequireDone(target_, UiTextId::kCannotBeCreated, error);
 }
 
 StagedFile::~StagedFile() {
@@ -70,25 +70,25 @@ StagedFile::~StagedFile() {
 }
 
 void StagedFile::Write(std::string_view bytes) {
-  RequireDone(target_, "cannot be written", file_.Write(bytes));
+  RequireDone(target_, UiTextId::kCannotBeWritten, file_.Write(bytes));
 }
 
 void StagedFile::SetPermissions(fs::perms permissions) { file_.SetPermissions(permissions); }
 
 const fs::path& StagedFile::HandOver() {
-  RequireDone(target_, "cannot be written", file_.Close());
+  RequireDone(target_, UiTextId::kCannotBeWritten, file_.Close());
   return staging_;
 }
 
 void StagedFile::Commit() {
   if (!file_.IsOpen()) {
-    RequireDone(target_, "cannot be written", file_.Open(staging_));
+    RequireDone(target_, UiTextId::kCannotBeWritten, file_.Open(staging_));
   }
-  RequireDone(target_, "cannot be written", file_.Flush());
-  RequireDone(target_, "cannot be written", file_.Close());
+  RequireDone(target_, UiTextId::kCannotBeWritten, file_.Flush());
+  RequireDone(target_, UiTextId::kCannotBeWritten, file_.Close());
   std::error_code error;
   fs::rename(staging_, place_, error);
-  RequireDone(target_, "cannot be written", error);
+  RequireDone(target_, UiTextId::kCannotBeWritten, error);
   committed_ = true;
   FlushFolder(FolderOf(place_));
 }

@@ -21,7 +21,8 @@ class UiSentence {
   template <typename... Values>
   explicit UiSentence(UiTextId id, const Values&... values) : id_(id), values_{Value(values)...} {}
 
-  explicit UiSentence(const std::string& english) : id_{}, values_{Value(english)} {}
+  /// Words that are said as they stand, such as the system's.
+  static UiSentence Verbatim(const std::string& words) { return UiSentence(UiTextId{}, words); }
 
   /// A text that `texts` lack, or whose braces fit no value, is said in English.
   std::string In(const UiText& texts) const;

@@ -11,6 +11,7 @@
 
 #include "core/operations/exit.h"
 #include "core/operations/interface_language.h"
+#include "core/platform/errors.h"
 #include "core/presentation/twips.h"
 #include "desktop/qt_text.h"
 
@@ -129,7 +130,8 @@ void FrmMes::Run(const std::function<void()>& command, QWidget& window) {
     try {
       command();
     } catch (const std::exception& error) {
-      dialogs_.MessageBox({MessageIcon::kCritical, error.what(), "ERROR"});
+      dialogs_.MessageBox(
+          {MessageIcon::kCritical, MessageOf(error, engine_.workspace.ui_text), "ERROR"});
     }
     Mirror();
   });

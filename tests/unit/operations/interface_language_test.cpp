@@ -35,30 +35,30 @@ class InterfaceLanguageTest : public testing::Test {
 TEST_F(InterfaceLanguageTest, MakesEveryLineAnEntry) {
   folder_.Write("uno.lng", "&File\r\n&Apri...\r\n\r\n&Esci\r\n");
   LoadLanguageFile(workspace_, "uno.lng");
-  EXPECT_EQ(ui_text()[1], "&File");
-  EXPECT_EQ(ui_text()[2], "&Apri...");
-  EXPECT_EQ(ui_text()[3], "");
-  EXPECT_EQ(ui_text()[4], "&Esci");
+  EXPECT_EQ(ui_text().Entry(1), "&File");
+  EXPECT_EQ(ui_text().Entry(2), "&Apri...");
+  EXPECT_EQ(ui_text().Entry(3), "");
+  EXPECT_EQ(ui_text().Entry(4), "&Esci");
 }
 
 TEST_F(InterfaceLanguageTest, CountsASectionMarkAsAnEntry) {
   folder_.Write("uno.lng", "uno\r\n;-- editor\r\ntre\r\n");
   LoadLanguageFile(workspace_, "uno.lng");
-  EXPECT_EQ(ui_text()[2], ";-- editor");
-  EXPECT_EQ(ui_text()[3], "tre");
+  EXPECT_EQ(ui_text().Entry(2), ";-- editor");
+  EXPECT_EQ(ui_text().Entry(3), "tre");
 }
 
 TEST_F(InterfaceLanguageTest, ReadsWindows1252) {
   folder_.Write("uno.lng", "perch\xE9 \x80\r\n");
   LoadLanguageFile(workspace_, "uno.lng");
-  EXPECT_EQ(ui_text()[1], "perché €");
+  EXPECT_EQ(ui_text().Entry(1), "perché €");
 }
 
 TEST_F(InterfaceLanguageTest, TakesLinesThatEndInLfAndALastLineWithoutEnd) {
   folder_.Write("uno.lng", "uno\ndue");
   LoadLanguageFile(workspace_, "uno.lng");
-  EXPECT_EQ(ui_text()[1], "uno");
-  EXPECT_EQ(ui_text()[2], "due");
+  EXPECT_EQ(ui_text().Entry(1), "uno");
+  EXPECT_EQ(ui_text().Entry(2), "due");
 }
 
 TEST_F(InterfaceLanguageTest, KeepsTheEntriesBehindTheLastLine) {
@@ -66,9 +66,9 @@ TEST_F(InterfaceLanguageTest, KeepsTheEntriesBehindTheLastLine) {
   folder_.Write("short.lng", "A\r\n");
   LoadLanguageFile(workspace_, "long.lng");
   LoadLanguageFile(workspace_, "short.lng");
-  EXPECT_EQ(ui_text()[1], "A");
-  EXPECT_EQ(ui_text()[2], "b");
-  EXPECT_EQ(ui_text()[3], "c");
+  EXPECT_EQ(ui_text().Entry(1), "A");
+  EXPECT_EQ(ui_text().Entry(2), "b");
+  EXPECT_EQ(ui_text().Entry(3), "c");
 }
 
 TEST_F(InterfaceLanguageTest, ChangesNothingForAnEmptyFile) {
@@ -76,7 +76,7 @@ TEST_F(InterfaceLanguageTest, ChangesNothingForAnEmptyFile) {
   folder_.Write("empty.lng", "");
   LoadLanguageFile(workspace_, "uno.lng");
   LoadLanguageFile(workspace_, "empty.lng");
-  EXPECT_EQ(ui_text()[1], "uno");
+  EXPECT_EQ(ui_text().Entry(1), "uno");
 }
 
 TEST_F(InterfaceLanguageTest, ThrowsForAMissingFile) {
@@ -97,7 +97,7 @@ TEST_F(InterfaceLanguageTest, ThrowsForAFileThatIsTooLargeToBeDrawn) {
   folder_.Write("most.lng", std::string(kLanguageFileLimit, 'x'));
   folder_.Write("more.lng", std::string(kLanguageFileLimit + 1, 'x'));
   LoadLanguageFile(workspace_, "most.lng");
-  EXPECT_EQ(ui_text()[1].size(), kLanguageFileLimit);
+  EXPECT_EQ(ui_text().Entry(1).size(), kLanguageFileLimit);
   EXPECT_THROW(LoadLanguageFile(workspace_, "more.lng"), FileError);
   EXPECT_THROW(CheckLanguageFile(workspace_, "most.lng", "more.lng"), FileError);
 }
@@ -112,8 +112,8 @@ TEST_F(InterfaceLanguageTest, TakesEveryByteButALineEndIntoAnEntry) {
   }
   folder_.Write("uno.lng", line + "\r\ndue\r\n");
   LoadLanguageFile(workspace_, "uno.lng");
-  EXPECT_EQ(BytesFromCodes(ToDisplayCodes(ui_text()[1]).codes), line);
-  EXPECT_EQ(ui_text()[2], "due");
+  EXPECT_EQ(BytesFromCodes(ToDisplayCodes(ui_text().Entry(1)).codes), line);
+  EXPECT_EQ(ui_text().Entry(2), "due");
 }
 
 TEST_F(InterfaceLanguageTest, AcceptsACandidateThatDiffersInOrdinaryLines) {
@@ -122,9 +122,9 @@ TEST_F(InterfaceLanguageTest, AcceptsACandidateThatDiffersInOrdinaryLines) {
 
 TEST_F(InterfaceLanguageTest, LoadsTheCandidateOnTheWay) {
   CanFollow("uno\r\n;-- a\r\ntre\r\n", "one\r\n;-- b\r\nthree\r\n");
-  EXPECT_EQ(ui_text()[1], "one");
-  EXPECT_EQ(ui_text()[2], ";-- b");
-  EXPECT_EQ(ui_text()[3], "three");
+  EXPECT_EQ(ui_text().Entry(1), "one");
+  EXPECT_EQ(ui_text().Entry(2), ";-- b");
+  EXPECT_EQ(ui_text().Entry(3), "three");
 }
 
 TEST_F(InterfaceLanguageTest, RefusesACandidateWithOneLineFewer) {
@@ -148,8 +148,8 @@ TEST_F(InterfaceLanguageTest, RefusesAnEmptyCandidate) { EXPECT_FALSE(CanFollow(
 
 TEST_F(InterfaceLanguageTest, AcceptsALongerCandidateWithoutReadingItsExtraLines) {
   EXPECT_TRUE(CanFollow("uno\r\n", "one\r\ntwo\r\n"));
-  EXPECT_EQ(ui_text()[1], "one");
-  EXPECT_EQ(ui_text()[2], "");
+  EXPECT_EQ(ui_text().Entry(1), "one");
+  EXPECT_EQ(ui_text().Entry(2), "");
 }
 
 TEST_F(InterfaceLanguageTest, RefusesACandidateWhoseSectionMarksStandElsewhere) {
@@ -170,17 +170,17 @@ TEST_F(InterfaceLanguageTest, AcceptsACandidateWithFurtherSectionMarks) {
 
 TEST_F(InterfaceLanguageTest, LeavesTheTextsPartlyOverwrittenWhenItRefuses) {
   CanFollow("uno\r\n;-- a\r\ntre\r\n", "one\r\ntwo\r\nthree\r\n");
-  EXPECT_EQ(ui_text()[1], "one");
-  EXPECT_EQ(ui_text()[2], ";-- a");
-  EXPECT_EQ(ui_text()[3], "tre");
+  EXPECT_EQ(ui_text().Entry(1), "one");
+  EXPECT_EQ(ui_text().Entry(2), ";-- a");
+  EXPECT_EQ(ui_text().Entry(3), "tre");
 }
 
 TEST_F(InterfaceLanguageTest, IsRestoredByLoadingThePreviousFileAgain) {
   CanFollow("uno\r\n;-- a\r\ntre\r\n", "one\r\ntwo\r\nthree\r\n");
   LoadLanguageFile(workspace_, "current.lng");
-  EXPECT_EQ(ui_text()[1], "uno");
-  EXPECT_EQ(ui_text()[2], ";-- a");
-  EXPECT_EQ(ui_text()[3], "tre");
+  EXPECT_EQ(ui_text().Entry(1), "uno");
+  EXPECT_EQ(ui_text().Entry(2), ";-- a");
+  EXPECT_EQ(ui_text().Entry(3), "tre");
 }
 
 TEST(LanguageFiles, HaveATextOnEveryLineAndEndItWithCrLf) {
