@@ -370,8 +370,8 @@ class SectionTest(ImportCase):
         self.assertIn("language 1: ABCDEFGHIJKLMNOPQRST\n", self.done("info", "OUT.MES").out)
 
     def test_a_later_section_without_texts_is_refused(self) -> None:
-        err = self.refused_source(self.FIRST + b" ORG $7000\r\n", *self.TWO_NAMES).err
-        self.assertIn("source.asm: line 4: ", err)
+        err = self.refused_source(self.FIRST + b" ORG $7000\r\n; end\r\n", *self.TWO_NAMES).err
+        self.assertIn("source.asm: line 5: ", err)
 
     def test_an_error_in_a_later_section_leaves_no_file(self) -> None:
         shorter = b" ORG $7000\r\n DC.B 'IJKL'\r\n DC.B 'MNO'\r\n"

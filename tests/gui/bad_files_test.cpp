@@ -167,6 +167,7 @@ class BadFilesTest : public DeskTest {
     const std::string name = S2Line(0xFF0000 + 169 * 16, MsxMessage(1, 169));
     AddRow("lone carriage returns", Replaced(good, "\r\n", "\r"));
     AddRow("one lone carriage return", MsxFile(0) + "S2\r\r\n");
+    AddRow("line ends without carriage returns", Replaced(good, "\r\n", "\n"));
     AddRow("a name that is no hexadecimal",
            Replaced(good, name, name.substr(0, 20) + "G" + name.substr(21)));
     AddRow("a name of 15 bytes", Replaced(good, name, name.substr(0, 40)));
@@ -177,7 +178,7 @@ class BadFilesTest : public DeskTest {
     QTest::addColumn<std::string>("content");
     AddRow("cut behind the model number", MsxFile(1).substr(0, 20));
     AddRow("cut before the first name", MsxFile(1).substr(0, 1000));
-    AddRow("line ends without carriage returns", Replaced(MsxFile(1), "\r\n", "\n"));
+    AddRow("a last line without its end", MsxFile(1).substr(0, MsxFile(1).size() - 2));
     AddRow("noise behind the header", MsxFile(0) + Noise(1, "\r\n"));
   }
   void TakesAMsxFileOfUnusualLines() { OpenTaken("ODD.MSX"); }

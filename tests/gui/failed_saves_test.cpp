@@ -241,13 +241,12 @@ class FailedSavesTest : public DeskTest {
     QCOMPARE(Slurp(desk_->folder / "COPY.MSX"), expected);
   }
 
-  void WritesNothingIntoAMsxFileWithOtherLineEnds() {
+  void WritesNothingIntoAMsxFileThatGotOtherLineEnds() {
+    const fs::path path = desk_->EditMsx();
+    desk_->Type("EDIT");
     std::string content = MsxFile(2);
     content.erase(std::remove(content.begin(), content.end(), '\r'), content.end());
-    const fs::path path = desk_->Open("TEST.MSX", content);
-    desk_->program.Choose("mnuori(0)");
-    desk_->program.Choose("mnuDes(1)");
-    desk_->Type("EDIT");
+    desk_->folder.Write("TEST.MSX", content);
     desk_->program.Choose("mnuSave");
     ExpectNotSaved(QStringLiteral("line 2 does not end in CR LF"));
     QCOMPARE(Slurp(path), content);

@@ -29,17 +29,17 @@ std::string OriginMessages(const MessageSet& set) {
 }
 
 // A file that was cut by another program: with a patch alone it would be no message file any more.
-void RequireHeader(const MessageSet& set, std::size_t file_size) {
+void RequireHeader(const MessageSet& set, std::uintmax_t file_size) {
   if (file_size < kMesHeaderBytes) {
     throw FileError(set.CurrentFileName, UiTextId::kHeaderIsLost, file_size);
   }
 }
 
 // A block that does not hold `LastMsg` + 1 messages would be written over the next language.
-void RefuseToOverwriteNextBlock(const MessageSet& set, int language, std::size_t file_size) {
+void RefuseToOverwriteNextBlock(const MessageSet& set, int language, std::uintmax_t file_size) {
   const std::int64_t end = MesMessageOffset(set, language, set.MessageCount());
   const std::int64_t next = MesBlockOffset(set, language + 1);
-  if (end > next && static_cast<std::int64_t>(file_size) > next) {
+  if (end > next && file_size > static_cast<std::uintmax_t>(next)) {
     throw FileError(set.CurrentFileName, UiTextId::kBlockIsTooSmall,
                     static_cast<int>(set.BlockLength), set.MessageCount());
   }
@@ -52,9 +52,9 @@ FilePatch HeaderPatch(const MesField& field, std::uint64_t value) {
 }  // namespace
 
 std::vector<FilePatch> BuildMesPatch(const MessageSet& set, int language, const NameField& name,
-                                     std::uint8_t flags, std::string_view content) {
-  RequireHeader(set, content.size());
-  RefuseToOverwriteNextBlock(set, language, content.size());
+                                     std::uint8_t flags, std::uintmax_t file_size) {
+  RequireHeader(set, file_size);
+  RefuseToOverwriteNextBlock(set, language, file_size);
   std::string block = name.Bytes();
   for (std::size_t i = 0; i < set.MessageCount(); ++i) {
     AppendMessage(block, set.DestText[i], set.Width());

@@ -4,7 +4,6 @@
 #include <cstdint>
 #include <optional>
 #include <string>
-#include <string_view>
 #include <vector>
 
 #include "core/document/message_set.h"
@@ -13,13 +12,13 @@
 
 namespace vendlingua {
 
-/// What saving the destination texts as language `language` changes in the ".MES" file whose
-/// content is given: the flags and `LastMsg` of the header, the language's name and its messages 0
-/// to `LastMsg`. `BlockLength` of `set` says where its block begins. Throws FileError, before a
-/// byte is written, when the file has lost its header or the messages would run into the next
-/// language.
+/// What saving the destination texts as language `language` changes in a ".MES" file that has
+/// `file_size` bytes now: the flags and `LastMsg` of the header, the language's name and its
+/// messages 0 to `LastMsg`. `BlockLength` of `set` says where its block begins. Throws FileError,
+/// before a byte is written, when the file has lost its header or the messages would run into the
+/// next language.
 std::vector<FilePatch> BuildMesPatch(const MessageSet& set, int language, const NameField& name,
-                                     std::uint8_t flags, std::string_view content);
+                                     std::uint8_t flags, std::uintmax_t file_size);
 
 /// The content of a new ".MES" file: the header, the reference block with the origin texts, and a
 /// first language that is a copy of it under `name`; where there is no name, nothing stands in its

@@ -186,8 +186,10 @@ void MessageFileWriter::WriteMesBlock(const NameField& name) {
   MessageSet& set = workspace_.set;
   set.Modified = kFalse;
   set.BlockLength = MesBlockLength(set.LastCol, set.LangStride);
-  ApplyPatches(set.CurrentFileName, BuildMesPatch(set, set.DestLang, name, HeaderFlags(),
-                                                  ReadFile(set.CurrentFileName)));
+  std::error_code not_told;  // a file that is gone is found when it is opened
+  const std::uintmax_t file_size = fs::file_size(set.CurrentFileName, not_told);
+  ApplyPatches(set.CurrentFileName,
+               BuildMesPatch(set, set.DestLang, name, HeaderFlags(), file_size));
 }
 
 void MessageFileWriter::PatchMsx() {

@@ -3,9 +3,7 @@
 #include <gmock/gmock.h>
 
 #include <string>
-#include <string_view>
 
-#include "core/formats/mes_file.h"
 #include "core/platform/errors.h"
 #include "support/message_files.h"
 
@@ -13,7 +11,6 @@ namespace vendlingua {
 namespace {
 
 using test::Codes;
-using test::MesFile;
 using testing::ElementsAre;
 using testing::HasSubstr;
 
@@ -23,44 +20,46 @@ class MesPatchTest : public ::testing::Test {
  protected:
   MesPatchTest() {
     set_.CurrentFileName = "FILE.MES";
-    ApplyMesHeader(ParseMesHeader(content_), set_);
+    set_.LastCol = 3;
+    set_.LangStride = 3;
+    set_.LastMsg = 2;
+    set_.BlockLength = 36;
     set_.DestText[0] = DisplayText(Codes("ABCD"));
     set_.DestText[1] = DisplayText(Codes("\xFE"));
     set_.DestText[2] = DisplayText(Codes("IJKLM"));
     set_.DestText[3] = DisplayText(Codes("NOPQ"));
   }
 
-  std::vector<FilePatch> Patch(int language, std::string_view content) {
-    return BuildMesPatch(set_, language, NameField(Codes("ENGLISH")), 0x0D, content);
+  std::vector<FilePatch> Patch(int language, std::uintmax_t file_size = kFileSize) {
+    return BuildMesPatch(set_, language, NameField(Codes("ENGLISH")), 0x0D, file_size);
   }
 
-  std::string ReasonAgainst(int language, std::string_view content) {
+  std::string ReasonAgainst(int language, std::uintmax_t file_size = kFileSize) {
     try {
-      Patch(language, content);
+      Patch(language, file_size);
     } catch (const FileError& error) {
       return error.what();
     }
     return "none";
   }
 
-  const std::string content_ = MesFile{.names = {"Default", "ITALIANO", "OTHER"}}.Bytes();
+  static constexpr std::uintmax_t kFileSize = 24 + 3 * 36;
   MessageSet set_;
 };
 
 TEST_F(MesPatchTest, IsTheFlagsLastMsgAndTheBlockUpToTheLastMessage) {
-  EXPECT_THAT(Patch(1, content_),
-              ElementsAre(FilePatch{2, "0D"}, FilePatch{8, "0002"},
-                          FilePatch{60, "ENGLISH             ABCD\xFE   IJKL"}));
+  EXPECT_THAT(Patch(1), ElementsAre(FilePatch{2, "0D"}, FilePatch{8, "0002"},
+                                    FilePatch{60, "ENGLISH             ABCD\xFE   IJKL"}));
 }
 
 TEST_F(MesPatchTest, BeginsWhereTheBlockOfTheLanguageBegins) {
-  EXPECT_EQ(Patch(2, content_).back().position, 96);
-  EXPECT_EQ(Patch(100, content_).back().position, 24 + 100 * 36);
+  EXPECT_EQ(Patch(2).back().position, 96);
+  EXPECT_EQ(Patch(100).back().position, 24 + 100 * 36);
 }
 
 TEST_F(MesPatchTest, GrowsWithLastMsg) {
   set_.LastMsg = 3;
-  const auto patches = Patch(1, content_);
+  const auto patches = Patch(1);
   EXPECT_EQ(patches.at(1).bytes, "0003");
   EXPECT_EQ(patches.at(2).bytes, "ENGLISH             ABCD\xFE   IJKLNOPQ");
 }
@@ -70,28 +69,26 @@ TEST_F(MesPatchTest, HasBlanksBehindTheTextOfAMessageThatIsWiderThanFortyCells) 
   set_.LastCol = 41;
   set_.LastMsg = 0;
   set_.DestText[0] = DisplayText(Codes(std::string(40, 'x')));
-  EXPECT_EQ(Patch(1, content_.substr(0, 60)).back().bytes,
-            "ENGLISH             " + std::string(40, 'x') + "  ");
+  EXPECT_EQ(Patch(1, 60).back().bytes, "ENGLISH             " + std::string(40, 'x') + "  ");
 }
 
 TEST_F(MesPatchTest, IsRefusedForAFileThatLostItsHeader) {
-  EXPECT_THAT(ReasonAgainst(1, content_.substr(0, 23)),
+  EXPECT_THAT(ReasonAgainst(1, 23),
               testing::AllOf(HasSubstr("FILE.MES: "), HasSubstr("only 23 bytes")));
-  EXPECT_EQ(ReasonAgainst(1, content_.substr(0, 24)), "none");
+  EXPECT_EQ(ReasonAgainst(1, 24), "none");
 }
 
 // Five messages of four bytes do not fit a block of four slots.
 TEST_F(MesPatchTest, IsRefusedWhenItWouldRunIntoTheNextLanguage) {
   set_.LastMsg = 4;
-  EXPECT_THAT(
-      ReasonAgainst(1, content_),
-      testing::AllOf(HasSubstr("FILE.MES: "), HasSubstr("36 bytes"), HasSubstr("5 messages")));
+  EXPECT_THAT(ReasonAgainst(1), testing::AllOf(HasSubstr("FILE.MES: "), HasSubstr("36 bytes"),
+                                               HasSubstr("5 messages")));
 }
 
 TEST_F(MesPatchTest, MayRunBeyondTheBlockOfTheLastLanguage) {
   set_.LastMsg = 4;
-  EXPECT_EQ(ReasonAgainst(1, content_.substr(0, 96)), "none");
-  EXPECT_EQ(ReasonAgainst(2, content_), "none");
+  EXPECT_EQ(ReasonAgainst(1, 96), "none");
+  EXPECT_EQ(ReasonAgainst(2), "none");
 }
 
 class NewMesTest : public ::testing::Test {
