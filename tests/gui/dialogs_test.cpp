@@ -1,8 +1,10 @@
 #include <QCheckBox>
 #include <QFileDialog>
+#include <QHeaderView>
 #include <QLabel>
 #include <QListView>
 #include <QPushButton>
+#include <QTreeView>
 #include <vector>
 
 #include "gui/support/desk_test.h"
@@ -76,6 +78,21 @@ class DialogsTest : public DeskTest {
     const QStringList expected{QStringLiteral("a.mes"), QStringLiteral("B.MES"),
                                QStringLiteral("c.Mes")};
     desk_->user.on_dialog = [&](QDialog& dialog) { QTRY_COMPARE(ListedFiles(dialog), expected); };
+    desk_->user.Cancel();
+    desk_->program.Choose("mnuOpen");
+  }
+
+  void CutsNoColumnOfTheFilesItLists() {
+    desk_->folder.Write("bin/A.MES", std::string(123456, ' '));
+    desk_->user.on_dialog = [&](QDialog& dialog) {
+      auto& details = *dialog.findChild<QTreeView*>(QStringLiteral("treeView"));
+      QTRY_COMPARE(ListedFiles(dialog).size(), 1);
+      QApplication::processEvents();
+      for (int column = 0; column < details.header()->count(); ++column) {
+        const QModelIndex cell = details.model()->index(0, column, details.rootIndex());
+        QVERIFY(details.columnWidth(column) >= details.sizeHintForIndex(cell).width());
+      }
+    };
     desk_->user.Cancel();
     desk_->program.Choose("mnuOpen");
   }
@@ -181,23 +198,6 @@ class DialogsTest : public DeskTest {
     QVERIFY(fs::exists(desk_->folder / "COPY.MSX"));
     QTRY_VERIFY(!desk_->program.window().isVisible());
     QCOMPARE(desk_->program.starts().programs.size(), std::size_t{1});
-  }
-
-  void TheMainWindowThatBecomesActiveWaitsForTheCompilation() {
-    OpenCompilerWithAllTicked();
-    desk_->user.on_dialog = [&](QDialog& dialog) {
-      if (desk_->user.files().size() == 3) {
-        emit desk_->program.compiler()->Activated();  // as if it had been active in between
-        QEvent activation(QEvent::ActivationChange);
-        desk_->program.window().activateWindow();
-        QVERIFY(QTest::qWaitForWindowActive(&desk_->program.window()));
-        QApplication::sendEvent(&desk_->program.window(), &activation);
-        dialog.activateWindow();
-      }
-    };
-    Compile();
-    QVERIFY(fs::exists(desk_->folder / "COPY.MSX"));
-    QTRY_VERIFY(desk_->program.compiler() == nullptr);
   }
 
   void TheCompileButtonHasTheFocusAfterACompilation() {

@@ -4,6 +4,7 @@
 #include <QInputDialog>
 #include <QLabel>
 #include <QLibraryInfo>
+#include <QListView>
 #include <QMenu>
 #include <QPushButton>
 #include <memory>
@@ -88,13 +89,28 @@ class QtTextsTest : public DeskTest {
     desk_->Edit(MesFile());
     QVERIFY(EditMenu().contains(copy));
     QString button;
+    bool places_fit = false;
     desk_->user.on_dialog = [&](QDialog& dialog) {
       button = ButtonText(dialog, QDialogButtonBox::Cancel).remove(QLatin1Char('&'));
+      const auto& places = *dialog.findChild<QListView*>(QStringLiteral("sidebar"));
+      places_fit = places.width() >= places.sizeHint().width();
     };
     desk_->user.Cancel();
     desk_->program.Choose("mnuSaas");
     QCOMPARE(desk_->user.files().back().title, save_as);
     QCOMPARE(button, cancel);
+    QVERIFY(places_fit);
+  }
+
+  void AreTakenFromOlderTranslationsToo() {
+    Speak(QStringLiteral("svenska"));
+    QString button;
+    desk_->user.on_dialog = [&](QDialog& dialog) {
+      button = ButtonText(dialog, QDialogButtonBox::Open).remove(QLatin1Char('&'));
+    };
+    desk_->user.Cancel();
+    desk_->program.Choose("mnuOpen");
+    QCOMPARE(button, QStringLiteral("\u00D6ppna"));
   }
 
   void ChangeWithTheInterfaceLanguage() {

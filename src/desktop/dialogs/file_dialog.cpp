@@ -1,8 +1,11 @@
 #include "desktop/dialogs/file_dialog.h"
 
 #include <QFileInfo>
+#include <QHeaderView>
 #include <QLineEdit>
+#include <QListView>
 #include <QMessageBox>
+#include <QTreeView>
 
 #include "desktop/qt_text.h"
 
@@ -51,6 +54,7 @@ FileDialog::FileDialog(const FileRequest& request, AcceptMode mode, QWidget* par
   if (!request.initial_name.empty()) {
     selectFile(FromUtf8(request.initial_name));
   }
+  FitContents();
 }
 
 // The name that stood there at first is no choice.
@@ -74,6 +78,18 @@ void FileDialog::accept() {
     return;
   }
   QFileDialog::accept();
+}
+
+// Qt makes the columns as wide as an example, which cuts sizes and dates, and the list of places
+// too narrow for its own texts in most languages.
+void FileDialog::FitContents() {
+  if (const auto* details = findChild<QTreeView*>(QStringLiteral("treeView"))) {
+    details->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
+    details->header()->setSectionResizeMode(0, QHeaderView::Stretch);
+  }
+  if (auto* places = findChild<QListView*>(QStringLiteral("sidebar"))) {
+    places->setMinimumWidth(places->sizeHint().width());
+  }
 }
 
 // The dialogs of desktops look for the folder by themselves.

@@ -24,6 +24,7 @@ class FileDialog : public QFileDialog {
   void accept() override;
 
  private:
+  void FitContents();
   bool IsQts() const;
 
   std::filesystem::path initial_name_;

@@ -30,17 +30,24 @@ class InterfaceTexts : public QTranslator {
   bool isEmpty() const override { return false; }
 
   // A null string leaves the text to the next translator.
-  QString translate(const char* /*context*/, const char* of_qt, const char* /*disambiguation*/,
+  QString translate(const char* context, const char* of_qt, const char* /*disambiguation*/,
                     int /*n*/) const override {
     for (const SharedText& text : kSharedTexts) {
       if (QLatin1String(of_qt) == QLatin1String(text.of_qt) && !ui_text_[text.id].empty()) {
         return FromUtf8(ui_text_[text.id]);
       }
     }
-    return {};
+    return QLatin1String(context) == QLatin1String("QPlatformTheme") ? OlderButton(of_qt)
+                                                                     : QString();
   }
 
  private:
+  // Qt's older translations have the buttons of dialogs elsewhere.
+  static QString OlderButton(const char* of_qt) {
+    const QString text = QCoreApplication::translate("QDialogButtonBox", of_qt);
+    return text == QLatin1String(of_qt) ? QString() : text;
+  }
+
   const UiText& ui_text_;
 };
 
