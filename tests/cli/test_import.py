@@ -226,16 +226,20 @@ class WidthTest(ImportCase):
         self.assertTrue(result.err.startswith("ERRORE: Lughezza messaggi\nerrata\n"), result.err)
         self.assertIn("source.asm", result.err)
 
-    def test_a_text_of_40_cells_is_the_widest(self) -> None:
+    def test_a_longer_text_is_imported_by_its_first_40_cells_with_a_notice(self) -> None:
         self.import_source(b" DC.B '" + 40 * b"x" + b"'\r\n")
         self.assertEqual(self.texts(), [40 * "x"])
-        err = self.refused_source(b" DC.B '" + 41 * b"x" + b"'\r\n").err
-        self.assertIn("source.asm: line 1: ", err)
+        source = self.write("source.asm", b" DC.B 'a'\r\n DC.B '" + 60 * b"x" + b"'\r\n")
+        result = self.done_with_message("import", source, *answers((), "OUT.MES"))
+        self.assertIn("40 characters", result.err)
+        self.assertTrue(result.err.endswith(": 2\n"), result.err)
+        self.assertEqual(self.read("OUT.MES")[1], 59)
+        self.assertEqual(self.texts(), ["a" + 39 * " ", 40 * "x"])
+        self.assertIn(40 * b"x" + 20 * b" ", self.read("OUT.MES"))
 
-    def test_513_texts_are_the_most(self) -> None:
-        self.import_source(source_of(513, 4))
-        self.assertEqual(len(self.texts()), 513)
-        self.assertIn("source.asm: ", self.refused_source(source_of(514, 4)).err)
+    def test_a_section_may_have_more_than_513_texts(self) -> None:
+        self.import_source(source_of(600, 4))
+        self.assertEqual(len(self.texts()), 600)
 
     def test_a_source_without_texts_is_refused(self) -> None:
         self.assertIn("source.asm: ", self.refused_source(b" ORG $6000\r\n no text\r\n").err)

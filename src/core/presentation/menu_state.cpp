@@ -23,6 +23,8 @@ void InitMenu(const UiText& ui_text, MenuState& menus) {
   menus.mCopy.caption = ui_text[UiTextId::kCopyMenu];
   menus.mnuAbor.caption = ui_text[UiTextId::kAbort];
   menus.mnuCopy.caption = ui_text[UiTextId::kCopy];
+  menus.mnuUndo.caption = ui_text[UiTextId::kUndo];
+  menus.mnuRedo.caption = ui_text[UiTextId::kRedo];
   menus.mnuLCD[3].caption = ui_text[UiTextId::kDisplayHebrew];
 }
 

@@ -20,8 +20,14 @@ struct SharedText {
 };
 
 // Texts of Qt that are among the interface texts.
-constexpr std::array<SharedText, 3> kSharedTexts = {
-    {{"&Yes", UiTextId::kYes}, {"&No", UiTextId::kNo}, {"Cancel", UiTextId::kCancel}}};
+constexpr std::array<SharedText, 8> kSharedTexts = {{{"&Yes", UiTextId::kYes},
+                                                     {"&No", UiTextId::kNo},
+                                                     {"Cancel", UiTextId::kCancel},
+                                                     {"Cu&t", UiTextId::kCut},
+                                                     {"&Copy", UiTextId::kCopyText},
+                                                     {"&Paste", UiTextId::kPaste},
+                                                     {"Delete", UiTextId::kDelete},
+                                                     {"Select All", UiTextId::kSelectAll}}};
 
 class InterfaceTexts : public QTranslator {
  public:

@@ -4,13 +4,13 @@
 #include <QGuiApplication>
 #include <QInputMethodEvent>
 #include <QKeyEvent>
+#include <QMenu>
 #include <QMimeData>
 #include <algorithm>
 
 #include "core/presentation/twips.h"
 #include "desktop/fonts/display_font.h"
 #include "desktop/fonts/widget_text.h"
-#include "desktop/main_window/display_text_validator.h"
 
 namespace vendlingua {
 namespace {
@@ -34,6 +34,12 @@ std::optional<DisplayCode> CodeOf(const QKeyEvent& event) {
   return FromWidgetCharacter(characters.front());
 }
 
+// The box itself takes nothing back and does nothing again: the window does, for all messages.
+bool TakesBack(const QKeyEvent& event) {
+  return event.modifiers().testFlag(Qt::ControlModifier) &&
+         (event.key() == Qt::Key_Z || event.key() == Qt::Key_Y);
+}
+
 }  // namespace
 
 DestinationEdit::DestinationEdit(QWidget* parent) : QLineEdit(parent) {
@@ -42,9 +48,8 @@ DestinationEdit::DestinationEdit(QWidget* parent) : QLineEdit(parent) {
   // The first character begins at the left edge, as it does in the first origin cell.
   setTextMargins(-kInnerMargin, 0, -kInnerMargin, 0);
   setEnabled(false);
-  auto* validator = new DisplayTextValidator(this);
-  setValidator(validator);
-  connect(validator, &DisplayTextValidator::Refused, this, &DestinationEdit::Refused);
+  setValidator(&validator_);
+  connect(&validator_, &DisplayTextValidator::Refused, this, &DestinationEdit::Refused);
   connect(this, &QLineEdit::textEdited, this, [this](const QString& text) {
     edited_ = true;
     emit TextChanged(FromWidgetText(text));
@@ -77,17 +82,26 @@ void DestinationEdit::LimitLength(int limit) {
   }
 }
 
-// The box itself takes nothing back: the window does, for all messages.
+// Whatever the event changes takes the place of what is selected now.
 bool DestinationEdit::event(QEvent* event) {
-  if (event->type() == QEvent::ShortcutOverride) {
-    const auto* key = static_cast<QKeyEvent*>(event);
-    const bool control = key->modifiers().testFlag(Qt::ControlModifier);
-    if (control && (key->key() == Qt::Key_Z || key->key() == Qt::Key_Y)) {
-      event->ignore();
-      return false;
-    }
+  validator_.Expect(text().size() - selectionLength());
+  if (event->type() == QEvent::ShortcutOverride && TakesBack(*static_cast<QKeyEvent*>(event))) {
+    event->ignore();
+    return false;
   }
   return QLineEdit::event(event);
+}
+
+void DestinationEdit::contextMenuEvent(QContextMenuEvent* event) {
+  constexpr int kOwnEntries = 2;  // the first ones of Qt's menu
+  QMenu* menu = createStandardContextMenu();
+  menu->setAttribute(Qt::WA_DeleteOnClose);
+  const QList<QAction*> qts = menu->actions();
+  for (QAction* entry : qts.first(kOwnEntries)) {
+    menu->removeAction(entry);
+  }
+  menu->insertActions(qts.at(kOwnEntries), menu_entries_);
+  menu->popup(event->globalPos());
 }
 
 void DestinationEdit::dragEnterEvent(QDragEnterEvent* event) {
@@ -134,6 +148,10 @@ void DestinationEdit::inputMethodEvent(QInputMethodEvent* event) {
 }
 
 void DestinationEdit::keyPressEvent(QKeyEvent* event) {
+  if (TakesBack(*event)) {
+    event->ignore();
+    return;
+  }
   if (TakeAltDigit(*event)) {
     return;
   }

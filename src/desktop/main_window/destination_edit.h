@@ -1,12 +1,16 @@
 #ifndef VENDLINGUA_DESKTOP_MAIN_WINDOW_DESTINATION_EDIT_H_
 #define VENDLINGUA_DESKTOP_MAIN_WINDOW_DESTINATION_EDIT_H_
 
+#include <QAction>
 #include <QClipboard>
 #include <QLineEdit>
+#include <QList>
 #include <QString>
+#include <QStringList>
 
 #include "core/document/display_code.h"
 #include "core/presentation/view_state.h"
+#include "desktop/main_window/display_text_validator.h"
 
 namespace vendlingua {
 
@@ -20,6 +24,9 @@ class DestinationEdit : public QLineEdit {
 
  public:
   explicit DestinationEdit(QWidget* parent);
+
+  /// Puts `entries` on top of the menu of the edit box, in the place of its own for taking back.
+  void OfferInMenu(const QList<QAction*>& entries) { menu_entries_ = entries; }
 
   /// Shows the text of the view, the caret where it was; another message begins at its first
   /// character.
@@ -38,11 +45,12 @@ class DestinationEdit : public QLineEdit {
   /// `code` was dropped `x` pixels from the beginning of the text, which may be scrolled.
   void CharacterDropped(DisplayCode code, int x);
 
-  /// `character` has no display code and was not taken.
-  void Refused(const QString& character);
+  /// `characters` have no display code and were not taken.
+  void Refused(const QStringList& characters);
 
  protected:
   bool event(QEvent* event) override;
+  void contextMenuEvent(QContextMenuEvent* event) override;
   void dragEnterEvent(QDragEnterEvent* event) override;
   void dragMoveEvent(QDragMoveEvent* event) override;
   void dropEvent(QDropEvent* event) override;
@@ -57,6 +65,8 @@ class DestinationEdit : public QLineEdit {
   void TypeAltCode();
   void PutPlainTextOnClipboard(QClipboard::Mode mode);
 
+  DisplayTextValidator validator_;
+  QList<QAction*> menu_entries_;
   QString alt_digits_;
   int message_ = 0;
   bool edited_ = false;  // by the key that is being pressed

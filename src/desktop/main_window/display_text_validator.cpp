@@ -8,7 +8,7 @@ namespace vendlingua {
 
 QValidator::State DisplayTextValidator::validate(QString& input, int& caret) const {
   QString taken;
-  QString refused;
+  QStringList refused;
   int position = 0;
   int taken_before_caret = 0;
   for (const char32_t character : input.toUcs4()) {
@@ -17,17 +17,19 @@ QValidator::State DisplayTextValidator::validate(QString& input, int& caret) con
     if (code) {
       taken += ToWidgetCharacter(*code);
       taken_before_caret += position < caret ? 1 : 0;
-    } else if (refused.isEmpty()) {
-      refused = text;
+    } else {
+      refused += text;
     }
     position += static_cast<int>(text.size());
   }
+  const bool brings_nothing = !refused.isEmpty() && taken.size() <= kept_length_;
   input = taken;
   caret = taken_before_caret;
   if (!refused.isEmpty()) {
+    refused.removeDuplicates();
     emit Refused(refused);
   }
-  return Acceptable;
+  return brings_nothing ? Invalid : Acceptable;
 }
 
 }  // namespace vendlingua

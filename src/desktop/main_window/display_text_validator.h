@@ -1,12 +1,13 @@
 #ifndef VENDLINGUA_DESKTOP_MAIN_WINDOW_DISPLAY_TEXT_VALIDATOR_H_
 #define VENDLINGUA_DESKTOP_MAIN_WINDOW_DISPLAY_TEXT_VALIDATOR_H_
 
+#include <QStringList>
 #include <QValidator>
 
 namespace vendlingua {
 
 /// Lets only characters into an edit box that the display has, however they come: typed, pasted or
-/// dropped. The others are taken out.
+/// dropped. The others are taken out; a change that brings no other leaves the box as it is.
 class DisplayTextValidator : public QValidator {
   Q_OBJECT
 
@@ -15,9 +16,15 @@ class DisplayTextValidator : public QValidator {
 
   State validate(QString& input, int& caret) const override;
 
+  /// `length` characters stay of the text that stood there before the change that comes.
+  void Expect(qsizetype length) { kept_length_ = length; }
+
  signals:
-  /// `character` has no display code and was not taken.
-  void Refused(const QString& character) const;
+  /// `characters` have no display code and were not taken.
+  void Refused(const QStringList& characters) const;
+
+ private:
+  qsizetype kept_length_ = 0;
 };
 
 }  // namespace vendlingua

@@ -131,7 +131,7 @@ void EditorPanel::PlaceControls() {
 void EditorPanel::ConnectControls() {
   connect(HScroll1_, &QScrollBar::valueChanged, this, &EditorPanel::Scrolled);
   connect(Text1_, &DestinationEdit::TextChanged, this, &EditorPanel::TextChanged);
-  connect(Text1_, &DestinationEdit::Refused, this, &EditorPanel::CharacterRefused);
+  connect(Text1_, &DestinationEdit::Refused, this, &EditorPanel::CharactersRefused);
   connect(Text1_, &DestinationEdit::KeyPressed, this, &EditorPanel::KeyPressed);
   connect(Text1_, &DestinationEdit::CharacterTyped, this, &EditorPanel::Preview);
   connect(Text1_, &DestinationEdit::CharacterDropped, this,

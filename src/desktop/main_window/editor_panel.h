@@ -28,6 +28,9 @@ class EditorPanel : public QWidget {
   /// Shows the view, its cells spoken in the interface language.
   void Show(const ViewState& view, const UiText& ui_text);
 
+  /// Puts `entries` on top of the edit box's menu.
+  void OfferInEditMenu(const QList<QAction*>& entries) { Text1_->OfferInMenu(entries); }
+
   /// Captions the controls in the interface language.
   void SetEditorCaptions(const UiText& ui_text);
 
@@ -42,8 +45,8 @@ class EditorPanel : public QWidget {
   /// `code` was dropped `x` pixels from the beginning of the text, whose cells are `text_width`
   /// pixels wide together.
   void CharacterDropped(DisplayCode code, int x, int text_width);
-  /// `character` was typed or pasted and has no display code.
-  void CharacterRefused(const QString& character);
+  /// `characters` were typed or pasted and have no display code.
+  void CharactersRefused(const QStringList& characters);
   /// The copy menu is wanted at `position`, relative to this panel.
   void CopyMenuWanted(const QPoint& position);
   void HeightToggled();

@@ -50,6 +50,7 @@ FrmMes::FrmMes(Engine& engine, QtDialogs& dialogs, ProgramStarter& starter)
   ConnectMenus();
   ConnectPanel();
   AddShortcuts();
+  panel_->OfferInEditMenu(menus_->HistoryEntries());
   typing_pause_.setSingleShot(true);
   typing_pause_.setInterval(kTypingPause);
   connect(&typing_pause_, &QTimer::timeout, this, [this] { engine_.editing.EndTyping(); });
@@ -72,6 +73,8 @@ void FrmMes::ConnectMenus() {
       [this](int i) { engine_.editing.ChooseDisplayType(static_cast<std::size_t>(i)); });
   run(&MainMenus::InterfaceLanguageChosen, [this](int i) { ChooseLanguage(i); });
   run(&MainMenus::CopyChosen, [this] { engine_.editing.CopyOrigin(); });
+  run(&MainMenus::UndoChosen, [this] { engine_.editing.Undo(); });
+  run(&MainMenus::RedoChosen, [this] { engine_.editing.Redo(); });
   run(&MainMenus::CompilerChosen, [this] { OpenCompiler(); });
   run(&MainMenus::InfoChosen, [this] { OpenInfo(); });
   connect(menus_, &MainMenus::ExitChosen, this, &QWidget::close);
@@ -94,11 +97,11 @@ void FrmMes::ConnectPanel() {
           [this](const QPoint& position) { menus_->PopUpCopyMenu(panel_->mapToGlobal(position)); });
   // The edit box is still taking its new text when it refuses a character.
   connect(
-      panel_, &EditorPanel::CharacterRefused, this,
-      [this](const QString& character) {
+      panel_, &EditorPanel::CharactersRefused, this,
+      [this](const QStringList& characters) {
         Run([&] {
           engine_.workspace.window.status = engine_.workspace.ui_text[UiTextId::kCharacterRefused] +
-                                            " " + character.toStdString();
+                                            " " + characters.join(QLatin1Char(' ')).toStdString();
         });
       },
       Qt::QueuedConnection);
@@ -113,14 +116,6 @@ void FrmMes::AddShortcuts() {
   step(Qt::Key_PageDown, 1);
   step(Qt::ALT | Qt::Key_Left, -1);
   step(Qt::ALT | Qt::Key_Right, 1);
-  const auto run = [this](QKeyCombination key, void (Editing::*command)()) {
-    auto* shortcut = new QShortcut(QKeySequence(key), this);
-    connect(shortcut, &QShortcut::activated, this,
-            [this, command] { Run([&] { (engine_.editing.*command)(); }); });
-  };
-  run(Qt::CTRL | Qt::Key_Z, &Editing::Undo);
-  run(Qt::CTRL | Qt::SHIFT | Qt::Key_Z, &Editing::Redo);
-  run(Qt::CTRL | Qt::Key_Y, &Editing::Redo);
 }
 
 void FrmMes::Run(const std::function<void()>& command, QWidget& window) {

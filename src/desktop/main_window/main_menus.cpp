@@ -46,7 +46,8 @@ QMenu* AddMenu(QMenuBar& menu_bar, const char* name) {
 
 template <typename Container>
 QAction* AddAction(Container& container, const char* name) {
-  QAction* action = container.addAction(QString());
+  auto* action = new QAction(&container);
+  container.addAction(action);
   action->setObjectName(QLatin1String(name));
   return action;
 }
@@ -66,6 +67,7 @@ MainMenus::MainMenus(QMenuBar& menu_bar, QWidget& window) : QObject(&window) {
   mnuInf_ = AddAction(menu_bar, "mnuInf");
   connect(mnuInf_, &QAction::triggered, this, &MainMenus::InfoChosen);
   BuildCopyMenu(window);
+  BuildHistoryEntries(window);
 }
 
 void MainMenus::BuildFileMenu(QMenuBar& menu_bar) {
@@ -110,6 +112,16 @@ void MainMenus::BuildCopyMenu(QWidget& window) {
   connect(mnuCopy_, &QAction::triggered, this, &MainMenus::CopyChosen);
 }
 
+// They stand in no menu of the bar; their keys hold in the whole window.
+void MainMenus::BuildHistoryEntries(QWidget& window) {
+  mnuUndo_ = AddAction(window, "mnuUndo");
+  mnuUndo_->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_Z));
+  connect(mnuUndo_, &QAction::triggered, this, &MainMenus::UndoChosen);
+  mnuRedo_ = AddAction(window, "mnuRedo");
+  mnuRedo_->setShortcuts({Qt::CTRL | Qt::SHIFT | Qt::Key_Z, Qt::CTRL | Qt::Key_Y});
+  connect(mnuRedo_, &QAction::triggered, this, &MainMenus::RedoChosen);
+}
+
 std::vector<QAction*> MainMenus::AddArray(QMenu& menu, const char* name, std::size_t first,
                                           std::size_t count, ArraySignal chosen, bool checkable) {
   std::vector<QAction*> actions;
@@ -140,6 +152,8 @@ void MainMenus::Show(const MenuState& menus) {
   mCopy_->setTitle(FromUtf8(menus.mCopy.caption));
   ShowEntry(*mnuAbor_, menus.mnuAbor);
   ShowEntry(*mnuCopy_, menus.mnuCopy);
+  ShowEntry(*mnuUndo_, menus.mnuUndo);
+  ShowEntry(*mnuRedo_, menus.mnuRedo);
   ShowEntries(mnuori_, menus.mnuori, Caption::kName);
   ShowEntries(mnuDes_, menus.mnuDes, Caption::kName);
   ShowEntries(mnuNew_, menus.mnuNew, Caption::kName);

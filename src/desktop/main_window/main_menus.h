@@ -2,6 +2,7 @@
 #define VENDLINGUA_DESKTOP_MAIN_WINDOW_MAIN_MENUS_H_
 
 #include <QAction>
+#include <QList>
 #include <QMenu>
 #include <QMenuBar>
 #include <QObject>
@@ -22,6 +23,9 @@ class MainMenus : public QObject {
   /// Shows captions, visibility, enabled and checked states.
   void Show(const MenuState& menus);
 
+  /// Take an edit back and do it again; they belong into the menu of the edit box.
+  QList<QAction*> HistoryEntries() const { return {mnuUndo_, mnuRedo_}; }
+
   /// Opens the copy menu.
   void PopUpCopyMenu(const QPoint& global_position) { mCopy_->popup(global_position); }
 
@@ -38,6 +42,8 @@ class MainMenus : public QObject {
   void InterfaceLanguageChosen(int index);
   void InfoChosen();
   void CopyChosen();
+  void UndoChosen();
+  void RedoChosen();
 
  private:
   using ArraySignal = void (MainMenus::*)(int);
@@ -45,6 +51,7 @@ class MainMenus : public QObject {
   void BuildFileMenu(QMenuBar& menu_bar);
   void BuildLanguageMenus(QMenuBar& menu_bar);
   void BuildCopyMenu(QWidget& window);
+  void BuildHistoryEntries(QWidget& window);
   std::vector<QAction*> AddArray(QMenu& menu, const char* name, std::size_t first,
                                  std::size_t count, ArraySignal chosen, bool checkable);
 
@@ -63,6 +70,8 @@ class MainMenus : public QObject {
   QMenu* mCopy_ = nullptr;
   QAction* mnuAbor_ = nullptr;
   QAction* mnuCopy_ = nullptr;
+  QAction* mnuUndo_ = nullptr;
+  QAction* mnuRedo_ = nullptr;
   std::vector<QAction*> mnuori_;
   std::vector<QAction*> mnuDes_;
   std::vector<QAction*> mnuNew_;

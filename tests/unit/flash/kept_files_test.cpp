@@ -23,12 +23,13 @@ class KeptFilesTest : public testing::Test {
   }
 
   test::TemporaryFolder folder_;
-  std::vector<KeptFile> kept_ = {{folder_ / "READ.MES", "the message file"},
-                                 {folder_ / "NEW.MHX", "the flash file"}};
+  std::vector<KeptFile> kept_ = {{folder_ / "READ.MES", UiTextId::kIsMessageFile},
+                                 {folder_ / "NEW.MHX", UiTextId::kIsFlashFile}};
 };
 
 TEST_F(KeptFilesTest, LetNothingTakeTheirPlace) {
-  EXPECT_EQ(Refusal("./READ.MES"), "is the message file; choose another name");
+  EXPECT_EQ(Refusal("./READ.MES"),
+            "is the message file that is being compiled; choose another name");
   std::filesystem::create_symlink("NEW.MHX", folder_ / "LINK");
   EXPECT_EQ(Refusal("LINK"), "is the flash file; choose another name");
 }

@@ -4,11 +4,13 @@
 
 #include <filesystem>
 #include <random>
+#include <set>
 #include <string>
 #include <string_view>
 
 #include "core/document/display_code.h"
 #include "core/platform/errors.h"
+#include "core/texts/english_texts.h"
 #include "support/temporary_folder.h"
 
 namespace vendlingua {
@@ -193,6 +195,26 @@ TEST(LanguageFiles, HaveATextOnEveryLineAndEndItWithCrLf) {
       ASSERT_EQ(content[end - 1], '\r') << entry.path() << " at byte " << end;
     }
     EXPECT_EQ(start, content.size()) << entry.path() << " lacks its last line end";
+  }
+}
+
+// The values of an error stand in its sentence whatever the language.
+TEST(LanguageFiles, HoldTheSameValuesAsTheEnglishTexts) {
+  const auto values_in = [](const std::string& text) {
+    std::set<std::string> values;
+    for (std::size_t at = text.find('{'); at != std::string::npos; at = text.find('{', at + 1)) {
+      values.insert(text.substr(at, 3));
+    }
+    return values;
+  };
+  for (const auto& entry : std::filesystem::directory_iterator(VENDLINGUA_LANGUAGES_FOLDER)) {
+    Workspace workspace;
+    workspace.folders.program = VENDLINGUA_LANGUAGES_FOLDER;
+    LoadLanguageFile(workspace, entry.path().filename().string());
+    for (std::size_t number = 1; !EnglishTexts().Entry(number).empty(); ++number) {
+      EXPECT_EQ(values_in(workspace.ui_text.Entry(number)), values_in(EnglishTexts().Entry(number)))
+          << entry.path() << " line " << number;
+    }
   }
 }
 
