@@ -136,8 +136,8 @@ class DialogsTest : public DeskTest {
     OpenCompilerWithAllTicked();
     Compile();
     const auto& questions = desk_->user.files();
-    QCOMPARE(questions.at(1).title, QStringLiteral("Save the flash file"));
-    QCOMPARE(questions.at(2).title, QStringLiteral("Save the copy with identification header"));
+    QCOMPARE(questions.at(1).title, UiText(83));
+    QCOMPARE(questions.at(2).title, UiText(84));
     QVERIFY(fs::exists(desk_->folder / "COPY.MSX"));
   }
 

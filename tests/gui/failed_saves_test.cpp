@@ -219,7 +219,7 @@ class FailedSavesTest : public DeskTest {
     const fs::path path = EditAMessage();
     fs::resize_file(path, 23);
     desk_->program.Choose("mnuSave");
-    ExpectNotSaved(QStringLiteral("has only 23 bytes"));
+    ExpectNotSaved(Say(UiSentence(UiTextId::kHeaderIsLost, 23)));
     QCOMPARE(fs::file_size(path), std::uintmax_t{23});
     ExpectSavedElsewhere();
   }
@@ -232,7 +232,7 @@ class FailedSavesTest : public DeskTest {
         whole.substr(0, whole.find(S2Line(0xFF0000 + 100 * 16, MsxMessage(1, 100))));
     desk_->folder.Write("TEST.MSX", shortened);
     desk_->program.Choose("mnuSave");
-    ExpectNotSaved(QStringLiteral("the file ends after line 101:"));
+    ExpectNotSaved(Say(UiSentence(UiTextId::kLanguageBehindEnd, 101)));
     QCOMPARE(Slurp(path), shortened);
     desk_->user.Choose(desk_->folder / "COPY.MSX");
     desk_->program.Choose("mnuSaas");
@@ -248,7 +248,7 @@ class FailedSavesTest : public DeskTest {
     content.erase(std::remove(content.begin(), content.end(), '\r'), content.end());
     desk_->folder.Write("TEST.MSX", content);
     desk_->program.Choose("mnuSave");
-    ExpectNotSaved(QStringLiteral("line 2 does not end in CR LF"));
+    ExpectNotSaved(Say(UiSentence(UiTextId::kNotInCrLf, 2)));
     QCOMPARE(Slurp(path), content);
   }
 

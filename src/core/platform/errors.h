@@ -4,6 +4,7 @@
 #include <filesystem>
 #include <stdexcept>
 #include <string>
+#include <utility>
 
 #include "core/texts/english_texts.h"
 #include "core/texts/ui_sentence.h"
@@ -28,8 +29,8 @@ class Error : public std::runtime_error {
   virtual std::string In(const UiText& texts) const { return sentence_.In(texts); }
 
  protected:
-  Error(const std::string& english, const UiSentence& sentence)
-      : std::runtime_error(english), sentence_(sentence) {}
+  Error(const std::string& english, UiSentence sentence)
+      : std::runtime_error(english), sentence_(std::move(sentence)) {}
 
  private:
   UiSentence sentence_;

@@ -9,6 +9,10 @@ QString DeskTest::UiText(std::size_t number) const {
   return QString::fromStdString(desk_->program.workspace().ui_text.Entry(number));
 }
 
+QString DeskTest::Say(const UiSentence& sentence) const {
+  return QString::fromStdString(sentence.In(desk_->program.workspace().ui_text));
+}
+
 QString DeskTest::Status() const { return desk_->program.Get<QLabel>("Status").toolTip(); }
 
 void DeskTest::init() { desk_ = std::make_unique<Desk>(); }

@@ -6,6 +6,7 @@
 #include <cstddef>
 #include <memory>
 
+#include "core/texts/ui_sentence.h"
 #include "gui/support/desk.h"
 
 namespace vendlingua::test {
@@ -17,6 +18,9 @@ class DeskTest : public QObject {
  protected:
   /// Entry `number` of the interface texts in use.
   QString UiText(std::size_t number) const;
+
+  /// What `sentence` says in the interface language.
+  QString Say(const UiSentence& sentence) const;
 
   /// How the last command ended, as the status line says it in full.
   QString Status() const;
