@@ -32,7 +32,7 @@ MessageFileWriter::MessageFileWriter(Workspace& workspace, Dialogs& dialogs, Edi
     : workspace_(workspace), dialogs_(dialogs), editing_(editing), reader_(reader) {}
 
 SaveOutcome MessageFileWriter::Save() {
-  const SaveOutcome outcome = SaveUnderTrap();
+  SaveOutcome outcome = SaveUnderTrap();
   const UiText& ui_text = workspace_.ui_text;
   std::string& status = workspace_.window.status;
   if (outcome.result == SaveOutcome::kSaved) {
