@@ -1,12 +1,28 @@
-# What every target of ours is compiled with: all warnings, and all of them errors.
+# How everything is compiled.
+set(CMAKE_CXX_STANDARD 20)
+set(CMAKE_CXX_STANDARD_REQUIRED ON)
+set(CMAKE_CXX_EXTENSIONS OFF)
+set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
+
+# Who names no build type gets the programs as users do.
+get_property(many_build_types GLOBAL PROPERTY GENERATOR_IS_MULTI_CONFIG)
+if(NOT many_build_types AND NOT CMAKE_BUILD_TYPE)
+  set(CMAKE_BUILD_TYPE Release CACHE STRING "Release, Debug, RelWithDebInfo or MinSizeRel" FORCE)
+endif()
+
+# What every target of ours is compiled with.
 add_library(vendlingua_settings INTERFACE)
 target_compile_options(vendlingua_settings INTERFACE
-  -Wall -Wextra -Wconversion -Wsign-conversion -Wshadow -Wnon-virtual-dtor -Werror)
+  -Wall -Wextra -Wconversion -Wsign-conversion -Wshadow -Wnon-virtual-dtor)
+if(VENDLINGUA_WARNINGS_AS_ERRORS)
+  target_compile_options(vendlingua_settings INTERFACE -Werror)
+endif()
 
-# GCC 12 takes the concatenation of strings for overlapping copies (its bug 105651) and what Boost's
-# interval maps write into their nodes for an overflow.
+# GCC 12 sees overlapping copies and overflows in the strings of its own library (its bugs 105329 and
+# 105651), in {fmt} and in Boost's interval maps.
 if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND CMAKE_CXX_COMPILER_VERSION VERSION_LESS 13)
-  target_compile_options(vendlingua_settings INTERFACE -Wno-restrict -Wno-stringop-overflow)
+  target_compile_options(vendlingua_settings INTERFACE
+    -Wno-array-bounds -Wno-restrict -Wno-stringop-overflow)
 endif()
 
 if(VENDLINGUA_COVERAGE)

@@ -14,13 +14,13 @@ corpus=$build/corpus
 findings=$build/findings
 
 echo "== fuzz: build"
-cmake --preset fuzz -DVENDLINGUA_GUI=OFF >/dev/null
+cmake --preset fuzz >/dev/null
 cmake --build --preset fuzz --target fuzz_targets
-"$build/bin/make_fuzz_corpus" "$corpus"
+"$build/tests/make_fuzz_corpus" "$corpus"
 mkdir -p "$findings"
 
 failed=
-for program in "$build"/bin/fuzz_*; do
+for program in "$build"/tests/fuzz_*; do
   target=${program##*/fuzz_}
   log=$build/$target.log
   echo "== fuzz: $target, $seconds seconds"

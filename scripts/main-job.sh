@@ -2,11 +2,12 @@
 # The main job on the samples: a tour through the real windows edits, saves and compiles, and leaves a
 # picture of every step; then vendlingua-cli does the same work on the same samples. Ends with status 0
 # only if both made the same files, byte for byte.
-# Usage: main-job.sh PROGRAMS SAMPLES FOLDER
+# Usage: main-job.sh TOUR CLI SAMPLES FOLDER
 set -eu
-programs=$1
-samples=$2
-out=$3
+tour=$1
+cli=$2
+samples=$3
+out=$4
 
 windows=$out/windows
 command_line=$out/command-line
@@ -14,10 +15,9 @@ rm -rf "$windows" "$command_line"
 mkdir -p "$windows" "$command_line"
 
 echo "== The tour through the windows"
-QT_LOGGING_RULES='*.warning=false' "$programs/vendlingua_tour" "$samples" "$windows"
+QT_LOGGING_RULES='*.warning=false' "$tour" "$samples" "$windows"
 
 echo "== The same on the command line"
-cli=$programs/vendlingua-cli
 msx=$command_line/MP0417AA.MSX
 mes=$command_line/FW0417AB.MES
 cp "$samples/MP0417AA.MSX" "$samples/FW0417AB.MES" "$command_line"

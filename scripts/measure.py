@@ -23,6 +23,7 @@ import measure_windows
 
 ROOT = Path(__file__).resolve().parent.parent
 PROGRAMS = ROOT / "build/bench/bin"
+BENCHES = ROOT / "build/bench/tests"
 QT_LINGUIST = "/usr/lib/qt6/bin/linguist"
 MIB = 1 << 20
 
@@ -78,7 +79,7 @@ def measure_records(folder: Path) -> str:
     image = folder / "image.bin"
     image.write_bytes(random.Random(1).randbytes(16 * MIB))
     ours, theirs, third, back = (folder / n for n in ("a.srec", "b.srec", "c.srec", "back.bin"))
-    tool = str(PROGRAMS / "srecord_tool")
+    tool = str(BENCHES / "srecord_tool")
     written = compare(
         {
             "vendlingua": ([tool, "write", str(image), str(ours)], [ours]),
@@ -105,7 +106,7 @@ def measure_records(folder: Path) -> str:
 
 
 def measure_sizes(folder: Path) -> str:
-    tool = str(PROGRAMS / "srecord_tool")
+    tool = str(BENCHES / "srecord_tool")
     image, records, back = (folder / name for name in ("image.bin", "a.srec", "back.bin"))
     rows = ["| Size of the image | writing | reading |", "|---|---|---|"]
     for size in (1, 4, 16):
@@ -153,7 +154,7 @@ def duration(value: float, unit: str) -> str:
 
 def measure_engine() -> str:
     result = subprocess.run(
-        [str(PROGRAMS / "engine_bench"), "--benchmark_format=json"],
+        [str(BENCHES / "engine_bench"), "--benchmark_format=json"],
         capture_output=True,
         check=True,
         text=True,
@@ -178,7 +179,7 @@ def main() -> None:
         measure_windows.measure_starts(
             {"vendlingua": str(PROGRAMS / "vendlingua"), "Qt Linguist": QT_LINGUIST}
         ),
-        measure_windows.measure_latency(PROGRAMS / "window_latency"),
+        measure_windows.measure_latency(BENCHES / "window_latency"),
     ]
     head = f"""# Performance
 

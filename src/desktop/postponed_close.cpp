@@ -25,7 +25,7 @@ void PostponedClose::CommandEnds() {
   --running_;
   if (running_ == 0 && wanted_) {
     wanted_ = false;
-    QMetaObject::invokeMethod(&window_, &QWidget::close, Qt::QueuedConnection);
+    QMetaObject::invokeMethod(&window_, "close", Qt::QueuedConnection);
   }
 }
 

@@ -3,6 +3,7 @@
 #include <QProcess>
 #include <stdexcept>
 
+#include "core/version.h"
 #include "desktop/application.h"
 #include "desktop/qt_program_starter.h"
 #include "gui/support/desk_test.h"
@@ -155,7 +156,7 @@ class ProgramTest : public DeskTest {
     QCOMPARE(info->findChild<QLabel*>(QStringLiteral("Label1(0)"))->text(),
              QStringLiteral("Vendlingua"));
     QCOMPARE(info->findChild<QLabel*>(QStringLiteral("Label1(1)"))->text(),
-             QStringLiteral("Rev. 1.0.0"));
+             QStringLiteral("Rev. ") + QString::fromLatin1(kVersion));
     QVERIFY(!info->findChild<QLabel*>(QStringLiteral("Image2"))->pixmap().isNull());
     QCOMPARE(info->x(), 300);
     QVERIFY(qAbs(info->y() - (3500.0 / 15 - 0.075 * info->height())) <= 1);

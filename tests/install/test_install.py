@@ -2,57 +2,165 @@
 
 from __future__ import annotations
 
+import ctypes
 import os
+import re
+import select
+import shutil
 import subprocess
 import tempfile
 import unittest
 from pathlib import Path
 
+BUILD = Path(os.environ["BUILD"])
+LANGUAGES = {
+    f"{name}.lng"
+    for name in ("dansk", "deutsch", "english", "espanol", "francais", "italiano")
+    + ("nederlands", "portugues", "svenska")
+}
+FONTS = {"LCD.ttf", "LCD_CY.ttf", "LCD_HBR.ttf", "LCD_KTV.ttf"}
+PROGRAMS = {"vendlingua", "vendlingua-cli"}
+SETTINGS = "vendlingua.ini"
 LOCALE_VARIABLES = ("LC_ALL", "LC_MESSAGES", "LANG")
 
 
+def install(prefix: Path, **environment: str) -> None:
+    here = {k: v for k, v in os.environ.items() if k not in LOCALE_VARIABLES}
+    subprocess.run(
+        [os.environ["CMAKE"], "--install", BUILD, "--prefix", prefix],
+        env=here | environment,
+        check=True,
+        capture_output=True,
+    )
+
+
+def names(folder: Path) -> set[str]:
+    return {path.name for path in folder.iterdir()}
+
+
+class Openings:
+    """Tells when a file is opened."""
+
+    IN_OPEN = 0x20
+
+    def __init__(self, file: Path) -> None:
+        libc = ctypes.CDLL(None, use_errno=True)
+        self._events = libc.inotify_init()
+        if libc.inotify_add_watch(self._events, os.fsencode(file), self.IN_OPEN) < 0:
+            raise OSError(ctypes.get_errno(), os.strerror(ctypes.get_errno()), file)
+
+    def wait(self, seconds: float) -> bool:
+        return bool(select.select([self._events], [], [], seconds)[0])
+
+    def close(self) -> None:
+        os.close(self._events)
+
+
 class InstallTest(unittest.TestCase):
+    """A test with a prefix of its own, which is removed at the end."""
+
     def setUp(self) -> None:
         folder = tempfile.TemporaryDirectory()
         self.addCleanup(folder.cleanup)
-        self.prefix = Path(folder.name) / "programs"
+        self.folder = Path(folder.name)
+        self.prefix = self.folder / "a prefix"
+        self.programs = self.prefix / "lib/vendlingua"
 
-    def install(self, **locale: str) -> None:
-        environment = {k: v for k, v in os.environ.items() if k not in LOCALE_VARIABLES}
-        subprocess.run(
-            [os.environ["CMAKE"], "--install", os.environ["BUILD"], "--prefix", self.prefix],
-            env=environment | locale,
-            check=True,
-            capture_output=True,
+
+class TreeTest(InstallTest):
+    def test_the_program_folder_holds_programs_languages_and_fonts(self) -> None:
+        install(self.prefix)
+        self.assertEqual(names(self.programs), PROGRAMS | LANGUAGES | {"fonts", SETTINGS})
+        self.assertEqual(names(self.programs / "fonts"), FONTS)
+
+    def test_the_build_tree_has_the_same_programs(self) -> None:
+        self.assertEqual(names(BUILD / "bin") - {SETTINGS}, PROGRAMS | LANGUAGES | {"fonts"})
+        self.assertEqual(names(BUILD / "bin/fonts"), FONTS)
+
+    def test_links_in_bin_lead_to_the_programs(self) -> None:
+        install(self.prefix)
+        self.assertEqual(names(self.prefix / "bin"), PROGRAMS)
+        for name in PROGRAMS:
+            link = self.prefix / "bin" / name
+            self.assertEqual(os.readlink(link), f"../lib/vendlingua/{name}")
+            self.assertTrue(os.access(link, os.X_OK))
+
+    def test_the_links_of_the_documents_lead_somewhere(self) -> None:
+        install(self.prefix)
+        documents = self.prefix / "share/doc/vendlingua"
+        self.assertIn("MIT", (documents / "LICENSE").read_text(encoding="utf-8"))
+        for document in (documents / "README.md", *documents.rglob("*.md")):
+            text = document.read_text(encoding="utf-8")
+            for target in re.findall(r'(?:\]\(|src=")([^)"#:]+)[)"#]', text):
+                self.assertTrue((document.parent / target).exists(), f"{document}: {target}")
+
+    def test_the_desktop_finds_program_and_icon(self) -> None:
+        install(self.prefix)
+        entry = (self.prefix / "share/applications/vendlingua.desktop").read_text(encoding="utf-8")
+        self.assertIn("\nExec=vendlingua\n", entry)
+        self.assertIn("\nIcon=vendlingua\n", entry)
+        icon = self.prefix / "share/icons/hicolor/scalable/apps/vendlingua.svg"
+        self.assertIn(b"<svg", icon.read_bytes())
+
+    def test_a_staged_tree_lies_below_its_folder(self) -> None:
+        stage = self.folder / "a stage"
+        install(self.prefix, DESTDIR=str(stage))
+        self.assertFalse(self.prefix.exists())
+        staged = stage / self.prefix.relative_to("/")
+        self.assertTrue((staged / "lib/vendlingua" / SETTINGS).exists())
+        subprocess.run([staged / "bin/vendlingua-cli", "--version"], check=True)
+
+
+class RunningTest(InstallTest):
+    """Programs that are started through their links read what lies in the program's folder."""
+
+    def setUp(self) -> None:
+        super().setUp()
+        install(self.prefix, LANG="en_GB.UTF-8")
+
+    def test_the_command_line_program(self) -> None:
+        english = Openings(self.programs / "english.lng")
+        self.addCleanup(english.close)
+        source = Path(os.environ["SAMPLES"]) / "FW0417AB.MES"
+        file = shutil.copy(source, self.folder)
+        subprocess.run([self.prefix / "bin/vendlingua-cli", "info", file], check=True, capture_output=True)
+        self.assertTrue(english.wait(seconds=0))
+
+    def test_the_desktop_program(self) -> None:
+        english = Openings(self.programs / "english.lng")
+        self.addCleanup(english.close)
+        program = subprocess.Popen(
+            [self.prefix / "bin/vendlingua"],
+            env=os.environ | {"QT_QPA_PLATFORM": "offscreen", "HOME": str(self.folder)},
         )
+        try:
+            self.assertTrue(english.wait(seconds=60))
+            self.assertIsNone(program.poll())
+        finally:
+            program.kill()
+            program.wait()
 
+
+class FirstSettingsTest(InstallTest):
     def settings(self) -> bytes:
-        return (self.prefix / "vendlingua.ini").read_bytes()
-
-    def test_programs_lie_beside_what_they_read(self) -> None:
-        self.install()
-        subprocess.run([self.prefix / "vendlingua-cli", "--version"], check=True)
-        self.assertTrue(os.access(self.prefix / "vendlingua", os.X_OK))
-        self.assertEqual(len(list(self.prefix.glob("*.lng"))), 9)
-        fonts = sorted(font.name for font in (self.prefix / "fonts").iterdir())
-        self.assertEqual(fonts, ["LCD.ttf", "LCD_CY.ttf", "LCD_HBR.ttf", "LCD_KTV.ttf"])
+        return (self.programs / SETTINGS).read_bytes()
 
     def test_the_language_of_the_system_is_set(self) -> None:
-        self.install(LANG="nl_BE.UTF-8")
+        install(self.prefix, LANG="nl_BE.UTF-8")
         self.assertEqual(self.settings(), b"Lingua=nederlands\r\n")
 
     def test_a_category_goes_before_the_general_locale(self) -> None:
-        self.install(LC_ALL="", LC_MESSAGES="sv_SE", LANG="da_DK")
+        install(self.prefix, LC_ALL="", LC_MESSAGES="sv_SE", LANG="da_DK")
         self.assertEqual(self.settings(), b"Lingua=svenska\r\n")
 
     def test_other_systems_get_english(self) -> None:
-        self.install(LC_ALL="frr_DE.UTF-8")
+        install(self.prefix, LC_ALL="frr_DE.UTF-8")
         self.assertEqual(self.settings(), b"Lingua=english\r\n")
 
     def test_a_choice_that_was_made_stays(self) -> None:
-        self.install(LANG="de_DE")
-        (self.prefix / "vendlingua.ini").write_bytes(b"Lingua=dansk\r\n")
-        self.install(LANG="de_DE")
+        install(self.prefix, LANG="de_DE")
+        (self.programs / SETTINGS).write_bytes(b"Lingua=dansk\r\n")
+        install(self.prefix, LANG="de_DE")
         self.assertEqual(self.settings(), b"Lingua=dansk\r\n")
 
 
