@@ -8,31 +8,36 @@
 
 namespace vendlingua {
 
+Application::Application(int& argc, char** argv) : QApplication(argc, argv) {
+  connect(this, &Application::Failed, this, &Application::Show, Qt::QueuedConnection);
+}
+
 bool Application::notify(QObject* receiver, QEvent* event) {
   try {
     return QApplication::notify(receiver, event);
   } catch (const std::exception& error) {
-    Report(error.what());
+    Report(QString::fromUtf8(error.what()));
     return false;
   }
 }
 
-void Application::Report(const std::string& failure) {
+void Application::Report(const QString& failure) {
   if (reporting_) {
-    qCritical("%s", failure.c_str());
-    return;
+    qCritical("%s", qUtf8Printable(failure));
+  } else {
+    reporting_ = true;
+    emit Failed(failure);
   }
-  reporting_ = true;
-  const auto show = [this, failure] {
-    const auto shown = qScopeGuard([this] { reporting_ = false; });
-    ShowFailure(failure);
-  };
-  QMetaObject::invokeMethod(this, show, Qt::QueuedConnection);
+}
+
+void Application::Show(const QString& failure) {
+  const auto shown = qScopeGuard([this] { reporting_ = false; });
+  ShowFailure(failure);
 }
 
 // The dialogs of the windows would ask the windows to show their state, which may be what failed.
-void ShowFailure(const std::string& failure) {
-  QtDialogs().MessageBox({MessageIcon::kCritical, failure, "ERROR"});
+void ShowFailure(const QString& failure) {
+  QtDialogs().MessageBox({MessageIcon::kCritical, failure.toStdString(), "ERROR"});
 }
 
 }  // namespace vendlingua

@@ -33,7 +33,7 @@ int main(int argc, char** argv) {
   try {
     return Run();
   } catch (const std::exception& error) {
-    vendlingua::ShowFailure(error.what());
+    vendlingua::ShowFailure(QString::fromUtf8(error.what()));
     return 1;
   }
 }
