@@ -53,7 +53,9 @@ void AddPut(CLI::App& app, Session& session) {
   const auto options = std::make_shared<PutOptions>();
   CLI::App* command = app.add_subcommand("put", "Change one message and save the file in place.");
   command->footer(
-      "A text longer than the message is cut. Cells that the board fills stay as they are.\n"
+      "A text longer than the message is cut. In a .MES file the cells that the board fills, "
+      "which\n"
+      "are the placeholders of language 0, stay; in a .MSX file every cell takes the text.\n"
       "Example: vendlingua-cli put FW0417AB.MES --language 2 --message 45 --text \"E08 No water\"");
   command->add_option("FILE", options->file, "message file (.MES or .MSX)")->required();
   command->add_option("--language", options->language, "number of the language")->required();
