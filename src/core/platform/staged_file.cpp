@@ -71,12 +71,14 @@ StagedFile::~StagedFile() {
 
 void StagedFile::Write(std::string_view bytes) {
   RequireDone(target_, UiTextId::kCannotBeWritten, file_.Write(bytes));
+  holds_bytes_ = holds_bytes_ || !bytes.empty();
 }
 
 void StagedFile::SetPermissions(fs::perms permissions) { file_.SetPermissions(permissions); }
 
 const fs::path& StagedFile::HandOver() {
   RequireDone(target_, UiTextId::kCannotBeWritten, file_.Close());
+  holds_bytes_ = true;
   return staging_;
 }
 
@@ -84,13 +86,17 @@ void StagedFile::Commit() {
   if (!file_.IsOpen()) {
     RequireDone(target_, UiTextId::kCannotBeWritten, file_.Open(staging_));
   }
-  RequireDone(target_, UiTextId::kCannotBeWritten, file_.Flush());
+  if (holds_bytes_) {
+    RequireDone(target_, UiTextId::kCannotBeWritten, file_.Flush());
+  }
   RequireDone(target_, UiTextId::kCannotBeWritten, file_.Close());
   std::error_code error;
   fs::rename(staging_, place_, error);
   RequireDone(target_, UiTextId::kCannotBeWritten, error);
   committed_ = true;
-  FlushFolder(FolderOf(place_));
+  if (holds_bytes_) {
+    FlushFolder(FolderOf(place_));
+  }
 }
 
 }  // namespace vendlingua

@@ -41,6 +41,7 @@ class StagedFile {
   std::filesystem::path place_;  ///< the target, or where it leads as a link
   std::filesystem::path staging_;
   FileHandle file_;
+  bool holds_bytes_ = false;  ///< an empty file has nothing that a power cut could take
   bool committed_ = false;
 };
 
