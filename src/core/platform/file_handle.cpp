@@ -3,7 +3,6 @@
 #include <utility>
 
 #ifdef _WIN32
-#define NOMINMAX
 #include <windows.h>
 
 #include <algorithm>
