@@ -2,7 +2,6 @@
 #define VENDLINGUA_DESKTOP_DIALOGS_QT_DIALOGS_H_
 
 #include <QElapsedTimer>
-#include <QPointer>
 #include <QWidget>
 #include <functional>
 
@@ -16,7 +15,7 @@ namespace vendlingua {
 /// active at that moment: after a dialog some desktops make none active for a while.
 class QtDialogs : public Dialogs {
  public:
-  /// While it lives, dialogs belong to `window`.
+  /// While it lives, dialogs belong to `window`, whose command runs: so long it is not deleted.
   class Owner {
    public:
     Owner(QtDialogs& dialogs, QWidget& window) : dialogs_(dialogs), before_(dialogs.owner_) {
@@ -28,7 +27,7 @@ class QtDialogs : public Dialogs {
 
    private:
     QtDialogs& dialogs_;
-    QPointer<QWidget> before_;
+    QWidget* before_;
   };
 
   /// Before a dialog opens and before window events run, `refresh` is called, so that the windows
@@ -49,7 +48,7 @@ class QtDialogs : public Dialogs {
   void BeforeDialog();
   const UiText& ui_text() const { return *ui_text_; }
 
-  QPointer<QWidget> owner_;
+  QWidget* owner_ = nullptr;
   std::function<void()> refresh_;
   const UiText* ui_text_ = &EnglishTexts();
   int opened_ = 0;

@@ -118,7 +118,7 @@ void FrmMes::AddShortcuts() {
   step(Qt::ALT | Qt::Key_Right, 1);
 }
 
-void FrmMes::Run(const std::function<void()>& command, QWidget& window) {
+void FrmMes::RunIn(QWidget& window, const std::function<void()>& command) {
   const QtDialogs::Owner owner(dialogs_, window);
   closing_.During([&] {
     engine_.workspace.window.status.clear();
@@ -214,7 +214,7 @@ void FrmMes::OpenCompiler() {
     auto form = std::make_unique<FrmMake>(
         CompilerParts{engine_.workspace, engine_.compiler_state, engine_.compiler, engine_.writer,
                       dialogs_},
-        [this](const auto& command, QWidget& window) { Run(command, window); }, this);
+        [this](const auto& command, QWidget& window) { RunIn(window, command); }, this);
     if (!form->Load()) {
       return;
     }

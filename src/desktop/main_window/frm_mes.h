@@ -37,9 +37,9 @@ class FrmMes : public QMainWindow {
   void AddShortcuts();
 
   /// Does what the user asked for. The one place where errors are shown.
-  void Run(const std::function<void()>& command) { Run(command, *this); }
+  void Run(const std::function<void()>& command) { RunIn(*this, command); }
   /// The same for a command that belongs to `window`.
-  void Run(const std::function<void()>& command, QWidget& window);
+  void RunIn(QWidget& window, const std::function<void()>& command);
   /// Makes the windows show the state of the engine.
   void Mirror();
 

@@ -216,6 +216,26 @@ TEST_F(MesLanguagesTest, ChangesNothingWhenTheFileEndsInsideAMessage) {
   EXPECT_EQ(set_.DestLang, 1);
 }
 
+TEST_F(MesLanguagesTest, OpensNoDestinationThatIsTooWideToEdit) {
+  Open("WIDE.MES", MesFile{.width = 41}.Bytes());
+  engine_.languages.ChooseOrigin(1);
+  EXPECT_THROW(engine_.languages.ChooseDestination(1), FileError);
+  EXPECT_THROW(engine_.languages.StartNewLanguage(0), FileError);
+  EXPECT_EQ(set_.phase, Phase::kOriginChosen);
+  EXPECT_EQ(set_.Modified, kFalse);
+}
+
+TEST_F(MesLanguagesTest, KeepsWhatIsTypedForAnotherOrigin) {
+  engine_.languages.ChooseOrigin(0);
+  engine_.languages.ChooseDestination(1);
+  engine_.editing.ChangeText(test::Codes("new"));
+  engine_.languages.ChooseOrigin(2);
+  EXPECT_EQ(Destination(0), "new ");
+  EXPECT_EQ(Text(view().Text1.text), "new");
+  engine_.writer.Save();
+  EXPECT_EQ(Slurp(folder_ / "FILE.MES").substr(24 + 36 + 20, 4), "new ");
+}
+
 TEST_F(FullFileTest, DisablesTheNewDestinationWhenTheMenuOpens) {
   EXPECT_FALSE(menus().mnuDes[0].enabled);
 }

@@ -333,6 +333,47 @@ TEST_F(SectionImportTest, WritesNothingWhenALaterSectionCannotBeRead) {
   EXPECT_EQ(folder_.Names(), "SOURCE.MES");
 }
 
+// Save or Exit would otherwise ask for the name of a language that is nowhere.
+TEST_F(SourceImportTest, LeavesNothingToSaveWhenItIsStopped) {
+  Import(Line("ABCD") + Line("EFG"));
+  EXPECT_FALSE(menus().mnuSave.enabled);
+  EXPECT_FALSE(menus().mnuOrig.enabled);
+  EXPECT_EQ(view().caption, "Vendlingua");
+  dialogs_.messages.clear();
+  EXPECT_TRUE(engine_.writer.NonSave());
+  EXPECT_THAT(dialogs_.messages, IsEmpty());
+}
+
+TEST_F(SourceImportTest, LeavesNothingToSaveWhenItsFileCannotBeWritten) {
+  EXPECT_THROW(ImportInto(three_texts_, folder_ / "none" / "NEW.MES"), Error);
+  EXPECT_FALSE(menus().mnuSave.enabled);
+  EXPECT_FALSE(set_.save_failed);
+  dialogs_.messages.clear();
+  EXPECT_TRUE(engine_.writer.NonSave());
+  EXPECT_THAT(dialogs_.messages, IsEmpty());
+}
+
+TEST_F(SourceImportTest, KeepsTheNameOfALanguageThatIsSavedAtOnce) {
+  Import(three_texts_);
+  dialogs_.input_answers = {"english"};
+  EXPECT_EQ(engine_.writer.Save().result, SaveOutcome::kSaved);
+  const std::string saved = Slurp(folder_ / "NEW.MES");
+  EXPECT_THAT(saved, HasSubstr("ENGLISH             "));
+  EXPECT_EQ(engine_.writer.Save().result, SaveOutcome::kSaved);
+  EXPECT_EQ(Slurp(folder_ / "NEW.MES"), saved);
+}
+
+TEST_F(SourceImportTest, TellsWhichLinesHoldTextsThatAreTooWideToEdit) {
+  answers_ = {"1", "1", "&H6000", "&H2000", "italiano"};
+  Import(Line("ABCD") + Line(std::string(41, 'x')) + Line(std::string(60, 'y')));
+  ASSERT_THAT(dialogs_.messages, SizeIs(1));
+  EXPECT_EQ(dialogs_.messages[0].icon, MessageIcon::kInformation);
+  EXPECT_THAT(dialogs_.messages[0].text, testing::EndsWith(": 2, 3"));
+  EXPECT_EQ(set_.Width(), 60U);
+  const std::string blanks(20, ' ');
+  EXPECT_THAT(Slurp(folder_ / "NEW.MES"), HasSubstr(std::string(40, 'y') + blanks));
+}
+
 TEST_F(SourceImportTest, RefusesATextThatIsShorterThanOneBefore) {
   EXPECT_EQ(Import(Line("ABCD") + Line("EFG")), OpenOutcome::kRefused);
   ASSERT_THAT(dialogs_.messages, SizeIs(1));
