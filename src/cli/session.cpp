@@ -1,5 +1,9 @@
 #include "cli/session.h"
 
+#include <fmt/format.h>
+
+#include <algorithm>
+#include <charconv>
 #include <iostream>
 #include <system_error>
 
@@ -23,6 +27,19 @@ const char* IconName(MessageIcon icon) {
       return "question";
   }
   return "";
+}
+
+std::optional<int> NumberOf(const std::string& text) {
+  int number = 0;
+  const char* end = text.data() + text.size();
+  const auto parsed = std::from_chars(text.data(), end, number);
+  return parsed.ec == std::errc() && parsed.ptr == end ? std::optional(number) : std::nullopt;
+}
+
+DisplayCodes InCapitals(const std::string& name) {
+  DisplayCodes codes = Alphabet::Of(0).CodesOf(name).codes;
+  std::transform(codes.begin(), codes.end(), codes.begin(), ToUpper);
+  return codes;
 }
 
 }  // namespace
@@ -79,12 +96,41 @@ void Session::Save() {
   }
 }
 
-const std::string& Session::LanguageName(int language) {
+const std::string& Session::LanguageName(int language) const {
   if (!set().HoldsLanguage(language)) {
     throw CommandFailed(PathText(set().CurrentFileName) + ": has no language " +
                         std::to_string(language));
   }
   return set().language_names[static_cast<std::size_t>(language)];
+}
+
+int Session::FindLanguage(const std::string& number_or_name) const {
+  if (const auto number = NumberOf(number_or_name)) {
+    LanguageName(*number);
+    return *number;
+  }
+  const auto& names = set().language_names;
+  const auto is_meant = [meant = InCapitals(number_or_name)](const std::string& name) {
+    return InCapitals(name) == meant;
+  };
+  const auto found = std::find_if(names.begin(), names.end(), is_meant);
+  if (found == names.end()) {
+    throw CommandFailed(PathText(set().CurrentFileName) + ": has no language \"" + number_or_name +
+                        "\"");
+  }
+  if (std::any_of(found + 1, names.end(), is_meant)) {
+    throw CommandFailed(PathText(set().CurrentFileName) + ": has several languages \"" +
+                        number_or_name + "\"; give the number");
+  }
+  return static_cast<int>(found - names.begin());
+}
+
+DisplayCodes Session::CodesOf(const std::string& utf8) const {
+  DrawnText drawn = alphabet().CodesOf(utf8);
+  if (!drawn.unknown.empty()) {
+    throw CommandFailed(NotDrawn(utf8, drawn.unknown));
+  }
+  return std::move(drawn.codes);
 }
 
 void Session::Print(const Json& json, const std::string& text) const {
@@ -112,13 +158,9 @@ void RefuseToOverwrite(const std::filesystem::path& input, const std::filesystem
   }
 }
 
-DisplayCodes DisplayCodesOf(const std::string& utf8) {
-  CodesFromUtf8 converted = ToDisplayCodes(utf8);
-  if (converted.unknown) {
-    throw CommandFailed("\"" + utf8 + "\": the display does not have the character \"" +
-                        *converted.unknown + "\"");
-  }
-  return converted.codes;
+std::string NotDrawn(const std::string& text, const std::vector<std::string>& characters) {
+  return fmt::format("\"{}\": the display does not have the character{} \"{}\"", text,
+                     characters.size() > 1 ? "s" : "", fmt::join(characters, "\", \""));
 }
 
 }  // namespace vendlingua::cli

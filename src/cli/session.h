@@ -3,10 +3,13 @@
 
 #include <filesystem>
 #include <nlohmann/json.hpp>
+#include <optional>
 #include <stdexcept>
 #include <string>
+#include <vector>
 
 #include "cli/cli_dialogs.h"
+#include "core/document/alphabet.h"
 #include "core/engine.h"
 
 namespace vendlingua::cli {
@@ -33,8 +36,13 @@ class Session {
   CliDialogs dialogs;
   Engine engine;
   bool json_output = false;
+  std::optional<std::size_t> display;  ///< overrules the display type of the file
 
   MessageSet& set() { return engine.workspace.set; }
+  const MessageSet& set() const { return engine.workspace.set; }
+
+  /// What texts are read and written in.
+  const Alphabet& alphabet() const { return Alphabet::Of(display.value_or(set().DisplayType)); }
 
   /// Opens a message file. Throws CommandFailed or Error when it is none.
   void Open(const std::filesystem::path& file);
@@ -48,7 +56,15 @@ class Session {
 
   /// The name of language `language`. Throws CommandFailed when the file has
   /// no such language.
-  const std::string& LanguageName(int language);
+  const std::string& LanguageName(int language) const;
+
+  /// The number of the language that goes by this number or, without regard to case, by this name.
+  /// Throws CommandFailed when the file has none, or several of the name.
+  int FindLanguage(const std::string& number_or_name) const;
+
+  /// UTF-8 text as display codes. Throws CommandFailed, which names them all, when the display
+  /// lacks characters.
+  DisplayCodes CodesOf(const std::string& utf8) const;
 
   /// Prints `json` with --json, otherwise `text`.
   void Print(const Json& json, const std::string& text) const;
@@ -60,8 +76,8 @@ class Session {
 /// Throws CommandFailed when `output` is the file `input`, which it would overwrite.
 void RefuseToOverwrite(const std::filesystem::path& input, const std::filesystem::path& output);
 
-/// UTF-8 text as display codes. Throws CommandFailed when a character has none.
-DisplayCodes DisplayCodesOf(const std::string& utf8);
+/// Says that the display cannot draw `characters` of `text`.
+std::string NotDrawn(const std::string& text, const std::vector<std::string>& characters);
 
 }  // namespace vendlingua::cli
 

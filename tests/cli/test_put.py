@@ -65,6 +65,17 @@ class PutIntoMesFileTest(CliTest):
         self.assert_stored(b"\xe8\x80\xfe\x9f", "--text=è€þŸ")
         self.assert_stored(b"\xdf\xff\xa0\x81", "--text=ßÿ\u00a0\u0081")
 
+    def test_text_is_taken_in_the_characters_of_the_display(self) -> None:
+        self.write("A.MES", MesFile(width=6, flags=b"04").content())
+        self.done("put", "A.MES", "--language=1", "--message=1", "--text=Привет")
+        message = self.done("texts", "A.MES", "--language=1", "--json").json["messages"][1]
+        self.assertEqual(message, {"index": 1, "text": "Привет", "hex": "A870B8B365BF"})
+
+    def test_every_character_that_the_display_cannot_draw_is_named(self) -> None:
+        self.write("A.MES", MesFile().content())
+        result = self.refused("put", "A.MES", "--language=1", "--message=1", "--text=Пaж")
+        self.assertIn('"П", "ж"', result.err)
+
     def test_hexadecimal_text_gives_the_codes(self) -> None:
         self.assert_stored(b"\x01\xff\x41\x0d", "--hex=01FF410D")
         self.assert_stored(b"\xab\xcd  ", "--hex=abcd")

@@ -8,8 +8,15 @@ from support import CliTest, MesFile, msx_at, msx_file, msx_header, msx_message
 
 ALL_CODES = [bytes(range(start, start + 16)) for start in range(0, 256, 16)]
 
-# Codes 0x80 to 0x9F as Windows-1252 has them; its five unassigned ones are C1 control characters.
-WINDOWS_CHARACTERS = "€\x81‚ƒ„…†‡ˆ‰Š‹Œ\x8dŽ\x8f\x90‘’“”•–—˜™š›œ\x9džŸ"
+# Pictures without a character of their own; 176 shows the same degree sign as 223.
+PICTURES = {*range(32), 127, 129, 141, 143, 144, 157, 173, 176}
+
+
+def normal_character(code: int) -> str:
+    """What the normal display draws for a code: Windows-1252 but for pictures and degree sign."""
+    if code in PICTURES:
+        return chr(0xF000 + code)
+    return "°" if code == 223 else bytes([code]).decode("cp1252")
 
 
 class TextsOfMesFileTest(CliTest):
@@ -38,13 +45,30 @@ class TextsOfMesFileTest(CliTest):
         self.write("A.MES", MesFile().content())
         self.assertEqual(self.texts("A.MES", 0), ["0000", "0111", "0222"])
 
+    def test_texts_are_in_the_characters_of_the_display(self) -> None:
+        self.write("A.MES", MesFile(texts={(1, 0): b"\xa8p\xb8\xb3"}, flags=b"04").content())
+        self.assertEqual(self.texts("A.MES", 1)[0], "Прив")
+
+    def test_another_display_than_that_of_the_file_can_be_given(self) -> None:
+        self.write("A.MES", MesFile(texts={(1, 0): b"\xa8p\xb8\xb3"}).content())
+        arguments = ("texts", "A.MES", "--language=1", "--display")
+        self.assertEqual(self.done(*arguments, "cyrillic").out[:7], "0\tПрив\n")
+        self.assertEqual(self.done(*arguments, "katakana").out[:7], "0\tィpクウ\n")
+        self.assertEqual(self.done(*arguments, "hebrew").out[:7], "0\t¨p¸³\n")
+
+    def test_a_language_goes_by_its_name_too(self) -> None:
+        self.write("A.MES", MesFile().content())
+        self.assertEqual(
+            self.done("texts", "A.MES", "--language=english").out,
+            self.done("texts", "A.MES", "--language=2").out,
+        )
+
     def test_every_display_code_is_printed(self) -> None:
         texts = {(1, m): codes for m, codes in enumerate(ALL_CODES)}
         file = MesFile(width=16, last_msg=15, stride=16, texts=texts)
         self.write("A.MES", file.content())
         printed = self.done("texts", "A.MES", "--language", "1", "--json").json["messages"]
-        characters = bytes(range(256)).decode("latin-1")
-        expected = characters[:128] + WINDOWS_CHARACTERS + characters[160:]
+        expected = "".join(map(normal_character, range(256)))
         self.assertEqual("".join(message["text"] for message in printed), expected)
         self.assertEqual(
             [message["hex"] for message in printed], [c.hex().upper() for c in ALL_CODES]
@@ -104,7 +128,7 @@ class TextsOfMsxFileTest(CliTest):
         self.assertEqual(len(messages), 455)
         self.assertEqual(messages[0], "    MP0417AA    ")
         self.assertEqual(messages[3], "Credito þ þþþþþþ")
-        self.assertEqual(messages[43], "E12 Tcaffe<60 ßC")
+        self.assertEqual(messages[43], "E12 Tcaffe<60 °C")
         self.assertEqual(messages[169], "    Italiano    ")
         self.assertEqual(messages[454], "  454 Messaggio ")
 

@@ -103,14 +103,21 @@ class WrongUsageTest(CliTest):
     def test_a_number_that_is_none(self) -> None:
         for number in ("", "one", "1.5", "1x", "99999999999999999999"):
             with self.subTest(number):
-                self.wrong_usage("texts", "A.MES", f"--language={number}")
                 self.wrong_usage("put", "A.MES", "--language=1", f"--message={number}", "--text=x")
-                self.wrong_usage("new-language", "A.MES", f"--from={number}", "--name=NEW")
-                self.wrong_usage(
-                    "export", "A.MES", "--language=1", f"--origin={number}", "--output=o"
-                )
-                self.wrong_usage("apply", "A.MES", "a.csv", f"--language={number}")
-                self.wrong_usage("compile", "A.MES", f"--languages=1,{number}x", "--output=P.HEX")
+
+    def test_a_language_that_is_neither_a_number_nor_a_name(self) -> None:
+        self.write("A.MES", MesFile().content())
+        for name in ("one", "1.5", "1x", "99999999999999999999"):
+            with self.subTest(name):
+                for arguments in (
+                    ("texts", "A.MES", f"--language={name}"),
+                    ("put", "A.MES", f"--language={name}", "--message=1", "--text=x"),
+                    ("new-language", "A.MES", f"--from={name}", "--name=NEW"),
+                    ("export", "A.MES", "--language=1", f"--origin={name}", "--output=o"),
+                    ("apply", "A.MES", "a.csv", f"--language={name}"),
+                    ("compile", "A.MES", f"--languages=1,{name}", "--output=P.HEX"),
+                ):
+                    self.refused(*arguments)
 
     def test_a_memory_number_that_is_none(self) -> None:
         for option in ("--languages", "--memory-start", "--memory-length"):

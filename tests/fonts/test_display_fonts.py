@@ -7,6 +7,7 @@ import unittest
 from fontTools.pens.recordingPen import DecomposingRecordingPen
 from fontTools.ttLib import TTFont
 
+import make_alphabet
 from dots import COLUMNS, FAMILIES, FONT_DIR, ROWS, Pattern, read_font
 
 CODES = range(1, 256)
@@ -111,6 +112,10 @@ class DisplayFontsTest(unittest.TestCase):
                 with self.subTest(stem, code=code):
                     drawn = face.dots(face.characters[character(code)], advance)
                     self.assertEqual(drawn, dots_of(patterns[code]))
+
+    def test_the_alphabet_of_the_program_is_made_of_the_same_patterns(self) -> None:
+        table = FONT_DIR.parents[1] / "src/core/document/alphabet_table.cpp"
+        self.assertEqual(table.read_text(encoding="utf-8"), make_alphabet.source())
 
     def test_the_placeholder_can_be_seen(self) -> None:
         for stem in FACES:

@@ -1,14 +1,23 @@
 #include <charconv>
 #include <iostream>
+#include <memory>
 #include <set>
+#include <string>
 #include <system_error>
 
 #include "cli/commands.h"
 #include "cli/csv_table.h"
+#include "cli/options.h"
 #include "core/platform/files.h"
 
 namespace vendlingua::cli {
 namespace {
+
+struct ApplyOptions {
+  std::string file;
+  std::string language;
+  std::string table;
+};
 
 struct Edit {
   int message;
@@ -18,7 +27,8 @@ struct Edit {
 // Checks a table row by row; what is wrong is collected, so that a translator sees it all at once.
 class TableReader {
  public:
-  TableReader(const MessageSet& set, std::string file) : set_(set), file_(std::move(file)) {}
+  TableReader(Session& session, std::string file)
+      : session_(session), set_(session.set()), file_(std::move(file)) {}
 
   std::vector<Edit> Read() {
     const std::vector<CsvRow> rows = ParseCsv(file_, ReadFile(file_));
@@ -53,12 +63,11 @@ class TableReader {
     if (!seen_.insert(edit.message).second) {
       return Refuse("message " + number + " stands in a row before");
     }
-    const CodesFromUtf8 converted = ToDisplayCodes(row[2]);
-    if (converted.unknown) {
-      return Refuse("message " + number + ": the display does not have the character \"" +
-                    *converted.unknown + "\" of \"" + row[2] + "\"");
+    const DrawnText drawn = session_.alphabet().CodesOf(row[2]);
+    if (!drawn.unknown.empty()) {
+      return Refuse("message " + number + ": " + NotDrawn(row[2], drawn.unknown));
     }
-    const auto text = TrimRight(converted.codes);
+    const auto text = TrimRight(drawn.codes);
     if (text.size() > set_.Width()) {
       return Refuse("message " + number + ": \"" + row[2] + "\" has " +
                     std::to_string(text.size()) + " cells, at most " +
@@ -73,6 +82,7 @@ class TableReader {
     return std::nullopt;
   }
 
+  const Session& session_;
   const MessageSet& set_;
   std::string file_;
   std::size_t row_ = 0;
@@ -80,12 +90,11 @@ class TableReader {
   std::string problems_;
 };
 
-}  // namespace
-
 void RunApply(Session& session, const ApplyOptions& options) {
   session.Open(options.file);
-  const std::vector<Edit> edits = TableReader(session.set(), options.table).Read();
-  session.OpenDestination(options.language, edits.empty() ? 0 : edits.front().message);
+  const std::vector<Edit> edits = TableReader(session, options.table).Read();
+  const int language = session.FindLanguage(options.language);
+  session.OpenDestination(language, edits.empty() ? 0 : edits.front().message);
   for (const Edit& edit : edits) {
     session.set().SetText(static_cast<std::size_t>(edit.message), edit.text);
   }
@@ -93,10 +102,26 @@ void RunApply(Session& session, const ApplyOptions& options) {
     session.Save();
   }
   session.Print({{"file", options.file},
-                 {"language", options.language},
+                 {"language", language},
                  {"applied", edits.size()},
                  {"messages", session.MessagesAsJson()}},
                 std::to_string(edits.size()) + " messages applied\n");
+}
+
+}  // namespace
+
+void AddApply(CLI::App& app, Session& session) {
+  const auto options = std::make_shared<ApplyOptions>();
+  CLI::App* command =
+      app.add_subcommand("apply", "Take the texts of a table into a language and save the file.");
+  command->footer(
+      "A text that is too long or holds a character without a display code refuses the table.\n"
+      "Example: vendlingua-cli apply FW0417AB.MES --language 2 english.csv");
+  AddFile(*command, options->file);
+  AddLanguage(*command, options->language);
+  AddDisplay(*command, session);
+  command->add_option("TABLE", options->table, "table as \"export\" writes it")->required();
+  command->callback([&session, options] { RunApply(session, *options); });
 }
 
 }  // namespace vendlingua::cli

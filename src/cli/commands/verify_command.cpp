@@ -1,4 +1,8 @@
+#include <memory>
+#include <string>
+
 #include "cli/commands.h"
+#include "cli/options.h"
 #include "core/formats/file_check.h"
 #include "core/platform/errors.h"
 
@@ -12,8 +16,6 @@ Findings Check(const std::string& file) {
     return {error.reason()};
   }
 }
-
-}  // namespace
 
 void RunVerify(Session& session, const std::vector<std::string>& files) {
   Json report = Json::array();
@@ -35,6 +37,19 @@ void RunVerify(Session& session, const std::vector<std::string>& files) {
   if (!unsound.empty()) {
     throw CommandFailed("not sound: " + unsound);
   }
+}
+
+}  // namespace
+
+void AddVerify(CLI::App& app, Session& session) {
+  const auto files = std::make_shared<std::vector<std::string>>();
+  CLI::App* command = app.add_subcommand("verify", "Say whether files are sound.");
+  command->footer(
+      "Files of S-records: syntax, count, checksum, gaps and overlaps, line by line.\n"
+      ".MES files: header, sizes, block count, names.\n"
+      "Example: vendlingua-cli verify FW0417AB.MES FW0417AB.MHX MP0417AA.MSX");
+  command->add_option("FILE", *files, "files to check")->required();
+  command->callback([&session, files] { RunVerify(session, *files); });
 }
 
 }  // namespace vendlingua::cli

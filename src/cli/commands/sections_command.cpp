@@ -1,11 +1,19 @@
 #include <algorithm>
+#include <memory>
+#include <string>
 
 #include "cli/commands.h"
+#include "cli/options.h"
 #include "core/flash/kept_files.h"
 #include "core/platform/errors.h"
 
 namespace vendlingua::cli {
 namespace {
+
+struct SectionsOptions {
+  std::string file;
+  std::string output;
+};
 
 namespace fs = std::filesystem;
 
@@ -22,8 +30,6 @@ bool IsWrongFile(const fs::path& input, const SectionFiles& sections) {
   return !fs::is_empty(input) &&
          std::all_of(used.begin(), used.end(), [](std::int32_t length) { return length == 0; });
 }
-
-}  // namespace
 
 void RunSections(Session& session, const SectionsOptions& options) {
   const fs::path base =
@@ -43,6 +49,19 @@ void RunSections(Session& session, const SectionsOptions& options) {
     text += PathText(path) + "\n";
   }
   session.Print({{"written", written}, {"messages", session.MessagesAsJson()}}, text);
+}
+
+}  // namespace
+
+void AddSections(CLI::App& app, Session& session) {
+  const auto options = std::make_shared<SectionsOptions>();
+  CLI::App* command =
+      app.add_subcommand("sections", "Cut a flash file into the section files of the board.");
+  command->footer("Example: vendlingua-cli sections FW0417AB.MHX --output out/FW0417AB");
+  command->add_option("FILE", options->file, "flash file (.MHX)")->required();
+  command->add_option("--output", options->output,
+                      "path of the section files without extension, that of FILE if not given");
+  command->callback([&session, options] { RunSections(session, *options); });
 }
 
 }  // namespace vendlingua::cli

@@ -2,9 +2,12 @@
 
 #include <algorithm>
 #include <iostream>
+#include <memory>
+#include <string>
 #include <system_error>
 
 #include "cli/commands.h"
+#include "cli/options.h"
 #include "core/formats/copy_header.h"
 #include "core/formats/srecord.h"
 #include "core/formats/text_lines.h"
@@ -14,20 +17,26 @@
 namespace vendlingua::cli {
 namespace {
 
+struct CompileOptions {
+  std::string file;
+  std::vector<std::string> languages;
+  std::string output;
+  std::string copy;
+};
+
 namespace fs = std::filesystem;
 
-void TickLanguages(Session& session, std::vector<int> languages) {
+void TickLanguages(Session& session, const std::vector<std::string>& languages) {
   MessageSet& set = session.set();
-  std::sort(languages.begin(), languages.end());
   CompilerState& compiler = session.engine.compiler_state;
-  for (const int language : languages) {
-    session.LanguageName(language);
+  for (const std::string& given : languages) {
+    const int language = session.FindLanguage(given);
     if (language == 0) {
       throw CommandFailed("--languages: language 0 is the reference and is not compiled");
     }
     bool& ticked = compiler.ticked.at(static_cast<std::size_t>(language));
     if (ticked) {
-      throw CommandFailed("--languages: " + std::to_string(language) + " is given twice");
+      throw CommandFailed("--languages: " + given + " is given twice");
     }
     ticked = true;
   }
@@ -131,8 +140,6 @@ void CheckOptions(Session& session, const CompileOptions& options) {
   }
 }
 
-}  // namespace
-
 void RunCompile(Session& session, const CompileOptions& options) {
   session.Open(options.file);
   CheckOptions(session, options);
@@ -148,6 +155,28 @@ void RunCompile(Session& session, const CompileOptions& options) {
   if (!outcome.completed) {
     throw CommandFailed(options.output + ": the compilation stopped before its end");
   }
+}
+
+}  // namespace
+
+void AddCompile(CLI::App& app, Session& session) {
+  const auto options = std::make_shared<CompileOptions>();
+  CLI::App* command = app.add_subcommand("compile", "Compile languages into flash files.");
+  command->footer(
+      "A board with .SDATA memory takes .MHX files, any other .hex files.\n"
+      "Example: vendlingua-cli compile FW0417AB.MES --languages 1,2,3,4,5,6,7,8,9 "
+      "--output FW0417AB.MHX --copy MP0417AA.MSX");
+  AddFile(*command, options->file);
+  command
+      ->add_option(
+          "--languages", options->languages,
+          "numbers or names of the languages, as many as the board has slots; not for .MSX files")
+      ->delimiter(',')
+      ->allow_extra_args(false);
+  command->add_option("--output", options->output, "flash file to write")->required();
+  command->add_option("--copy", options->copy,
+                      "identified copy to write (.MSX), for boards with 9 slots");
+  command->callback([&session, options] { RunCompile(session, *options); });
 }
 
 }  // namespace vendlingua::cli

@@ -1,8 +1,18 @@
+#include <memory>
+#include <string>
+
 #include "cli/commands.h"
+#include "cli/options.h"
 #include "core/platform/errors.h"
 
 namespace vendlingua::cli {
 namespace {
+
+struct NewLanguageOptions {
+  std::string file;
+  std::optional<std::string> from;  ///< nothing: blank texts
+  std::string name;
+};
 
 // Entry 0 of the menu starts blank; its texts as a start are copied message by message.
 void CopyReference(MessageSet& set) {
@@ -11,20 +21,17 @@ void CopyReference(MessageSet& set) {
   }
 }
 
-}  // namespace
-
 void RunNewLanguage(Session& session, const NewLanguageOptions& options) {
   session.Open(options.file);
   if (!session.set().IsMes()) {
     throw CommandFailed(options.file + ": a .MSX file cannot take a new language");
   }
-  const int from = options.from.value_or(0);
-  session.LanguageName(from);
+  const int from = session.FindLanguage(options.from.value_or("0"));
   session.engine.languages.ChooseOrigin(0);
   if (session.engine.languages.StartNewLanguage(from) != DestinationOutcome::kOpened) {
     throw CommandFailed(options.file + ": no new language was started");
   }
-  if (options.from == 0) {
+  if (options.from && from == 0) {
     CopyReference(session.set());
   }
   session.dialogs.inputs[InputPurpose::kNewLanguageName] = {options.name};
@@ -36,6 +43,20 @@ void RunNewLanguage(Session& session, const NewLanguageOptions& options) {
                  {"name", name},
                  {"messages", session.MessagesAsJson()}},
                 "language " + std::to_string(language) + ": " + name + "\n");
+}
+
+}  // namespace
+
+void AddNewLanguage(CLI::App& app, Session& session) {
+  const auto options = std::make_shared<NewLanguageOptions>();
+  CLI::App* command = app.add_subcommand("new-language", "Add a language to a .MES file.");
+  command->footer("Example: vendlingua-cli new-language FW0417AB.MES --from 1 --name POLSKI");
+  command->add_option("FILE", options->file, "message file (.MES)")->required();
+  command->add_option("--from", options->from,
+                      "start from the texts of this language instead of blank ones");
+  command->add_option("--name", options->name, "name of the new language, at most 20 characters")
+      ->required();
+  command->callback([&session, options] { RunNewLanguage(session, *options); });
 }
 
 }  // namespace vendlingua::cli

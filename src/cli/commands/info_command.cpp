@@ -1,10 +1,17 @@
+#include <memory>
 #include <sstream>
+#include <string>
 
 #include "cli/commands.h"
+#include "cli/options.h"
 #include "core/platform/errors.h"
 
 namespace vendlingua::cli {
 namespace {
+
+struct InfoOptions {
+  std::string file;
+};
 
 Json LanguagesAsJson(const MessageSet& set) {
   Json languages = Json::array();
@@ -29,8 +36,6 @@ std::string AsText(const Json& info) {
   return text.str();
 }
 
-}  // namespace
-
 void RunInfo(Session& session, const InfoOptions& options) {
   session.Open(options.file);
   const MessageSet& set = session.set();
@@ -49,6 +54,17 @@ void RunInfo(Session& session, const InfoOptions& options) {
                      {"blockLength", static_cast<int>(set.BlockLength)},
                      {"languages", LanguagesAsJson(set)}};
   session.Print(info, AsText(info));
+}
+
+}  // namespace
+
+void AddInfo(CLI::App& app, Session& session) {
+  const auto options = std::make_shared<InfoOptions>();
+  CLI::App* command =
+      app.add_subcommand("info", "Show dimensions and languages of a message file.");
+  command->footer("Example: vendlingua-cli info FW0417AB.MES --json");
+  AddFile(*command, options->file);
+  command->callback([&session, options] { RunInfo(session, *options); });
 }
 
 }  // namespace vendlingua::cli

@@ -1,9 +1,24 @@
+#include <memory>
+#include <string>
+
 #include "cli/commands.h"
+#include "cli/options.h"
 #include "core/platform/errors.h"
 #include "core/platform/staged_file.h"
 
 namespace vendlingua::cli {
 namespace {
+
+struct ImportOptions {
+  std::string source;
+  // Numbers as the input boxes of the engine take them.
+  std::string languages;
+  std::string language_message;  ///< empty when not given
+  std::string memory_start;
+  std::string memory_length;
+  std::vector<std::string> names;
+  std::string output;
+};
 
 std::filesystem::path OutputPath(const ImportOptions& options) {
   std::filesystem::path output = WithDefaultExtension(options.output, "MES");
@@ -14,8 +29,6 @@ std::filesystem::path OutputPath(const ImportOptions& options) {
   }
   return output;
 }
-
-}  // namespace
 
 void RunImport(Session& session, const ImportOptions& options) {
   const std::filesystem::path output = OutputPath(options);
@@ -45,6 +58,37 @@ void RunImport(Session& session, const ImportOptions& options) {
                  {"messages", session.MessagesAsJson()}},
                 PathText(output) + ": " + std::to_string(set.MessageCount()) + " messages of " +
                     std::to_string(set.Width()) + " cells\n");
+}
+
+}  // namespace
+
+void AddImport(CLI::App& app, Session& session) {
+  const auto options = std::make_shared<ImportOptions>();
+  CLI::App* command =
+      app.add_subcommand("import", "Make a .MES file of a firmware assembler source.");
+  command->footer(
+      "Numbers are decimal, &H… or 0x….\n"
+      "Example: vendlingua-cli import firmware.src --languages 9 --memory-start 0xFF0000 "
+      "--memory-length 0xFFF0 --name ITALIANO --output FW0417AB.MES");
+  command->add_option("SOURCE", options->source, "assembler source")->required();
+  command->add_option("--languages", options->languages, "language slots of the board, 1 to 31")
+      ->required()
+      ->transform(NumberAnswer());
+  command
+      ->add_option("--language-message", options->language_message,
+                   "number of the message that names the language, for a source without MNLING")
+      ->transform(NumberAnswer());
+  command->add_option("--memory-start", options->memory_start, "start of the message memory")
+      ->required()
+      ->transform(NumberAnswer());
+  command->add_option("--memory-length", options->memory_length, "length of it in bytes")
+      ->required()
+      ->transform(NumberAnswer());
+  command->add_option("--name", options->names, "name of a language, one for each section")
+      ->required()
+      ->allow_extra_args(false);
+  command->add_option("--output", options->output, "file to make (.MES)")->required();
+  command->callback([&session, options] { RunImport(session, *options); });
 }
 
 }  // namespace vendlingua::cli
