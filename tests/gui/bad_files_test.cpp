@@ -6,6 +6,7 @@
 
 #include "gui/support/desk_test.h"
 #include "gui/support/looks.h"
+#include "gui/support/registered_test.h"
 #include "support/ordinary_user.h"
 
 namespace vendlingua::test {
@@ -266,10 +267,10 @@ class BadFilesTest : public DeskTest {
   }
 };
 
-}  // namespace vendlingua::test
+namespace {
+const RegisteredTest kBadFilesTest("bad_files_test", RunTest<BadFilesTest>);
+}  // namespace
 
-int main(int argc, char** argv) {
-  return vendlingua::test::RunTest<vendlingua::test::BadFilesTest>(argc, argv);
-}
+}  // namespace vendlingua::test
 
 #include "bad_files_test.moc"

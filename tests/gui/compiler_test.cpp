@@ -4,6 +4,7 @@
 #include <QTabWidget>
 
 #include "gui/support/desk_test.h"
+#include "gui/support/registered_test.h"
 #include "support/full_disk.h"
 
 namespace vendlingua::test {
@@ -269,10 +270,10 @@ class CompilerTest : public DeskTest {
   }
 };
 
-}  // namespace vendlingua::test
+namespace {
+const RegisteredTest kCompilerTest("compiler_test", RunTest<CompilerTest>);
+}  // namespace
 
-int main(int argc, char** argv) {
-  return vendlingua::test::RunTest<vendlingua::test::CompilerTest>(argc, argv);
-}
+}  // namespace vendlingua::test
 
 #include "compiler_test.moc"

@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "gui/support/desk_test.h"
+#include "gui/support/registered_test.h"
 
 namespace vendlingua::test {
 namespace {
@@ -215,10 +216,10 @@ class DialogsTest : public DeskTest {
   }
 };
 
-}  // namespace vendlingua::test
+namespace {
+const RegisteredTest kDialogsTest("dialogs_test", RunTest<DialogsTest>);
+}  // namespace
 
-int main(int argc, char** argv) {
-  return vendlingua::test::RunTest<vendlingua::test::DialogsTest>(argc, argv);
-}
+}  // namespace vendlingua::test
 
 #include "dialogs_test.moc"

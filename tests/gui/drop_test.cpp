@@ -5,6 +5,7 @@
 
 #include "gui/support/desk_test.h"
 #include "gui/support/drag.h"
+#include "gui/support/registered_test.h"
 
 namespace vendlingua::test {
 
@@ -95,10 +96,10 @@ class DropTest : public DeskTest {
   }
 };
 
-}  // namespace vendlingua::test
+namespace {
+const RegisteredTest kDropTest("drop_test", RunTest<DropTest>);
+}  // namespace
 
-int main(int argc, char** argv) {
-  return vendlingua::test::RunTest<vendlingua::test::DropTest>(argc, argv);
-}
+}  // namespace vendlingua::test
 
 #include "drop_test.moc"

@@ -8,6 +8,7 @@
 
 #include "gui/support/desk_test.h"
 #include "gui/support/drag.h"
+#include "gui/support/registered_test.h"
 
 namespace vendlingua::test {
 
@@ -542,10 +543,10 @@ class EditorTest : public DeskTest {
   }
 };
 
-}  // namespace vendlingua::test
+namespace {
+const RegisteredTest kEditorTest("editor_test", RunTest<EditorTest>);
+}  // namespace
 
-int main(int argc, char** argv) {
-  return vendlingua::test::RunTest<vendlingua::test::EditorTest>(argc, argv);
-}
+}  // namespace vendlingua::test
 
 #include "editor_test.moc"

@@ -6,6 +6,7 @@
 #include <system_error>
 
 #include "gui/support/desk_test.h"
+#include "gui/support/registered_test.h"
 #include "support/full_disk.h"
 #include "support/ordinary_user.h"
 
@@ -45,7 +46,7 @@ class FailedSavesTest : public DeskTest {
 
  private:
   fs::path EditAMessage() {
-    const fs::path path = desk_->Edit(MesFile());
+    fs::path path = desk_->Edit(MesFile());
     desk_->Type("EDIT");
     return path;
   }
@@ -275,10 +276,10 @@ class FailedSavesTest : public DeskTest {
   }
 };
 
-}  // namespace vendlingua::test
+namespace {
+const RegisteredTest kFailedSavesTest("failed_saves_test", RunTest<FailedSavesTest>);
+}  // namespace
 
-int main(int argc, char** argv) {
-  return vendlingua::test::RunTest<vendlingua::test::FailedSavesTest>(argc, argv);
-}
+}  // namespace vendlingua::test
 
 #include "failed_saves_test.moc"

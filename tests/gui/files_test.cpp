@@ -3,6 +3,7 @@
 #include <QPushButton>
 
 #include "gui/support/desk_test.h"
+#include "gui/support/registered_test.h"
 
 namespace vendlingua::test {
 
@@ -165,10 +166,10 @@ class FilesTest : public DeskTest {
   }
 };
 
-}  // namespace vendlingua::test
+namespace {
+const RegisteredTest kFilesTest("files_test", RunTest<FilesTest>);
+}  // namespace
 
-int main(int argc, char** argv) {
-  return vendlingua::test::RunTest<vendlingua::test::FilesTest>(argc, argv);
-}
+}  // namespace vendlingua::test
 
 #include "files_test.moc"

@@ -9,6 +9,7 @@
 #include <functional>
 
 #include "gui/support/desk_test.h"
+#include "gui/support/registered_test.h"
 
 namespace vendlingua::test {
 
@@ -313,10 +314,10 @@ class LanguagesTest : public DeskTest {
   }
 };
 
-}  // namespace vendlingua::test
+namespace {
+const RegisteredTest kLanguagesTest("languages_test", RunTest<LanguagesTest>);
+}  // namespace
 
-int main(int argc, char** argv) {
-  return vendlingua::test::RunTest<vendlingua::test::LanguagesTest>(argc, argv);
-}
+}  // namespace vendlingua::test
 
 #include "languages_test.moc"

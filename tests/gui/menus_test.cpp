@@ -4,6 +4,7 @@
 #include <initializer_list>
 
 #include "gui/support/desk_test.h"
+#include "gui/support/registered_test.h"
 
 namespace vendlingua::test {
 
@@ -49,7 +50,7 @@ class MenusTest : public DeskTest {
 
   // The first language of a ".MES" file is being edited.
   std::filesystem::path EditAMessage() {
-    const auto path = desk_->Edit(MesFile());
+    auto path = desk_->Edit(MesFile());
     desk_->Type("EDIT");
     return path;
   }
@@ -189,10 +190,10 @@ class MenusTest : public DeskTest {
   }
 };
 
-}  // namespace vendlingua::test
+namespace {
+const RegisteredTest kMenusTest("menus_test", RunTest<MenusTest>);
+}  // namespace
 
-int main(int argc, char** argv) {
-  return vendlingua::test::RunTest<vendlingua::test::MenusTest>(argc, argv);
-}
+}  // namespace vendlingua::test
 
 #include "menus_test.moc"

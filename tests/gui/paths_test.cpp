@@ -13,6 +13,7 @@
 #include "desktop/qt_folder.h"
 #include "desktop/qt_program_starter.h"
 #include "gui/support/desk_test.h"
+#include "gui/support/registered_test.h"
 #include "support/hostile_names.h"
 
 namespace vendlingua::test {
@@ -162,18 +163,18 @@ class PathsTest : public DeskTest {
     const Environment set_home("HOME", home.native());
     const Environment no_folder("XDG_CONFIG_HOME", "");
     const fs::path folder = ToPath(QCoreApplication::applicationName());
-    QVERIFY(ProgramFolders().user_settings == home / ".config" / folder / "paths_test.ini");
+    QVERIFY(ProgramFolders().user_settings == home / ".config" / folder / "gui_tests.ini");
     const Environment set_folder("XDG_CONFIG_HOME", home.native());
-    QVERIFY(ProgramFolders().user_settings == home / folder / "paths_test.ini");
+    QVERIFY(ProgramFolders().user_settings == home / folder / "gui_tests.ini");
   }
 
   void KeepsTheUsersSettingsWhereOtherProgramsDo() {
     const Environment no_folder("XDG_CONFIG_HOME", "");
     const fs::path expected =
         ToPath(QStandardPaths::writableLocation(QStandardPaths::AppConfigLocation));
-    QVERIFY(ProgramFolders().user_settings == expected / "paths_test.ini");
+    QVERIFY(ProgramFolders().user_settings == expected / "gui_tests.ini");
     const Environment relative_folder("XDG_CONFIG_HOME", "relative");
-    QVERIFY(ProgramFolders().user_settings == expected / "paths_test.ini");
+    QVERIFY(ProgramFolders().user_settings == expected / "gui_tests.ini");
   }
 
   void FindsItsFontsInItsFolder_data() { AddFolderNames(); }
@@ -203,10 +204,10 @@ class PathsTest : public DeskTest {
   }
 };
 
-}  // namespace vendlingua::test
+namespace {
+const RegisteredTest kPathsTest("paths_test", RunTest<PathsTest>);
+}  // namespace
 
-int main(int argc, char** argv) {
-  return vendlingua::test::RunTest<vendlingua::test::PathsTest>(argc, argv);
-}
+}  // namespace vendlingua::test
 
 #include "paths_test.moc"

@@ -7,6 +7,7 @@
 #include "desktop/application.h"
 #include "desktop/qt_program_starter.h"
 #include "gui/support/desk_test.h"
+#include "gui/support/registered_test.h"
 
 namespace vendlingua::test {
 
@@ -165,11 +166,10 @@ class ProgramTest : public DeskTest {
   }
 };
 
-}  // namespace vendlingua::test
+namespace {
+const RegisteredTest kProgramTest("program_test", RunTest<ProgramTest, Application>);
+}  // namespace
 
-int main(int argc, char** argv) {
-  return vendlingua::test::RunTest<vendlingua::test::ProgramTest, vendlingua::Application>(argc,
-                                                                                           argv);
-}
+}  // namespace vendlingua::test
 
 #include "program_test.moc"

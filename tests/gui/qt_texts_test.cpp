@@ -10,6 +10,7 @@
 #include <memory>
 
 #include "gui/support/desk_test.h"
+#include "gui/support/registered_test.h"
 
 namespace vendlingua::test {
 namespace {
@@ -165,10 +166,10 @@ class QtTextsTest : public DeskTest {
   }
 };
 
-}  // namespace vendlingua::test
+namespace {
+const RegisteredTest kQtTextsTest("qt_texts_test", RunTest<QtTextsTest>);
+}  // namespace
 
-int main(int argc, char** argv) {
-  return vendlingua::test::RunTest<vendlingua::test::QtTextsTest>(argc, argv);
-}
+}  // namespace vendlingua::test
 
 #include "qt_texts_test.moc"

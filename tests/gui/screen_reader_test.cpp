@@ -8,6 +8,7 @@
 #include <QScrollBar>
 
 #include "gui/support/desk_test.h"
+#include "gui/support/registered_test.h"
 
 namespace vendlingua::test {
 namespace {
@@ -101,10 +102,10 @@ class ScreenReaderTest : public DeskTest {
   }
 };
 
-}  // namespace vendlingua::test
+namespace {
+const RegisteredTest kScreenReaderTest("screen_reader_test", RunTest<ScreenReaderTest>);
+}  // namespace
 
-int main(int argc, char** argv) {
-  return vendlingua::test::RunTest<vendlingua::test::ScreenReaderTest>(argc, argv);
-}
+}  // namespace vendlingua::test
 
 #include "screen_reader_test.moc"

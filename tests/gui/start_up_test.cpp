@@ -18,6 +18,7 @@
 #include "desktop/fonts/qt_font_list.h"
 #include "desktop/program_folders.h"
 #include "gui/support/desk_test.h"
+#include "gui/support/registered_test.h"
 #include "support/hostile_names.h"
 #include "support/scripted_dialogs.h"
 
@@ -38,7 +39,7 @@ class FixedFontList : public FontList {
   std::vector<std::string> families_;
 };
 
-constexpr const char* kStartHere = "--start-here";
+constexpr const char* kStartHere = "start_here";
 
 // What the program does before its window is shown, in the folder where this file lies: the exit
 // status of a process. Nobody is there to answer a dialog.
@@ -51,6 +52,8 @@ int StartHere(int argc, char** argv) {
   const bool started = StartUp(workspace, dialogs, fonts).Form_Load();
   return started && workspace.LanguageName == "svenska" ? 0 : 1;
 }
+
+const RegisteredTest kStartHereRun(kStartHere, StartHere);
 
 // Lays this file into `folder` and starts it there. The exit status, or -1.
 int StartProgramIn(const fs::path& folder) {
@@ -235,7 +238,7 @@ class StartUpTest : public DeskTest {
     const fs::path folder = desk_->folder / name;
     fs::copy(VENDLINGUA_LANGUAGES_FOLDER, folder);
     fs::copy(VENDLINGUA_FONTS_FOLDER, folder / "fonts");
-    desk_->folder.Write(name + "/start_up_test.ini", "Lingua=svenska\r\n");
+    desk_->folder.Write(name + "/gui_tests.ini", "Lingua=svenska\r\n");
     QCOMPARE(StartProgramIn(folder), 0);
   }
 
@@ -254,13 +257,10 @@ class StartUpTest : public DeskTest {
   }
 };
 
-}  // namespace vendlingua::test
+namespace {
+const RegisteredTest kStartUpTest("start_up_test", RunTest<StartUpTest>);
+}  // namespace
 
-int main(int argc, char** argv) {
-  if (argc == 2 && std::string_view(argv[1]) == vendlingua::test::kStartHere) {
-    return vendlingua::test::StartHere(argc, argv);
-  }
-  return vendlingua::test::RunTest<vendlingua::test::StartUpTest>(argc, argv);
-}
+}  // namespace vendlingua::test
 
 #include "start_up_test.moc"

@@ -10,11 +10,10 @@ namespace vendlingua {
 namespace {
 
 using test::AnyOf;
+using test::kPlaceholderByte;
 using test::OpenedFile;
 using test::Placeholders;
 using test::RandomMes;
-
-constexpr char kPlaceholderByte = '\xFE';
 
 // The texts that are in use, and one more, which nothing must touch.
 std::vector<std::string> TextsOf(const MessageTexts& texts, const RandomMes& file) {

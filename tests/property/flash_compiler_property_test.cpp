@@ -12,11 +12,10 @@ namespace {
 
 using test::AnyOf;
 using test::HexDigits;
+using test::kPlaceholderByte;
 using test::OpenedFile;
 using test::Placeholders;
 using test::RandomMes;
-
-constexpr char kPlaceholderByte = '\xFE';
 
 // A file that can be compiled: enough languages, messages that fit their slots, a start address
 // with as many digits as its records need.

@@ -35,7 +35,7 @@ std::vector<std::string> LinesOf(const std::string& content) {
   return lines;
 }
 
-std::string Joined(const std::vector<std::string>& lines) {
+std::string JoinedLines(const std::vector<std::string>& lines) {
   std::string content;
   for (const std::string& line : lines) {
     content += line + "\r\n";
@@ -70,7 +70,7 @@ RC_GTEST_PROP(MsxFileProperty, SavingALanguageChangesDataAndChecksumsOfItsLinesO
   const std::size_t languages = AnyOf(1, 9);
   std::vector<std::string> lines = LinesOf(FileOf(languages));
   Disturb(lines, *rc::gen::arbitrary<std::uint32_t>());
-  OpenedFile opened("SET.MSX", Joined(lines));
+  OpenedFile opened("SET.MSX", JoinedLines(lines));
   Engine& engine = opened.engine;
   const std::size_t language = AnyOf(1, languages);
   engine.languages.ChooseOrigin(static_cast<int>(AnyOf(0, languages)));
@@ -90,7 +90,7 @@ RC_GTEST_PROP(MsxFileProperty, SavingALanguageChangesDataAndChecksumsOfItsLinesO
     std::string& line = lines[1 + (language - 1) * kMessages + m];
     line = WithFreshData(line, texts[m]);
   }
-  RC_ASSERT(opened.Content() == Joined(lines));
+  RC_ASSERT(opened.Content() == JoinedLines(lines));
 }
 
 RC_GTEST_PROP(MsxFileProperty, SavedTextsAreReadBack, ()) {

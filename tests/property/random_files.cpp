@@ -1,7 +1,8 @@
 #include "random_files.h"
 
+#include <fmt/format.h>
+
 #include <algorithm>
-#include <cstdio>
 #include <random>
 
 namespace vendlingua::test {
@@ -85,9 +86,7 @@ std::string InCells(const DisplayCodes& text, std::size_t width) {
 }
 
 std::string HexDigits(std::size_t value, std::size_t width) {
-  char digits[32];
-  std::snprintf(digits, sizeof digits, "%0*zX", static_cast<int>(width), value);
-  return digits;
+  return fmt::format("{:0{}X}", value, width);
 }
 
 OpenedFile::OpenedFile(std::string_view name, std::string_view content)

@@ -19,6 +19,8 @@
 
 namespace vendlingua::test {
 
+inline constexpr char kPlaceholderByte = '\xFE';
+
 /// Whether random cells hold placeholders: never, or about every fourth.
 enum class Placeholders { kNone, kMany };
 

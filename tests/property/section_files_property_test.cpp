@@ -2,6 +2,7 @@
 #include <rapidcheck/gtest.h>
 
 #include <array>
+#include <cstdint>
 #include <map>
 #include <optional>
 
@@ -13,17 +14,17 @@ namespace {
 
 using test::AnyOf;
 
-constexpr std::array<long, 6> kStarts = {0x0000, 0x8000, 0xA000, 0xBC00, 0xBE00, 0xC000};
+constexpr std::array<std::int64_t, 6> kStarts = {0x0000, 0x8000, 0xA000, 0xBC00, 0xBE00, 0xC000};
 
 // The used lengths of the sections, kept as they are told.
 class UsedModel {
  public:
-  void Note(long count, long address) {
+  void Note(std::int64_t count, std::int64_t address) {
     std::size_t s = 0;
     while (!(kStarts[s] <= address && address < kStarts[s + 1])) {
       ++s;
     }
-    const long last_byte = address + count - 1;
+    const std::int64_t last_byte = address + count - 1;
     if (last_byte >= kStarts[s + 1]) {
       used_[s] = kStarts[s + 1] - kStarts[s] - 1;
       used_[s + 1] = std::max(used_[s + 1], address + count - kStarts[s + 1]);
@@ -31,10 +32,10 @@ class UsedModel {
       used_[s] = std::max(used_[s], address + count - kStarts[s]);
     }
   }
-  long operator[](std::size_t s) const { return used_.at(s); }
+  std::int64_t operator[](std::size_t s) const { return used_.at(s); }
 
  private:
-  std::array<long, 6> used_{};
+  std::array<std::int64_t, 6> used_{};
 };
 
 // Where `count` bytes may go, below `limit`: anywhere, near a bound of a section, right at it or up
@@ -54,8 +55,9 @@ struct RandomRecord {
   std::optional<std::size_t> broken_pair;  // not hexadecimal, which reads as 0
   std::size_t missing = 0;                 // bytes that the count falls short of 4
 
-  long Count() const {
-    return missing == 0 ? static_cast<long>(data.size()) : -static_cast<long>(missing);
+  std::int64_t Count() const {
+    return missing == 0 ? static_cast<std::int64_t>(data.size())
+                        : -static_cast<std::int64_t>(missing);
   }
 
   std::string Line() const {
@@ -130,7 +132,7 @@ class MemoryModel {
 
   std::string Section(std::size_t s) const {
     std::string text;
-    for (long i = 0; was_taken_over_ && i < used_[s]; ++i) {
+    for (std::int64_t i = 0; was_taken_over_ && i < used_[s]; ++i) {
       const auto byte = taken_over_.find(static_cast<std::size_t>(kStarts.at(s) + i));
       text += byte == taken_over_.end() ? '\0' : byte->second;
     }
@@ -139,8 +141,9 @@ class MemoryModel {
 
  private:
   void Store(std::size_t address, const RandomRecord& record) {
-    used_.Note(record.Count(), static_cast<long>(address));
-    for (long k = 0; k < record.Count() && address + static_cast<std::size_t>(k) < 0xC000; ++k) {
+    used_.Note(record.Count(), static_cast<std::int64_t>(address));
+    for (std::int64_t k = 0; k < record.Count() && address + static_cast<std::size_t>(k) < 0xC000;
+         ++k) {
       const auto i = static_cast<std::size_t>(k);
       bytes_[address + i] = record.broken_pair == i ? '\0' : record.data[i];
     }

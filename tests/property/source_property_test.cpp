@@ -2,6 +2,7 @@
 #include <rapidcheck/gtest.h>
 
 #include <algorithm>
+#include <cstdint>
 #include <optional>
 #include <stdexcept>
 
@@ -20,33 +21,33 @@ struct CannotBeRead : std::runtime_error {
 // The reading of one line as it is told, step by step, with positions counted from 1 and strings
 // cut from the left and from the right.
 std::optional<std::string> TextByTheSteps(const std::string& source_line) {
-  const auto left = [](const std::string& s, long n) {
+  const auto left = [](const std::string& s, std::int64_t n) {
     return s.substr(0, static_cast<std::size_t>(n));
   };
-  const auto right = [](const std::string& s, long n) {
+  const auto right = [](const std::string& s, std::int64_t n) {
     if (n < 0) {
       throw CannotBeRead("negative length");
     }
     return s.substr(s.size() - std::min(s.size(), static_cast<std::size_t>(n)));
   };
   const auto positions = [&source_line](char quote) {
-    std::vector<long> table(68, 0);
+    std::vector<std::int64_t> table(68, 0);
     std::size_t k = 1;
     for (std::size_t i = 0; i < source_line.size() && k <= 67; ++i) {
       if (source_line[i] == quote) {
-        table[k++] = static_cast<long>(i) + 1;
+        table[k++] = static_cast<std::int64_t>(i) + 1;
       }
     }
     return table;
   };
-  const std::vector<long> single = positions('\'');
-  const std::vector<long> twofold = positions('"');
+  const std::vector<std::int64_t> single = positions('\'');
+  const std::vector<std::int64_t> twofold = positions('"');
   std::string line = source_line;
-  long first = 255;
-  long last = 0;
-  long adjustment = 0;
+  std::int64_t first = 255;
+  std::int64_t last = 0;
+  std::int64_t adjustment = 0;
   for (std::size_t k = 1; k <= 67; ++k) {
-    const auto length = static_cast<long>(line.size());
+    const auto length = static_cast<std::int64_t>(line.size());
     first = single[k] != 0 && single[k] < first ? single[k] : first;
     first = twofold[k] != 0 && twofold[k] < first ? twofold[k] : first;
     last = std::max({last, single[k], twofold[k]});
@@ -58,18 +59,20 @@ std::optional<std::string> TextByTheSteps(const std::string& source_line) {
     }
     if (twofold[k] != 0 && twofold[k - 1] == twofold[k] - 1) {
       adjustment = 1;
-      const auto now = static_cast<long>(line.size());
+      const auto now = static_cast<std::int64_t>(line.size());
       line = left(line, single[k - 1]) + right(line, now - 1 - single[k - 1]);
     }
   }
   if (first == 255) {
     return std::nullopt;
   }
-  const long text_length = last - adjustment - first - 1;
+  const std::int64_t text_length = last - adjustment - first - 1;
   if (text_length < 0) {
     throw CannotBeRead("negative length");
   }
-  return left(right(line, std::max(static_cast<long>(line.size()) - first, 0L)), text_length);
+  return left(
+      right(line, std::max(static_cast<std::int64_t>(line.size()) - first, std::int64_t{0})),
+      text_length);
 }
 
 // Mostly quotes; long ones pass column 255 and the 67th quote.

@@ -1,16 +1,14 @@
 #include "support/message_files.h"
 
-#include <cstdio>
+#include <fmt/format.h>
+
+#include <numeric>
 #include <span>
 
 namespace vendlingua::test {
 namespace {
 
-std::string Digits(std::size_t value, int width) {
-  char text[32];
-  std::snprintf(text, sizeof text, "%0*zX", width, value);
-  return text;
-}
+std::string Digits(std::size_t value, int width) { return fmt::format("{:0{}X}", value, width); }
 
 std::string Padded(std::string text, std::size_t width) {
   text.resize(width, ' ');
@@ -73,6 +71,22 @@ std::string HexOf(std::string_view bytes) {
     hex += Digits(static_cast<unsigned char>(byte), 2);
   }
   return hex;
+}
+
+DisplayCodes AllCodes() {
+  DisplayCodes codes(256);
+  std::iota(codes.begin(), codes.end(), DisplayCode{0});
+  return codes;
+}
+
+std::string SourceLine(std::string_view text) { return " DC.B '" + std::string(text) + "'\r\n"; }
+
+std::string SourceLines(std::size_t count, std::string_view text) {
+  std::string lines;
+  for (std::size_t i = 0; i < count; ++i) {
+    lines += SourceLine(text);
+  }
+  return lines;
 }
 
 DisplayCodes Codes(std::string_view bytes) { return {bytes.begin(), bytes.end()}; }

@@ -38,6 +38,10 @@ struct MesFile {
 /// with blanks behind it up to 16 cells.
 std::string MsxFile(std::size_t languages, std::string_view model = "0417");
 
+/// Characters of a message line of MsxFile(), and of its header line, with their CR LF.
+inline constexpr std::size_t kMsxLine = 46;
+inline constexpr std::size_t kMsxHeaderLine = 44;
+
 /// The text of message m of language k in MsxFile().
 std::string MsxMessage(std::size_t language, std::size_t message);
 
@@ -46,6 +50,15 @@ std::string S2Line(std::size_t address, std::string_view data);
 
 /// Two upper-case hexadecimal digits a byte.
 std::string HexOf(std::string_view bytes);
+
+/// Every code once, in ascending order.
+DisplayCodes AllCodes();
+
+/// A line of a firmware source that holds a text.
+std::string SourceLine(std::string_view text);
+
+/// `count` lines of a firmware source that hold one and the same text.
+std::string SourceLines(std::size_t count, std::string_view text);
 
 /// ASCII or byte text as display codes.
 DisplayCodes Codes(std::string_view bytes);

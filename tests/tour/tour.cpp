@@ -1,6 +1,8 @@
 // A guided tour through the program with its real windows: opens the samples, edits, saves,
 // compiles. It leaves a picture of every step and the files it made in a folder.
 
+#include <fmt/format.h>
+
 #include <QApplication>
 #include <QCheckBox>
 #include <QLabel>
@@ -25,8 +27,8 @@ namespace {
 
 namespace fs = std::filesystem;
 
-constexpr char kMsxSample[] = "MP0417AA.MSX";
-constexpr char kMesSample[] = "FW0417AB.MES";
+constexpr const char* kMsxSample = "MP0417AA.MSX";
+constexpr const char* kMesSample = "FW0417AB.MES";
 constexpr int kLanguagesOfTheBoard = 9;
 
 class Tour {
@@ -138,9 +140,7 @@ class Tour {
 
   void Picture(QWidget& window, const char* name) {
     QApplication::processEvents();
-    char file_name[80];
-    std::snprintf(file_name, sizeof file_name, "%02d-%s.png", ++pictures_, name);
-    const fs::path file = out_ / file_name;
+    const fs::path file = out_ / fmt::format("{:02}-{}.png", ++pictures_, name);
     window.grab().save(ToQString(file));
     std::printf("%s\n", file.c_str());
   }

@@ -18,6 +18,7 @@
 #include "core/presentation/compiler_status.h"
 #include "core/presentation/compiler_view.h"
 #include "desktop/announce.h"
+#include "desktop/element_name.h"
 #include "desktop/qt_text.h"
 
 namespace vendlingua {
@@ -29,10 +30,6 @@ constexpr int kNarrowest = 400;  // pixels
 // Room for the names of all files that a run writes.
 constexpr int kStatusLines = 3;
 constexpr std::array<const char*, 2> kPageCaptions = {"1 - 50", "51 - 100"};
-
-QString ElementName(const char* array, std::size_t index) {
-  return QStringLiteral("%1(%2)").arg(QLatin1String(array)).arg(index);
-}
 
 QFont NameFont(const QFont& window_font) {
   QFont font = window_font;

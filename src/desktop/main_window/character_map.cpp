@@ -6,6 +6,7 @@
 #include <QMimeData>
 #include <QMouseEvent>
 
+#include "desktop/element_name.h"
 #include "desktop/fonts/widget_text.h"
 #include "desktop/main_window/destination_edit.h"
 
@@ -24,7 +25,7 @@ CharacterMap::CharacterMap(QWidget* parent) : QWidget(parent) {
   setFocusPolicy(Qt::TabFocus);
   for (int code = 1; code <= kCodes; ++code) {
     auto* cell = new QLabel(this);
-    cell->setObjectName(QStringLiteral("Label1(%1)").arg(code - 1));
+    cell->setObjectName(ElementName("Label1", code - 1));
     cell->setTextFormat(Qt::PlainText);
     cell->setAlignment(Qt::AlignCenter);
     cell->setText(ToWidgetCharacter(static_cast<DisplayCode>(code)));

@@ -4,6 +4,7 @@
 #include <QKeySequence>
 #include <QString>
 
+#include "desktop/element_name.h"
 #include "desktop/qt_text.h"
 
 namespace vendlingua {
@@ -31,10 +32,6 @@ void ShowEntries(const std::vector<QAction*>& actions, const Entries& entries, C
   for (std::size_t i = 0; i < actions.size(); ++i) {
     ShowEntry(*actions[i], entries.at(i), caption);
   }
-}
-
-QString ElementName(const char* array, std::size_t index) {
-  return QStringLiteral("%1(%2)").arg(QLatin1String(array)).arg(index);
 }
 
 QMenu* AddMenu(QMenuBar& menu_bar, const char* name) {

@@ -5,6 +5,7 @@
 #include <QPainter>
 
 #include "core/presentation/twips.h"
+#include "desktop/element_name.h"
 #include "desktop/fonts/display_font.h"
 #include "desktop/fonts/widget_text.h"
 #include "desktop/qt_text.h"
@@ -24,7 +25,7 @@ constexpr QRgb kBorder = 0xFFDCDC8C;
 }  // namespace
 
 OriginLabel::OriginLabel(int index, QWidget* parent) : QLabel(parent), index_(index) {
-  setObjectName(QStringLiteral("Label5(%1)").arg(index));
+  setObjectName(ElementName("Label5", index));
   setTextFormat(Qt::PlainText);
   setGeometry(PixelsFromTwips(kFirstLeft + kCellPitch * index), PixelsFromTwips(kTop),
               PixelsFromTwips(kWidth), PixelsFromTwips(kHeight));

@@ -3,7 +3,6 @@
 
 #include <QLineEdit>
 #include <QScrollBar>
-#include <QSettings>
 #include <QTest>
 #include <filesystem>
 #include <string>
@@ -11,7 +10,6 @@
 
 #include "core/document/display_code.h"
 #include "core/presentation/view_state.h"
-#include "desktop/qt_path.h"
 #include "gui/support/dialog_answerer.h"
 #include "gui/support/running_program.h"
 #include "support/message_files.h"
@@ -42,14 +40,14 @@ struct Desk {
 
   /// Writes a file and opens it.
   std::filesystem::path Open(std::string_view name, std::string_view content) {
-    const std::filesystem::path path = folder.Write(name, content);
+    std::filesystem::path path = folder.Write(name, content);
     Open(path);
     return path;
   }
 
   /// Opens a ".MES" file, its first language as origin and as destination.
   std::filesystem::path Edit(std::string_view mes_content) {
-    const std::filesystem::path path = Open("TEST.MES", mes_content);
+    std::filesystem::path path = Open("TEST.MES", mes_content);
     program.Choose("mnuori(1)");
     program.Choose("mnuDes(1)");
     return path;
@@ -58,7 +56,7 @@ struct Desk {
 
   /// Opens a ".MSX" file, the built-in table as origin, its first language as destination.
   std::filesystem::path EditMsx(std::size_t languages = 2) {
-    const std::filesystem::path path = Open("TEST.MSX", MsxFile(languages));
+    std::filesystem::path path = Open("TEST.MSX", MsxFile(languages));
     program.Choose("mnuori(0)");
     program.Choose("mnuDes(1)");
     return path;
@@ -76,17 +74,6 @@ struct Desk {
     return Text(set.DestText.at(message).First(set.Width()));
   }
 };
-
-/// The main() of a test program. File dialogs remember things from run to run: here they neither
-/// read nor write what those of the user do.
-template <typename Test, typename Application = QApplication>
-int RunTest(int argc, char** argv) {
-  const TemporaryFolder settings;
-  QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, ToQString(settings.path()));
-  const Application application(argc, argv);
-  Test test;
-  return QTest::qExec(&test, argc, argv);
-}
 
 }  // namespace vendlingua::test
 

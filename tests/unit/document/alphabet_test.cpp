@@ -2,11 +2,12 @@
 
 #include <gmock/gmock.h>
 
-#include <numeric>
+#include "support/message_files.h"
 
 namespace vendlingua {
 namespace {
 
+using test::AllCodes;
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
 
@@ -14,12 +15,6 @@ constexpr std::size_t kNormal = 0;
 constexpr std::size_t kCyrillic = 1;
 constexpr std::size_t kKatakana = 2;
 constexpr std::size_t kHebrew = 3;
-
-DisplayCodes AllCodes() {
-  DisplayCodes codes(256);
-  std::iota(codes.begin(), codes.end(), DisplayCode{0});
-  return codes;
-}
 
 class EveryAlphabet : public ::testing::TestWithParam<std::size_t> {};
 

@@ -11,16 +11,9 @@
 namespace vendlingua {
 namespace {
 
+using test::AllCodes;
 using test::Codes;
 using test::Text;
-
-DisplayCodes AllCodes() {
-  DisplayCodes codes;
-  for (int code = 0; code < 256; ++code) {
-    codes.push_back(static_cast<DisplayCode>(code));
-  }
-  return codes;
-}
 
 // What the conversion finds to have no display code; "none" when it finds nothing.
 std::string Unknown(std::string_view utf8) { return ToDisplayCodes(utf8).unknown.value_or("none"); }

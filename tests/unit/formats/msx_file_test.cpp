@@ -15,6 +15,8 @@ namespace vendlingua {
 namespace {
 
 using test::HexOf;
+using test::kMsxHeaderLine;
+using test::kMsxLine;
 using test::MsxFile;
 using test::MsxMessage;
 using test::S2Line;
@@ -26,12 +28,9 @@ using ::testing::IsEmpty;
 using ::testing::Optional;
 using ::testing::SizeIs;
 
-constexpr std::size_t kLine = 46;  // characters of a message line with its CR LF
-constexpr std::size_t kHeaderLine = 44;
-
 // Where line `message` of `language` begins in MsxFile().
 std::size_t LineOffset(std::size_t language, std::size_t message) {
-  return kHeaderLine + ((language - 1) * 455 + message) * kLine;
+  return kMsxHeaderLine + ((language - 1) * 455 + message) * kMsxLine;
 }
 
 std::string WithoutCr(std::string text) {
@@ -115,7 +114,7 @@ TEST_F(MsxFileTest, NamesItsLanguagesInMessage169TrimmedOnBothSides) {
 
 TEST_F(MsxFileTest, NamesLanguagesInUtf8) {
   std::string content = MsxFile(1);
-  content.replace(LineOffset(1, 169), kLine - 2,
+  content.replace(LineOffset(1, 169), kMsxLine - 2,
                   S2Line(0xFF0A90,
                          "    Fran\xE7"
                          "ais    "));
@@ -126,7 +125,7 @@ TEST_F(MsxFileTest, EndsTheNamesWhereANameRecordLiesBeyondTheEndOfTheFile) {
   const std::string content = MsxFile(3);
   EXPECT_THAT(Names(content.substr(0, LineOffset(3, 169))), Optional(SizeIs(2)));
   EXPECT_THAT(Names(content.substr(0, LineOffset(3, 170))), Optional(SizeIs(3)));
-  EXPECT_THAT(Names(content.substr(0, kHeaderLine)), Optional(IsEmpty()));
+  EXPECT_THAT(Names(content.substr(0, kMsxHeaderLine)), Optional(IsEmpty()));
 }
 
 TEST_F(MsxFileTest, NamesNineLanguagesAtMost) {
@@ -142,14 +141,14 @@ TEST_F(MsxFileTest, IsManagedForTwoFirmwareModels) {
 }
 
 TEST_F(MsxFileTest, GoesByTheModelAloneNotByTheRestOfTheHeader) {
-  const std::string lines = MsxFile(1).substr(kHeaderLine);
+  const std::string lines = MsxFile(1).substr(kMsxHeaderLine);
   EXPECT_NE(Names("S0FFFFFF" + HexOf("XY0417") + "\r\n" + lines), std::nullopt);
 }
 
 TEST_F(MsxFileTest, IsNotManagedWithoutAHeaderRecord) {
   EXPECT_EQ(Names(""), std::nullopt);
   EXPECT_EQ(Names("\r\n" + MsxFile(1)), std::nullopt);
-  EXPECT_EQ(Names(MsxFile(1).substr(kHeaderLine)), std::nullopt);
+  EXPECT_EQ(Names(MsxFile(1).substr(kMsxHeaderLine)), std::nullopt);
 }
 
 TEST_F(MsxFileTest, IsNotManagedWithACutHeaderRecord) {
@@ -198,7 +197,7 @@ TEST_F(MsxFileTest, IsRefusedWhenALineEndsInLfAloneNamingTheLine) {
   EXPECT_THAT(ReasonAgainstOpening(WithoutCr(MsxFile(2))), HasSubstr("line 1: ends in LF alone"));
   for (const std::size_t line : {2U, 171U, 456U, 457U, 911U, 4096U}) {
     std::string content = MsxFile(9);
-    content.erase(kHeaderLine + (line - 1) * kLine - 2, 1);
+    content.erase(kMsxHeaderLine + (line - 1) * kMsxLine - 2, 1);
     EXPECT_THAT(ReasonAgainstOpening(content),
                 HasSubstr("line " + std::to_string(line) + ": ends in LF alone"));
   }
@@ -228,7 +227,7 @@ TEST_F(MsxFileTest, ReadsSixteenDataBytesButNotTheChecksum) {
 TEST_F(MsxFileTest, ReadsEveryCode) {
   const std::string message("\0\x01\x7F\x80\xFE\xFF          ", 16);
   std::string content = MsxFile(1);
-  content.replace(LineOffset(1, 0), kLine - 2, S2Line(0xFF0000, message));
+  content.replace(LineOffset(1, 0), kMsxLine - 2, S2Line(0xFF0000, message));
   Read(content, 1);
   EXPECT_EQ(Message(0), message);
 }
@@ -259,7 +258,7 @@ TEST_F(MsxFileTest, NamesTheLineThatHoldsNoMessage) {
   };
   EXPECT_THAT(reason(data + 31, 1, "G"), HasSubstr("line 5 ")) << "not hexadecimal";
   EXPECT_THAT(reason(data, 4, ""), HasSubstr("line 5 ")) << "too short";
-  EXPECT_THAT(reason(LineOffset(1, 3), kLine - 2, ""), HasSubstr("line 5 ")) << "empty";
+  EXPECT_THAT(reason(LineOffset(1, 3), kMsxLine - 2, ""), HasSubstr("line 5 ")) << "empty";
 }
 
 TEST_F(MsxFileTest, CutAnywhereInsideALanguageIsAnErrorOrWhole) {

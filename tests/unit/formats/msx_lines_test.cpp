@@ -14,14 +14,14 @@ namespace vendlingua {
 namespace {
 
 using test::Codes;
+using test::kMsxHeaderLine;
+using test::kMsxLine;
 using test::MsxFile;
 using test::MsxMessage;
 using test::S2Line;
 using test::SameBytes;
 using ::testing::HasSubstr;
 
-constexpr std::size_t kLine = 46;  // characters of a message line with its CR LF
-constexpr std::size_t kHeaderLine = 44;
 const std::string kSixteenA(16, 'A');
 
 class MsxLinesTest : public ::testing::Test {
@@ -39,7 +39,7 @@ class MsxLinesTest : public ::testing::Test {
   // The new first line when the old one is `line`.
   std::string Rewritten(std::string_view line) {
     std::string content = MsxFile(1);
-    content.replace(kHeaderLine, kLine - 2, line);
+    content.replace(kMsxHeaderLine, kMsxLine - 2, line);
     const std::string lines = BuildMsxLines(set_, content).bytes;
     return lines.substr(0, lines.find('\r'));
   }
@@ -58,8 +58,8 @@ class MsxLinesTest : public ::testing::Test {
 
 TEST_F(MsxLinesTest, AreTheOldOnesWhenNothingChanged) {
   const FilePatch lines = BuildMsxLines(set_, MsxFile(1));
-  EXPECT_EQ(lines.position, static_cast<std::int64_t>(kHeaderLine));
-  EXPECT_TRUE(SameBytes(lines.bytes, MsxFile(1).substr(kHeaderLine)));
+  EXPECT_EQ(lines.position, static_cast<std::int64_t>(kMsxHeaderLine));
+  EXPECT_TRUE(SameBytes(lines.bytes, MsxFile(1).substr(kMsxHeaderLine)));
 }
 
 TEST_F(MsxLinesTest, CarryTheChecksumOverCountAddressAndData) {
@@ -91,7 +91,7 @@ TEST_F(MsxLinesTest, DoNotLookAtTheLengthOfTheOldData) {
 
 TEST_F(MsxLinesTest, AreAlways455) {
   set_.LastMsg = 3;
-  EXPECT_TRUE(SameBytes(BuildMsxLines(set_, MsxFile(2)).bytes, MsxFile(1).substr(kHeaderLine)));
+  EXPECT_TRUE(SameBytes(BuildMsxLines(set_, MsxFile(2)).bytes, MsxFile(1).substr(kMsxHeaderLine)));
 }
 
 TEST_F(MsxLinesTest, AreAsWideAsTheSet) {
@@ -104,19 +104,19 @@ TEST_F(MsxLinesTest, AreAsWideAsTheSet) {
 TEST_F(MsxLinesTest, ReplaceTheRunOfTheDestinationLanguage) {
   set_.DestLang = 3;
   const FilePatch lines = BuildMsxLines(set_, MsxFile(3));
-  EXPECT_EQ(lines.position, static_cast<std::int64_t>(kHeaderLine + 2 * 455 * kLine));
+  EXPECT_EQ(lines.position, static_cast<std::int64_t>(kMsxHeaderLine + 910 * kMsxLine));
   EXPECT_THAT(lines.bytes, testing::StartsWith(S2Line(0xFF0000 + 910 * 16, MsxMessage(1, 0))));
 }
 
 TEST_F(MsxLinesTest, ReplaceTheFirstLanguageForDestLangZero) {
   set_.DestLang = 0;
-  EXPECT_EQ(BuildMsxLines(set_, MsxFile(2)).position, static_cast<std::int64_t>(kHeaderLine));
+  EXPECT_EQ(BuildMsxLines(set_, MsxFile(2)).position, static_cast<std::int64_t>(kMsxHeaderLine));
 }
 
 TEST_F(MsxLinesTest, AreRefusedForALanguagePartlyBehindTheEndOfTheFile) {
   set_.DestLang = 2;
   const std::string content = MsxFile(2);
-  EXPECT_THAT(ReasonAgainst(content.substr(0, content.size() - kLine)),
+  EXPECT_THAT(ReasonAgainst(content.substr(0, content.size() - kMsxLine)),
               HasSubstr("ends after line 910"));
   EXPECT_THAT(ReasonAgainst(MsxFile(1)), HasSubstr("ends after line 456"));
   EXPECT_THAT(ReasonAgainst(""), HasSubstr("ends after line 0"));
@@ -124,7 +124,7 @@ TEST_F(MsxLinesTest, AreRefusedForALanguagePartlyBehindTheEndOfTheFile) {
 
 TEST_F(MsxLinesTest, AreRefusedUnlessAllOldOnesEndInCrLf) {
   std::string content = MsxFile(2);
-  content.erase(kHeaderLine + 455 * kLine - 2, 1);
+  content.erase(kMsxHeaderLine + 455 * kMsxLine - 2, 1);
   EXPECT_THAT(ReasonAgainst(content), HasSubstr("line 456 does not end in CR LF"));
 }
 
@@ -132,25 +132,25 @@ TEST_F(MsxLinesTest, GetTheLineEndThatTheLastLineOfTheFileHasNot) {
   const std::string whole = MsxFile(1);
   for (const std::size_t missing : {1U, 2U}) {
     EXPECT_TRUE(SameBytes(BuildMsxLines(set_, whole.substr(0, whole.size() - missing)).bytes,
-                          whole.substr(kHeaderLine)));
+                          whole.substr(kMsxHeaderLine)));
   }
 }
 
 TEST_F(MsxLinesTest, DoNotMindTheLineEndsOfOtherLanguages) {
   set_.DestLang = 2;
   std::string content = MsxFile(3);
-  content.erase(kHeaderLine + 2 * 455 * kLine + kLine - 2, 1);  // in language 3
-  content.erase(kHeaderLine + kLine - 2, 1);                    // in language 1
+  content.erase(kMsxHeaderLine + 910 * kMsxLine + kMsxLine - 2, 1);  // in language 3
+  content.erase(kMsxHeaderLine + kMsxLine - 2, 1);                   // in language 1
   const FilePatch lines = BuildMsxLines(set_, content);
-  EXPECT_EQ(lines.position, static_cast<std::int64_t>(kHeaderLine + 455 * kLine - 1));
+  EXPECT_EQ(lines.position, static_cast<std::int64_t>(kMsxHeaderLine + 455 * kMsxLine - 1));
 }
 
 TEST_F(MsxLinesTest, AreRefusedWithoutAHeadToKeep) {
-  EXPECT_THAT(ReasonAgainst(MsxFile(1).replace(kHeaderLine, kLine - 2, "")),
+  EXPECT_THAT(ReasonAgainst(MsxFile(1).replace(kMsxHeaderLine, kMsxLine - 2, "")),
               HasSubstr("line 2, column 3"));
-  EXPECT_THAT(ReasonAgainst(MsxFile(1).replace(kHeaderLine, kLine - 2, "S214FF800")),
+  EXPECT_THAT(ReasonAgainst(MsxFile(1).replace(kMsxHeaderLine, kMsxLine - 2, "S214FF800")),
               HasSubstr("line 2, column 9"));
-  EXPECT_THAT(ReasonAgainst(MsxFile(1).replace(kHeaderLine + kLine, 10, "S214FX8000")),
+  EXPECT_THAT(ReasonAgainst(MsxFile(1).replace(kMsxHeaderLine + kMsxLine, 10, "S214FX8000")),
               HasSubstr("line 3, column 5"));
 }
 

@@ -11,20 +11,12 @@ namespace vendlingua {
 namespace {
 
 using test::Codes;
+using test::SourceLine;
+using test::SourceLines;
 using testing::ElementsAre;
 using testing::HasSubstr;
 using testing::IsEmpty;
 using testing::SizeIs;
-
-std::string Line(std::string_view text) { return " DC.B '" + std::string(text) + "'\n"; }
-
-std::string Lines(std::size_t count, std::string_view text) {
-  std::string lines;
-  for (std::size_t i = 0; i < count; ++i) {
-    lines += Line(text);
-  }
-  return lines;
-}
 
 std::string ReasonOfRefusal(std::string_view source) {
   try {
@@ -36,13 +28,14 @@ std::string ReasonOfRefusal(std::string_view source) {
 }
 
 TEST(ParseSource, TakesTheQuotedTextsInOrder) {
-  const auto sections = ParseSource("; messages\n" + Line("ABCD") + "LABEL:\n" + Line("EFGH"));
+  const auto sections =
+      ParseSource("; messages\n" + SourceLine("ABCD") + "LABEL:\n" + SourceLine("EFGH"));
   ASSERT_THAT(sections, SizeIs(1));
   EXPECT_THAT(sections[0].texts, ElementsAre(Codes("ABCD"), Codes("EFGH")));
 }
 
 TEST(ParseSource, EndsTheOnlySectionWithTheFile) {
-  const auto sections = ParseSource(Line("ABCD"));
+  const auto sections = ParseSource(SourceLine("ABCD"));
   ASSERT_THAT(sections, SizeIs(1));
   EXPECT_TRUE(sections[0].ends_file);
   EXPECT_EQ(sections[0].directives, 0U);
@@ -54,29 +47,30 @@ TEST(ParseSource, ReadsLinesThatEndInCrLf) {
 }
 
 TEST(ParseSource, CountsALastLineWithoutItsEnd) {
-  EXPECT_THAT(ParseSource(Line("ABCD") + " DC.B 'EFGH'").at(0).texts,
+  EXPECT_THAT(ParseSource(SourceLine("ABCD") + " DC.B 'EFGH'").at(0).texts,
               ElementsAre(Codes("ABCD"), Codes("EFGH")));
 }
 
 TEST(ParseSource, RefusesACarriageReturnThatEndsNoLine) {
-  EXPECT_THAT(ReasonOfRefusal(Line("ABCD") + " DC.B 'EFGH'\r DC.B 'IJKL'\r"), HasSubstr("line 2"));
+  EXPECT_THAT(ReasonOfRefusal(SourceLine("ABCD") + " DC.B 'EFGH'\r DC.B 'IJKL'\r"),
+              HasSubstr("line 2"));
 }
 
 TEST(ParseSource, KeepsPlaceholders) {
-  EXPECT_THAT(ParseSource(Line("Rev. \xFE.\xFE")).at(0).texts,
+  EXPECT_THAT(ParseSource(SourceLine("Rev. \xFE.\xFE")).at(0).texts,
               ElementsAre(Codes("Rev. \xFE.\xFE")));
 }
 
 TEST(ParseSource, DoesNotEndASectionWithTheFirstDirective) {
-  const auto sections = ParseSource(Line("ABCD") + " ORG $6000\n" + Line("EFGH"));
+  const auto sections = ParseSource(SourceLine("ABCD") + " ORG $6000\n" + SourceLine("EFGH"));
   ASSERT_THAT(sections, SizeIs(1));
   EXPECT_THAT(sections[0].texts, SizeIs(2));
   EXPECT_EQ(sections[0].directives, 1U);
 }
 
 TEST(ParseSource, EndsASectionWithEveryFurtherDirective) {
-  const auto sections = ParseSource(" ORG $6000\n" + Line("ABCD") + " .SECT two\n" + Line("EFGH") +
-                                    " ORG $8000\n" + Line("IJKL"));
+  const auto sections = ParseSource(" ORG $6000\n" + SourceLine("ABCD") + " .SECT two\n" +
+                                    SourceLine("EFGH") + " ORG $8000\n" + SourceLine("IJKL"));
   ASSERT_THAT(sections, SizeIs(3));
   EXPECT_THAT(sections[0].texts, ElementsAre(Codes("ABCD")));
   EXPECT_THAT(sections[1].texts, ElementsAre(Codes("EFGH")));
@@ -84,8 +78,8 @@ TEST(ParseSource, EndsASectionWithEveryFurtherDirective) {
 }
 
 TEST(ParseSource, CountsTheDirectivesSeenAtTheEndOfEachSection) {
-  const auto sections = ParseSource(" ORG 1\n" + Line("ABCD") + " ORG 2\n" + Line("EFGH") +
-                                    " ORG 3\n" + Line("IJKL"));
+  const auto sections = ParseSource(" ORG 1\n" + SourceLine("ABCD") + " ORG 2\n" +
+                                    SourceLine("EFGH") + " ORG 3\n" + SourceLine("IJKL"));
   ASSERT_THAT(sections, SizeIs(3));
   EXPECT_EQ(sections[0].directives, 2U);
   EXPECT_EQ(sections[1].directives, 3U);
@@ -96,8 +90,8 @@ TEST(ParseSource, CountsTheDirectivesSeenAtTheEndOfEachSection) {
 
 TEST(ParseSource, EndsTheFileWithADirectiveThatIsItsLastLine) {
   for (const std::string_view end : {"", "\n", "\r\n"}) {
-    const auto sections = ParseSource(" ORG 1\n" + Line("ABCD") + " .SECT 2\n" + Line("EFGH") +
-                                      " ORG 3" + std::string(end));
+    const auto sections = ParseSource(" ORG 1\n" + SourceLine("ABCD") + " .SECT 2\n" +
+                                      SourceLine("EFGH") + " ORG 3" + std::string(end));
     ASSERT_THAT(sections, SizeIs(2));
     EXPECT_THAT(sections[1].texts, ElementsAre(Codes("EFGH")));
     EXPECT_EQ(sections[1].directives, 3U);
@@ -107,16 +101,18 @@ TEST(ParseSource, EndsTheFileWithADirectiveThatIsItsLastLine) {
 }
 
 TEST(ParseSource, RefusesASectionOfWhichOnlyTheDirectiveAndABlankLineAreThere) {
-  EXPECT_THAT(ReasonOfRefusal(" ORG 1\n" + Line("ABCD") + " ORG 2\n\n"), HasSubstr("line 4"));
+  EXPECT_THAT(ReasonOfRefusal(" ORG 1\n" + SourceLine("ABCD") + " ORG 2\n\n"), HasSubstr("line 4"));
 }
 
 TEST(ParseSource, FindsADirectiveInsideAnyWord) {
-  EXPECT_THAT(ParseSource("; FORGET\n" + Line("ABCD") + "XORGX\n" + Line("EFGH")), SizeIs(2));
+  EXPECT_THAT(ParseSource("; FORGET\n" + SourceLine("ABCD") + "XORGX\n" + SourceLine("EFGH")),
+              SizeIs(2));
 }
 
 TEST(ParseSource, TellsDirectivesByCase) {
-  EXPECT_THAT(ParseSource(" ORG 1\n" + Line("ABCD") + " org 2\n .sect 3\n" + Line("EFGH")),
-              SizeIs(1));
+  EXPECT_THAT(
+      ParseSource(" ORG 1\n" + SourceLine("ABCD") + " org 2\n .sect 3\n" + SourceLine("EFGH")),
+      SizeIs(1));
 }
 
 TEST(ParseSource, ReadsTheTextOfTheLineWithTheFirstDirective) {
@@ -124,8 +120,8 @@ TEST(ParseSource, ReadsTheTextOfTheLineWithTheFirstDirective) {
 }
 
 TEST(ParseSource, DoesNotLookFurtherAtTheLineThatEndsASection) {
-  const auto sections =
-      ParseSource(" ORG 1\n" + Line("ABCD") + "MNLING .SDATA ORG 'EFGH'\n" + Line("IJKL"));
+  const auto sections = ParseSource(" ORG 1\n" + SourceLine("ABCD") + "MNLING .SDATA ORG 'EFGH'\n" +
+                                    SourceLine("IJKL"));
   ASSERT_THAT(sections, SizeIs(2));
   EXPECT_THAT(sections[0].texts, ElementsAre(Codes("ABCD")));
   EXPECT_THAT(sections[1].texts, ElementsAre(Codes("IJKL")));
@@ -134,32 +130,33 @@ TEST(ParseSource, DoesNotLookFurtherAtTheLineThatEndsASection) {
 }
 
 TEST(ParseSource, NotesHowManyTextsStandBeforeTheNameLabel) {
-  const auto sections = ParseSource(Lines(11, "ABCD") + "MNLING DC.B 'NAME'\n" + Line("EFGH"));
+  const auto sections =
+      ParseSource(SourceLines(11, "ABCD") + "MNLING DC.B 'NAME'\n" + SourceLine("EFGH"));
   EXPECT_THAT(sections.at(0).name_labels, ElementsAre(11));
 }
 
 TEST(ParseSource, NotesEveryLineWithTheNameLabel) {
-  const auto sections = ParseSource("MNLING:\n" + Line("ABCD") + "MNLING:\n");
+  const auto sections = ParseSource("MNLING:\n" + SourceLine("ABCD") + "MNLING:\n");
   EXPECT_THAT(sections.at(0).name_labels, ElementsAre(0, 1));
 }
 
 TEST(ParseSource, CountsTheTextsBeforeTheNameLabelAnewInEachSection) {
-  const auto sections =
-      ParseSource(" ORG 1\n" + Lines(3, "ABCD") + " ORG 2\n" + Line("EFGH") + "MNLING:\n");
+  const auto sections = ParseSource(" ORG 1\n" + SourceLines(3, "ABCD") + " ORG 2\n" +
+                                    SourceLine("EFGH") + "MNLING:\n");
   EXPECT_THAT(sections.at(1).name_labels, ElementsAre(1));
 }
 
 TEST(ParseSource, NotesSdata) {
-  EXPECT_TRUE(ParseSource(" .SDATA\n" + Line("ABCD")).at(0).has_sdata);
-  EXPECT_FALSE(ParseSource(" .sdata\n" + Line("ABCD")).at(0).has_sdata);
+  EXPECT_TRUE(ParseSource(" .SDATA\n" + SourceLine("ABCD")).at(0).has_sdata);
+  EXPECT_FALSE(ParseSource(" .sdata\n" + SourceLine("ABCD")).at(0).has_sdata);
 }
 
 TEST(ParseSource, GivesTheWidthOfTheWidestText) {
-  EXPECT_EQ(ParseSource(Line("AB") + Line("ABCD")).at(0).width, 4);
+  EXPECT_EQ(ParseSource(SourceLine("AB") + SourceLine("ABCD")).at(0).width, 4);
 }
 
 TEST(ParseSource, StopsAtATextThatIsShorterThanOneBefore) {
-  const auto sections = ParseSource(Line("ABCD") + Line("ABC") + Line("EFGH"));
+  const auto sections = ParseSource(SourceLine("ABCD") + SourceLine("ABC") + SourceLine("EFGH"));
   ASSERT_THAT(sections, SizeIs(1));
   EXPECT_TRUE(sections[0].width_error);
   EXPECT_FALSE(sections[0].ends_file);
@@ -168,26 +165,28 @@ TEST(ParseSource, StopsAtATextThatIsShorterThanOneBefore) {
 
 // The width is lowered by one when a section is saved, and the next section starts from that.
 TEST(ParseSource, LetsTheTextsOfTheNextSectionBeOneCellNarrower) {
-  const auto sections = ParseSource(" ORG 1\n" + Line("ABCD") + " ORG 2\n" + Line("EFG"));
+  const auto sections =
+      ParseSource(" ORG 1\n" + SourceLine("ABCD") + " ORG 2\n" + SourceLine("EFG"));
   ASSERT_THAT(sections, SizeIs(2));
   EXPECT_FALSE(sections[1].width_error);
   EXPECT_EQ(sections[1].width, 3);
 }
 
 TEST(ParseSource, StopsAtATextOfTheNextSectionThatIsTwoCellsNarrower) {
-  const auto sections = ParseSource(" ORG 1\n" + Line("ABCD") + " ORG 2\n" + Line("EF"));
+  const auto sections =
+      ParseSource(" ORG 1\n" + SourceLine("ABCD") + " ORG 2\n" + SourceLine("EF"));
   ASSERT_THAT(sections, SizeIs(2));
   EXPECT_FALSE(sections[0].width_error);
   EXPECT_TRUE(sections[1].width_error);
 }
 
 TEST(ParseSource, TakesTextsOf40Cells) {
-  EXPECT_EQ(ParseSource(Line(std::string(40, 'x'))).at(0).width, 40);
+  EXPECT_EQ(ParseSource(SourceLine(std::string(40, 'x'))).at(0).width, 40);
 }
 
 TEST(ParseSource, TakesTheFirst40CellsOfAWiderText) {
-  const auto sections =
-      ParseSource(Line("ABCD") + Line(std::string(40, 'x') + "y") + Line(std::string(255, 'z')));
+  const auto sections = ParseSource(SourceLine("ABCD") + SourceLine(std::string(40, 'x') + "y") +
+                                    SourceLine(std::string(255, 'z')));
   ASSERT_THAT(sections, SizeIs(1));
   EXPECT_THAT(sections[0].texts,
               ElementsAre(Codes("ABCD"), Codes(std::string(40, 'x')), Codes(std::string(40, 'z'))));
@@ -196,38 +195,39 @@ TEST(ParseSource, TakesTheFirst40CellsOfAWiderText) {
 
 TEST(ParseSource, NotesTheLinesWhoseTextsWereCut) {
   const auto sections =
-      ParseSource(" ORG 1\n" + Line(std::string(40, 'x')) + Line(std::string(41, 'x')) +
-                  Line(std::string(41, 'y')) + " ORG 2\n" + Line(std::string(42, 'z')));
+      ParseSource(" ORG 1\n" + SourceLine(std::string(40, 'x')) + SourceLine(std::string(41, 'x')) +
+                  SourceLine(std::string(41, 'y')) + " ORG 2\n" + SourceLine(std::string(42, 'z')));
   ASSERT_THAT(sections, SizeIs(2));
   EXPECT_THAT(sections[0].cut_lines, ElementsAre(3, 4));
   EXPECT_THAT(sections[1].cut_lines, ElementsAre(6));
 }
 
 TEST(ParseSource, ComparesTheWholeWidthsOfTextsThatAreCut) {
-  EXPECT_TRUE(
-      ParseSource(Line(std::string(42, 'x')) + Line(std::string(41, 'x'))).at(0).width_error);
+  EXPECT_TRUE(ParseSource(SourceLine(std::string(42, 'x')) + SourceLine(std::string(41, 'x')))
+                  .at(0)
+                  .width_error);
 }
 
 TEST(ParseSource, RefusesATextWhoseWidthDoesNotFitAByteNamingItsLine) {
-  EXPECT_THAT(ReasonOfRefusal(Line("ABCD") + Line(std::string(256, 'x'))),
+  EXPECT_THAT(ReasonOfRefusal(SourceLine("ABCD") + SourceLine(std::string(256, 'x'))),
               testing::AllOf(HasSubstr("line 2"), HasSubstr("256")));
 }
 
 TEST(ParseSource, Takes65535TextsASection) {
   const auto sections =
-      ParseSource(" ORG 1\n" + Lines(514, "AB") + " ORG 2\n" + Lines(65535, "CD"));
+      ParseSource(" ORG 1\n" + SourceLines(514, "AB") + " ORG 2\n" + SourceLines(65535, "CD"));
   ASSERT_THAT(sections, SizeIs(2));
   EXPECT_THAT(sections[0].texts, SizeIs(514));
   EXPECT_THAT(sections[1].texts, SizeIs(65535));
 }
 
 TEST(ParseSource, RefusesAFurtherTextNamingItsLineAndNumber) {
-  EXPECT_THAT(ReasonOfRefusal("; first\n" + Lines(65536, "AB")),
+  EXPECT_THAT(ReasonOfRefusal("; first\n" + SourceLines(65536, "AB")),
               testing::AllOf(HasSubstr("line 65537"), HasSubstr("65536")));
 }
 
 TEST(ParseSource, RefusesAQuoteAloneNamingItsLine) {
-  EXPECT_THAT(ReasonOfRefusal(Line("ABCD") + "; don't\n"), HasSubstr("line 2"));
+  EXPECT_THAT(ReasonOfRefusal(SourceLine("ABCD") + "; don't\n"), HasSubstr("line 2"));
 }
 
 TEST(ParseSource, RefusesASourceWithoutTexts) {
@@ -236,14 +236,15 @@ TEST(ParseSource, RefusesASourceWithoutTexts) {
 }
 
 TEST(ParseSource, RefusesALaterSectionWithoutTexts) {
-  EXPECT_THAT(ReasonOfRefusal(" ORG 1\n" + Line("ABCD") + " ORG 2\n\n ORG 3\n" + Line("EFGH")),
-              HasSubstr("line 5"));
+  EXPECT_THAT(
+      ReasonOfRefusal(" ORG 1\n" + SourceLine("ABCD") + " ORG 2\n\n ORG 3\n" + SourceLine("EFGH")),
+      HasSubstr("line 5"));
 }
 
 TEST(ParseSource, ReadsOrRefusesASourceCutAnywhere) {
   const std::string source =
-      " ORG 1\n.SDATA\nMNLING DC.B 'AB''CD'\r\n DC.B \"EF\"\"GH\"\n ORG 2\n" + Line("IJKL") +
-      " ORG 3\n" + Line("MNOP");
+      " ORG 1\n.SDATA\nMNLING DC.B 'AB''CD'\r\n DC.B \"EF\"\"GH\"\n ORG 2\n" + SourceLine("IJKL") +
+      " ORG 3\n" + SourceLine("MNOP");
   for (std::size_t length = 0; length <= source.size(); ++length) {
     try {
       EXPECT_THAT(ParseSource(std::string_view(source).substr(0, length)), testing::Not(IsEmpty()));

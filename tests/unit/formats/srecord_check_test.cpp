@@ -16,7 +16,7 @@ using testing::HasSubstr;
 using testing::IsEmpty;
 using testing::StartsWith;
 
-constexpr std::string_view kHeader = "S013000044543034313741422020202020202020E7";
+constexpr std::string_view kHeaderRecord = "S013000044543034313741422020202020202020E7";
 constexpr std::string_view kLastLine = "S214FFFFF00FFFFFFFFFFFFFFFFFFFFFFFFFFFFFFFC";
 const std::string kFirst = S2Line(0xFF0000, "0123456789ABCDEF");
 const std::string kSecond = S2Line(0xFF0010, "fedcba9876543210");
@@ -52,7 +52,7 @@ TEST(CheckSRecords, TakesLinesThatEndInLfAndALastLineWithoutEnd) {
 
 // It cannot be opened as a message file.
 TEST(CheckSRecords, ReportsTheFirstLineOfAMsxFileThatEndsInLfAlone) {
-  const std::string header(kHeader);
+  const std::string header(kHeaderRecord);
   EXPECT_THAT(CheckSRecords(header + "\r\n" + kFirst + "\n" + kSecond + "\n"),
               ElementsAre("line 2: ends in LF alone, a .MSX file needs CR LF"));
   EXPECT_THAT(CheckSRecords(header + "\n" + kFirst + "\n"),
@@ -60,25 +60,25 @@ TEST(CheckSRecords, ReportsTheFirstLineOfAMsxFileThatEndsInLfAlone) {
 }
 
 TEST(CheckSRecords, TakesAMsxFileWhoseLastLineHasNoEnd) {
-  EXPECT_THAT(CheckSRecords(std::string(kHeader) + "\r\n" + kFirst), IsEmpty());
+  EXPECT_THAT(CheckSRecords(std::string(kHeaderRecord) + "\r\n" + kFirst), IsEmpty());
 }
 
 TEST(CheckSRecords, KnowsTheHeaderChecksumOfAnIdentifiedCopy) {
-  EXPECT_THAT(CheckSRecords(File({kHeader, kFirst})), IsEmpty());
+  EXPECT_THAT(CheckSRecords(File({kHeaderRecord, kFirst})), IsEmpty());
 }
 
 TEST(CheckSRecords, KnowsTheLastLineOfANineLanguageCopy) {
-  EXPECT_THAT(CheckSRecords(File({kHeader, kFirst, kLastLine})), IsEmpty());
+  EXPECT_THAT(CheckSRecords(File({kHeaderRecord, kFirst, kLastLine})), IsEmpty());
 }
 
 TEST(CheckSRecords, ReportsTheLastLineOfACopyInAnyOtherPlace) {
-  EXPECT_THAT(CheckSRecords(File({kHeader, kFirst, kLastLine, kSecond})),
+  EXPECT_THAT(CheckSRecords(File({kHeaderRecord, kFirst, kLastLine, kSecond})),
               ElementsAre(StartsWith("line 3: ")));
   EXPECT_THAT(CheckSRecords(File({kFirst, kLastLine})), ElementsAre(StartsWith("line 2: ")));
 }
 
 TEST(CheckSRecords, ReportsTheHeaderOfACopyBehindTheFirstLine) {
-  EXPECT_THAT(CheckSRecords(File({kFirst, kHeader})), ElementsAre(StartsWith("line 2: ")));
+  EXPECT_THAT(CheckSRecords(File({kFirst, kHeaderRecord})), ElementsAre(StartsWith("line 2: ")));
 }
 
 TEST(CheckSRecords, ReportsAWrongChecksumWithBothValues) {
@@ -153,7 +153,7 @@ TEST(CheckSRecords, TakesRecordsInAnyOrderForNoOverlap) {
 
 TEST(CheckSRecords, ReportsAFileWithoutData) {
   EXPECT_THAT(CheckSRecords(""), ElementsAre("the file holds no data record"));
-  EXPECT_THAT(CheckSRecords(File({kHeader})), ElementsAre("the file holds no data record"));
+  EXPECT_THAT(CheckSRecords(File({kHeaderRecord})), ElementsAre("the file holds no data record"));
 }
 
 // The loader's own files: addresses of an S1 file that passes 0xFFFF have five digits.
@@ -164,7 +164,7 @@ TEST(CheckSRecords, ReportsAnAddressOfFiveDigitsInAnS1Record) {
 }
 
 TEST(CheckSRecords, FindsEveryFileThatIsCutInsideALine) {
-  const std::string file = File({kHeader, kFirst, kSecond});
+  const std::string file = File({kHeaderRecord, kFirst, kSecond});
   const std::set<std::size_t> sound_lengths = {file.size() - kSecond.size() - 4,
                                                file.size() - kSecond.size() - 2, file.size() - 2};
   for (std::size_t length = 0; length < file.size(); ++length) {

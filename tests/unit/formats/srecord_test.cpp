@@ -28,7 +28,7 @@ SRecord Parsed(std::string_view line) {
   return record;
 }
 
-std::string ReasonAgainst(std::string_view line) {
+std::string ReasonAgainstRecord(std::string_view line) {
   try {
     Parsed(line);
   } catch (const SRecordSyntaxError& error) {
@@ -137,7 +137,7 @@ TEST(ParseSRecord, TakesLowerCaseDigits) {
 }
 
 TEST(ParseSRecord, TakesTheLongestRecord) {
-  const SRecord record = Parsed("S1FF0000" + std::string(2 * 252, '0') + "00");
+  const SRecord record = Parsed("S1FF0000" + std::string(504, '0') + "00");
   EXPECT_EQ(record.size, 252U);
   EXPECT_TRUE(record.ChecksumIsRight());
 }
@@ -152,37 +152,40 @@ TEST(ParseSRecord, ForgetsTheRecordBefore) {
 
 TEST(ParseSRecord, RefusesWhatIsNoRecord) {
   for (const char* line : {"", "S", "s1031234B6", "T1031234B6", "SA031234B6", " S1031234B6"}) {
-    EXPECT_THAT(ReasonAgainst(line), HasSubstr("does not begin")) << line;
+    EXPECT_THAT(ReasonAgainstRecord(line), HasSubstr("does not begin")) << line;
   }
 }
 
-TEST(ParseSRecord, RefusesAnS4Record) { EXPECT_THAT(ReasonAgainst("S4031234B6"), HasSubstr("S4")); }
+TEST(ParseSRecord, RefusesAnS4Record) {
+  EXPECT_THAT(ReasonAgainstRecord("S4031234B6"), HasSubstr("S4"));
+}
 
 TEST(ParseSRecord, RefusesAnotherLengthThanTheCount) {
-  EXPECT_THAT(ReasonAgainst("S1041234B6"), HasSubstr("count is 4, but the line holds 3 bytes"));
-  EXPECT_THAT(ReasonAgainst("S1021234B6"), HasSubstr("count is 2"));
-  EXPECT_THAT(ReasonAgainst("S1031234B"), HasSubstr("2 bytes and a half"));
-  EXPECT_THAT(ReasonAgainst("S1031234B6 "), HasSubstr("and a half"));
+  EXPECT_THAT(ReasonAgainstRecord("S1041234B6"),
+              HasSubstr("count is 4, but the line holds 3 bytes"));
+  EXPECT_THAT(ReasonAgainstRecord("S1021234B6"), HasSubstr("count is 2"));
+  EXPECT_THAT(ReasonAgainstRecord("S1031234B"), HasSubstr("2 bytes and a half"));
+  EXPECT_THAT(ReasonAgainstRecord("S1031234B6 "), HasSubstr("and a half"));
 }
 
 TEST(ParseSRecord, RefusesACountWithoutRoomForAddressAndChecksum) {
-  EXPECT_THAT(ReasonAgainst("S10212ED"), HasSubstr("count is 2"));
-  EXPECT_THAT(ReasonAgainst("S203123456"), HasSubstr("count is 3"));
-  EXPECT_THAT(ReasonAgainst("S100"), HasSubstr("count is 0"));
+  EXPECT_THAT(ReasonAgainstRecord("S10212ED"), HasSubstr("count is 2"));
+  EXPECT_THAT(ReasonAgainstRecord("S203123456"), HasSubstr("count is 3"));
+  EXPECT_THAT(ReasonAgainstRecord("S100"), HasSubstr("count is 0"));
 }
 
 TEST(ParseSRecord, RefusesALineCutBeforeItsEnd) {
   const std::string line = "S208FF80101011121322";
   for (std::size_t size = 0; size < line.size(); ++size) {
-    EXPECT_NE(ReasonAgainst(line.substr(0, size)), "none") << size;
+    EXPECT_NE(ReasonAgainstRecord(line.substr(0, size)), "none") << size;
   }
 }
 
 TEST(ParseSRecord, NamesTheColumnOfWhatIsNotHexadecimal) {
-  EXPECT_THAT(ReasonAgainst("S1G31234B6"), HasSubstr("column 3"));
-  EXPECT_THAT(ReasonAgainst("S10312x4B6"), HasSubstr("column 7"));
-  EXPECT_THAT(ReasonAgainst("S1041234 0B6"), HasSubstr("column 9"));
-  EXPECT_THAT(ReasonAgainst("S1031234-1"), HasSubstr("column 9"));
+  EXPECT_THAT(ReasonAgainstRecord("S1G31234B6"), HasSubstr("column 3"));
+  EXPECT_THAT(ReasonAgainstRecord("S10312x4B6"), HasSubstr("column 7"));
+  EXPECT_THAT(ReasonAgainstRecord("S1041234 0B6"), HasSubstr("column 9"));
+  EXPECT_THAT(ReasonAgainstRecord("S1031234-1"), HasSubstr("column 9"));
 }
 
 TEST(LenientRecord, IsTakenApartByItsColumns) {

@@ -37,7 +37,7 @@ class ExitTest : public test::EngineTest {
 
   // A destination language that has been changed.
   std::filesystem::path Edit() {
-    const auto path = folder_.Write("A.MES", test::MesFile().Bytes());
+    auto path = folder_.Write("A.MES", test::MesFile().Bytes());
     Open(path);
     engine_.languages.ChooseOrigin(1);
     engine_.languages.ChooseDestination(1);

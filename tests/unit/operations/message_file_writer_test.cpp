@@ -97,7 +97,8 @@ TEST_F(NewMesFile, HasTheSizeOfTwoWholeBlocks) {
 TEST_F(NewMesFile, FillsSlotsThatNoTextWasAssignedToWithBlanks) {
   set_.LangStride = 600;
   ExpectSaved();
-  const std::string blanks(4 * (601 - 3), ' ');
+  constexpr std::size_t kBlankSlots = 601 - 3;
+  const std::string blanks(kBlankSlots * 4, ' ');
   const std::string texts = texts_.substr(0, 12) + blanks;
   EXPECT_TRUE(SameBytes(Slurp(path_), header_ + kDefaultName + texts + kItalianName + texts));
 }
@@ -625,8 +626,8 @@ TEST_F(MsxPatch, ShiftsTheLinesThatFollowADifferentLength) {
   const std::string saved = Saved();
   // 0x13 + 0xFF + 16 x 0x41 = 0x522
   EXPECT_EQ(saved.substr(44, 44), "S213FF0000" + HexOf(std::string(16, 'A')) + "DD");
-  EXPECT_TRUE(SameBytes(saved.substr(44 + 46),
-                        bytes_.substr(44 + 46, 454 * 46) + bytes_.substr(44 + 455 * 46 + 2)));
+  EXPECT_TRUE(SameBytes(saved.substr(44 + 46), bytes_.substr(44 + 46, 454 * test::kMsxLine) +
+                                                   bytes_.substr(44 + 455 * 46 + 2)));
 }
 
 TEST_F(MsxPatch, LeavesAFileThatEndsInsideTheLanguageAsItWas) {

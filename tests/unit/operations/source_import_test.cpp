@@ -16,21 +16,13 @@ namespace {
 
 using test::MesFile;
 using test::Slurp;
+using test::SourceLine;
+using test::SourceLines;
 using test::Text;
 using testing::ElementsAre;
 using testing::HasSubstr;
 using testing::IsEmpty;
 using testing::SizeIs;
-
-std::string Line(std::string_view text) { return " DC.B '" + std::string(text) + "'\r\n"; }
-
-std::string Lines(std::size_t count, std::string_view text) {
-  std::string lines;
-  for (std::size_t i = 0; i < count; ++i) {
-    lines += Line(text);
-  }
-  return lines;
-}
 
 const std::string kText16(16, 'x');
 
@@ -70,7 +62,7 @@ class SourceImportTest : public test::EngineTest {
   }
 
   std::deque<std::string> answers_ = {"2", "1", "&H6000", "24", "italiano"};
-  const std::string three_texts_ = Line("ABCD") + Line("EFGH") + Line("IJKL");
+  const std::string three_texts_ = SourceLine("ABCD") + SourceLine("EFGH") + SourceLine("IJKL");
 };
 
 TEST_F(SourceImportTest, AsksForTheMemoryLayoutAndTheName) {
@@ -124,7 +116,7 @@ TEST_F(SourceImportTest, DividesTheMemoryByLanguagesAndWidth) {
 
 TEST_F(SourceImportTest, TakesTheLanguageMessageFromTheLabel) {
   answers_ = {"1", "&H6000", "&H2000", "italiano"};
-  Import(Lines(11, "ABCD") + "MNLING DC.B 'NAME'\r\n" + Line("EFGH"));
+  Import(SourceLines(11, "ABCD") + "MNLING DC.B 'NAME'\r\n" + SourceLine("EFGH"));
   EXPECT_THAT(AskedQuestions(), testing::Not(testing::Contains(InputPurpose::kLanguageMessage)));
   EXPECT_EQ(set_.HeaderCount, 11);
   EXPECT_EQ(set_.HeaderBit0, kTrue);
@@ -132,7 +124,7 @@ TEST_F(SourceImportTest, TakesTheLanguageMessageFromTheLabel) {
 
 TEST_F(SourceImportTest, CountsOnlyTheFirstLabel) {
   answers_ = {"1", "&H6000", "&H2000", "italiano"};
-  Import(Line("ABCD") + "MNLING:\r\n" + Line("EFGH") + "MNLING:\r\n");
+  Import(SourceLine("ABCD") + "MNLING:\r\n" + SourceLine("EFGH") + "MNLING:\r\n");
   EXPECT_EQ(set_.HeaderCount, 1);
 }
 
@@ -152,7 +144,7 @@ TEST_F(SourceImportTest, SetsNoHeaderBitsWithoutLabelAndSdata) {
 
 TEST_F(SourceImportTest, StoresSdataAndTheLabelInTheFlags) {
   answers_ = {"1", "&H6000", "&H2000", "italiano"};
-  Import(".SDATA\r\n" + Line("ABCD") + "MNLING:\r\n" + Line("EFGH"));
+  Import(".SDATA\r\n" + SourceLine("ABCD") + "MNLING:\r\n" + SourceLine("EFGH"));
   EXPECT_EQ(Slurp(folder_ / "NEW.MES").substr(2, 2), "03");
 }
 
@@ -201,16 +193,16 @@ TEST_F(SourceImportTest, IsFollowedBySavesThatStartANewLanguage) {
 }
 
 TEST_F(SourceImportTest, AsksOnceForASourceWithTextsBeforeItsOnlyDirective) {
-  Import(Line("ABCD") + " ORG 1\r\n" + Line("EFGH"));
+  Import(SourceLine("ABCD") + " ORG 1\r\n" + SourceLine("EFGH"));
   EXPECT_THAT(AskedQuestions(), SizeIs(5));
   EXPECT_EQ(set_.LastMsg, 1);
 }
 
 class SectionImportTest : public SourceImportTest {
  protected:
-  const std::string two_sections_ =
-      " ORG 1\r\n" + Line("ABCD") + Line("EFGH") + " ORG 2\r\n" + Line("abcd") + Line("efgh");
-  const std::string third_section_ = " .SECT 3\r\n" + Line("1234") + Line("5678");
+  const std::string two_sections_ = " ORG 1\r\n" + SourceLine("ABCD") + SourceLine("EFGH") +
+                                    " ORG 2\r\n" + SourceLine("abcd") + SourceLine("efgh");
+  const std::string third_section_ = " .SECT 3\r\n" + SourceLine("1234") + SourceLine("5678");
 };
 
 TEST_F(SectionImportTest, AsksTheQuestionsOnceForThreeSections) {
@@ -287,7 +279,8 @@ TEST_F(SectionImportTest, KeepsTheLanguageMessageOfTheFirstSection) {
 
 TEST_F(SectionImportTest, KeepsTheLanguagesThatWereSavedBeforeAWidthError) {
   answers_ = {"2", "1", "&H6000", "24", "uno"};
-  EXPECT_EQ(Import(" ORG 1\r\n" + Line("ABCD") + " ORG 2\r\n" + Line("EFGH") + Line("IJK")),
+  EXPECT_EQ(Import(" ORG 1\r\n" + SourceLine("ABCD") + " ORG 2\r\n" + SourceLine("EFGH") +
+                   SourceLine("IJK")),
             OpenOutcome::kRefused);
   EXPECT_EQ(Slurp(folder_ / "NEW.MES").size(), 24 + 2 * (20 + 4 * 4));
   EXPECT_THAT(dialogs_.messages, SizeIs(1));
@@ -296,7 +289,8 @@ TEST_F(SectionImportTest, KeepsTheLanguagesThatWereSavedBeforeAWidthError) {
 
 TEST_F(SectionImportTest, ShowsTheWidthErrorForTheFirstTextOfALaterSection) {
   answers_ = {"2", "1", "&H6000", "24", "uno"};
-  EXPECT_EQ(Import(" ORG 1\r\n" + Line("ABCD") + " ORG 2\r\n" + Line("EF")), OpenOutcome::kRefused);
+  EXPECT_EQ(Import(" ORG 1\r\n" + SourceLine("ABCD") + " ORG 2\r\n" + SourceLine("EF")),
+            OpenOutcome::kRefused);
   ASSERT_THAT(dialogs_.messages, SizeIs(1));
   EXPECT_EQ(dialogs_.messages[0].text, "Lughezza messaggi\nerrata");
 }
@@ -304,17 +298,18 @@ TEST_F(SectionImportTest, ShowsTheWidthErrorForTheFirstTextOfALaterSection) {
 // All languages of a file have messages of one width.
 TEST_F(SectionImportTest, RefusesALaterSectionOfAnotherWidth) {
   EXPECT_THAT(
-      ReasonOfRefusal(" ORG 1\r\n" + Line("ABCD") + " ORG 2\r\n" + Line("EFG")),
+      ReasonOfRefusal(" ORG 1\r\n" + SourceLine("ABCD") + " ORG 2\r\n" + SourceLine("EFG")),
       testing::AllOf(HasSubstr("SOURCE.MES"), HasSubstr("section 2 are 3"), HasSubstr("4")));
-  EXPECT_THAT(ReasonOfRefusal(" ORG 1\r\n" + Line("ABCD") + " ORG 2\r\n" + Line("EFGHI")),
-              HasSubstr("5"));
+  EXPECT_THAT(
+      ReasonOfRefusal(" ORG 1\r\n" + SourceLine("ABCD") + " ORG 2\r\n" + SourceLine("EFGHI")),
+      HasSubstr("5"));
   ExpectNothingWrittenAndNoFileOpen();
 }
 
 TEST_F(SectionImportTest, RefusesALaterSectionThatALanguageHasNoRoomFor) {
   answers_ = {"2", "1", "&H6000", "24", "uno", "due"};
   EXPECT_THAT(
-      ReasonOfRefusal(two_sections_ + " ORG 3\r\n" + Lines(5, "IJKL")),
+      ReasonOfRefusal(two_sections_ + " ORG 3\r\n" + SourceLines(5, "IJKL")),
       testing::AllOf(HasSubstr("SOURCE.MES: "), HasSubstr("5 texts"), HasSubstr("room for 4")));
 }
 
@@ -335,7 +330,7 @@ TEST_F(SectionImportTest, WritesNothingWhenALaterSectionCannotBeRead) {
 
 // Save or Exit would otherwise ask for the name of a language that is nowhere.
 TEST_F(SourceImportTest, LeavesNothingToSaveWhenItIsStopped) {
-  Import(Line("ABCD") + Line("EFG"));
+  Import(SourceLine("ABCD") + SourceLine("EFG"));
   EXPECT_FALSE(menus().mnuSave.enabled);
   EXPECT_FALSE(menus().mnuOrig.enabled);
   EXPECT_EQ(view().caption, "Vendlingua");
@@ -365,7 +360,7 @@ TEST_F(SourceImportTest, KeepsTheNameOfALanguageThatIsSavedAtOnce) {
 
 TEST_F(SourceImportTest, TellsWhichLinesHoldTextsThatAreTooWideToEdit) {
   answers_ = {"1", "1", "&H6000", "&H2000", "italiano"};
-  Import(Line("ABCD") + Line(std::string(41, 'x')) + Line(std::string(60, 'y')));
+  Import(SourceLine("ABCD") + SourceLine(std::string(41, 'x')) + SourceLine(std::string(60, 'y')));
   ASSERT_THAT(dialogs_.messages, SizeIs(1));
   EXPECT_EQ(dialogs_.messages[0].icon, MessageIcon::kInformation);
   EXPECT_THAT(dialogs_.messages[0].text, testing::EndsWith(": 2, 3"));
@@ -375,7 +370,7 @@ TEST_F(SourceImportTest, TellsWhichLinesHoldTextsThatAreTooWideToEdit) {
 }
 
 TEST_F(SourceImportTest, RefusesATextThatIsShorterThanOneBefore) {
-  EXPECT_EQ(Import(Line("ABCD") + Line("EFG")), OpenOutcome::kRefused);
+  EXPECT_EQ(Import(SourceLine("ABCD") + SourceLine("EFG")), OpenOutcome::kRefused);
   ASSERT_THAT(dialogs_.messages, SizeIs(1));
   EXPECT_EQ(dialogs_.messages[0].icon, MessageIcon::kCritical);
   EXPECT_EQ(dialogs_.messages[0].text, "Lughezza messaggi\nerrata");
@@ -384,13 +379,13 @@ TEST_F(SourceImportTest, RefusesATextThatIsShorterThanOneBefore) {
 }
 
 TEST_F(SourceImportTest, KeepsTheTextsThatWereTakenBeforeItWasStopped) {
-  Import(Line("ABCD") + Line("EFG"));
+  Import(SourceLine("ABCD") + SourceLine("EFG"));
   EXPECT_EQ(Text(set_.OriginText[0].First(5)), "ABCD ");
   EXPECT_EQ(Text(set_.DestText[0].First(5)), "ABCD ");
 }
 
 TEST_F(SourceImportTest, WidensTheMessagesForALongerText) {
-  Import(Line("ABC") + Line("DEFG"));
+  Import(SourceLine("ABC") + SourceLine("DEFG"));
   EXPECT_EQ(set_.LastCol, 3);
   EXPECT_EQ(Slurp(folder_ / "NEW.MES").substr(44, 8), "ABC DEFG");
 }
@@ -409,20 +404,20 @@ TEST_F(SourceImportTest, StopsWhenTheMessagesNeedOneByteMore) {
 
 TEST_F(SourceImportTest, GoesOnWithNineLanguagesIn64KiB) {
   answers_ = {"9", "169", "&HFF0000", "&H10000", "italiano"};
-  EXPECT_EQ(Import(Lines(455, kText16)), OpenOutcome::kOpened);
+  EXPECT_EQ(Import(SourceLines(455, kText16)), OpenOutcome::kOpened);
   EXPECT_THAT(dialogs_.messages, IsEmpty());
   EXPECT_EQ(Slurp(folder_ / "NEW.MES").size(), 24 + 2 * (20 + 456 * 16));
 }
 
 TEST_F(SourceImportTest, GoesOnWithOneLanguageIn8KiB) {
   answers_ = {"1", "169", "&HFF8000", "&H2000", "italiano"};
-  EXPECT_EQ(Import(Lines(455, kText16)), OpenOutcome::kOpened);
+  EXPECT_EQ(Import(SourceLines(455, kText16)), OpenOutcome::kOpened);
   EXPECT_EQ(set_.LangStride, 512);
 }
 
 TEST_F(SourceImportTest, TellsHowMuchMemoryTwoLanguagesIn8KiBWouldNeed) {
   answers_ = {"2", "169", "&HFF8000", "&H2000"};
-  EXPECT_EQ(Import(Lines(455, kText16)), OpenOutcome::kRefused);
+  EXPECT_EQ(Import(SourceLines(455, kText16)), OpenOutcome::kRefused);
   ASSERT_THAT(dialogs_.messages, SizeIs(1));
   EXPECT_EQ(dialogs_.messages[0].icon, MessageIcon::kCritical);
   EXPECT_EQ(dialogs_.messages[0].text,
@@ -545,7 +540,7 @@ TEST_F(SourceImportTest, TakesTheLargestBlocksThatDoNotWrap) {
 // 65520 / 16 are 4095 slots; 16 x (4095 + 1) + 20 bytes wrap to 20.
 TEST_F(SourceImportTest, RefusesAMemoryWhoseBlocksWouldOverlap) {
   answers_ = {"1", "1", "&H6000", "&HFFF0", "italiano"};
-  EXPECT_THAT(ReasonOfRefusal(Lines(3, kText16)),
+  EXPECT_THAT(ReasonOfRefusal(SourceLines(3, kText16)),
               testing::AllOf(HasSubstr("SOURCE.MES: "), HasSubstr("4096 message slots of 16 cells"),
                              HasSubstr("wrap to 20 bytes")));
   ExpectNothingWrittenAndNoFileOpen();
@@ -555,7 +550,7 @@ TEST_F(SourceImportTest, RefusesAMemoryWhoseBlocksWouldOverlap) {
 // for the slots that a new file has.
 TEST_F(SourceImportTest, RefusesAMemoryWhoseBlocksWouldBeShorterThanTheirSlots) {
   answers_ = {"1", "1", "&H6000", "73728", "italiano"};
-  EXPECT_THAT(ReasonOfRefusal(Lines(3, kText16)), HasSubstr("wrap to 8228 bytes"));
+  EXPECT_THAT(ReasonOfRefusal(SourceLines(3, kText16)), HasSubstr("wrap to 8228 bytes"));
   ExpectNothingWrittenAndNoFileOpen();
 }
 
@@ -575,7 +570,7 @@ TEST_F(SourceImportTest, LeavesTheSourceAsItWas) {
 }
 
 TEST_F(SourceImportTest, NamesFileAndLineOfAQuoteAlone) {
-  EXPECT_THAT(ReasonOfRefusal(Line("ABCD") + "; don't\r\n"),
+  EXPECT_THAT(ReasonOfRefusal(SourceLine("ABCD") + "; don't\r\n"),
               testing::AllOf(HasSubstr("SOURCE.MES"), HasSubstr("line 2")));
 }
 
