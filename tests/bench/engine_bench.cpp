@@ -7,7 +7,6 @@
 #include <vector>
 
 #include "core/engine.h"
-#include "core/flash/language_selection.h"
 #include "core/formats/srecord.h"
 #include "core/formats/text_lines.h"
 
@@ -84,9 +83,8 @@ BENCHMARK_F(OpenSample, SaveLanguage)(benchmark::State& state) {
 }
 
 BENCHMARK_F(OpenSample, CompileNineLanguages)(benchmark::State& state) {
-  LoadEntries(engine_->workspace, engine_->compiler_state);
-  for (int language = 1; language <= 9; ++language) {
-    TickEntry(engine_->compiler_state, language, true, 9);
+  for (std::size_t language = 1; language <= 9; ++language) {
+    engine_->compiler_state.ticked.at(language) = true;
   }
   for (auto _ : state) {
     engine_->compiler.Compile();

@@ -8,13 +8,13 @@
 #include <fstream>
 #include <iostream>
 #include <span>
+#include <stdexcept>
 #include <string>
 #include <string_view>
 #include <vector>
 
 #include "core/formats/srecord.h"
 #include "core/formats/text_lines.h"
-#include "core/platform/errors.h"
 #include "core/platform/files.h"
 
 namespace vendlingua {
@@ -39,7 +39,7 @@ void WriteRecords(const char* image_file, const char* records_file) {
   }
   records.close();
   if (!image.eof() || !records) {
-    throw Error(std::string(image_file) + " cannot be converted to " + records_file);
+    throw std::runtime_error(std::string(image_file) + " cannot be converted to " + records_file);
   }
 }
 
@@ -50,7 +50,7 @@ void PlaceRecords(std::string_view lines_of_records, std::string& image) {
   while (const auto line = lines.Next()) {
     ParseSRecord(line->text, record);
     if (!record.ChecksumIsRight()) {
-      throw Error("wrong checksum: " + std::string(line->text));
+      throw std::runtime_error("wrong checksum: " + std::string(line->text));
     }
     if (record.type < '1' || record.type > '3') {
       continue;
@@ -74,12 +74,12 @@ void ReadRecords(const char* records_file, const char* image_file) {
     PlaceRecords(read.substr(0, whole), image);
     kept = read.size() - whole;
     if (kept == chunk.size()) {
-      throw Error(std::string(records_file) + " has a line that is no record");
+      throw std::runtime_error(std::string(records_file) + " has a line that is no record");
     }
     std::copy(read.begin() + static_cast<std::ptrdiff_t>(whole), read.end(), chunk.begin());
   }
   if (!records.eof()) {
-    throw Error(std::string(records_file) + " cannot be read");
+    throw std::runtime_error(std::string(records_file) + " cannot be read");
   }
   WriteFile(image_file, image);
 }
