@@ -88,6 +88,13 @@ class FlashFileTest(CompileCase):
             self.assertEqual(decode_with_srec_cat(self.folder / name, start), image)
             self.assertEqual(decode_with_objcopy(self.folder / name), image)
 
+    def test_messages_of_any_width_are_compiled(self) -> None:
+        for width in (41, 60, 256):
+            file = MesFile(width=width, flags=flags(NO_NAME_LIST))
+            self.compile(file, "FW0417AB.HEX")
+            decoded = decode_with_srec_cat(self.folder / "FW0417AB.HEX", 0x6000)
+            self.assertEqual(decoded, file.messages(1) + file.messages(2))
+
     def test_chosen_languages_stand_in_ascending_order(self) -> None:
         file = MesFile(flags=flags(NO_NAME_LIST), names=[b"Default", b"A", b"B", b"C"])
         for chosen in ("1,3", "3,1"):
