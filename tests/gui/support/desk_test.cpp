@@ -5,6 +5,11 @@
 
 namespace vendlingua::test {
 
+void DeskTest::Activate() {
+  desk_->program.window().activateWindow();
+  QVERIFY(QTest::qWaitForWindowActive(&desk_->program.window()));
+}
+
 QString DeskTest::UiText(std::size_t number) const {
   return QString::fromStdString(desk_->program.workspace().ui_text.Entry(number));
 }

@@ -1,6 +1,7 @@
 #ifndef VENDLINGUA_TESTS_GUI_SUPPORT_DESK_TEST_H_
 #define VENDLINGUA_TESTS_GUI_SUPPORT_DESK_TEST_H_
 
+#include <QLabel>
 #include <QObject>
 #include <QString>
 #include <cstddef>
@@ -16,6 +17,20 @@ class DeskTest : public QObject {
   Q_OBJECT
 
  protected:
+  /// A control of the main window.
+  template <typename Control>
+  Control& Get(const char* name) {
+    return desk_->program.Get<Control>(name);
+  }
+
+  /// Cell `index` of the origin.
+  QLabel& Cell(int index) {
+    return Get<QLabel>(qPrintable(QStringLiteral("Label5(%1)").arg(index)));
+  }
+
+  /// Makes the main window the active one, in which shortcuts hold.
+  void Activate();
+
   /// Entry `number` of the interface texts in use.
   QString UiText(std::size_t number) const;
 
