@@ -20,6 +20,7 @@ STANDS_ON = {
     "core/formats": (*FOR_ALL, "core/document"),
     "core/operations": (*FOR_ALL, "core/document", "core/formats"),
     "core/flash": (*FOR_ALL, "core/document", "core/formats"),
+    "core/proof": (*FOR_ALL, "core/document"),
     "core/presentation": (*FOR_ALL, "core/document", "core/formats", "core/operations", "core/flash"),
     "core": ("core",),
     "cli": ("core",),

@@ -1,6 +1,6 @@
 # The Debian packages that the scripts of the root need; read with ".".
 # shellcheck shell=sh disable=SC2034
-build_packages="g++ cmake ninja-build libfmt-dev libutfcpp-dev libboost-dev libcli11-dev nlohmann-json3-dev \
+build_packages="g++ cmake ninja-build libfmt-dev libutfcpp-dev libboost-dev libstb-dev libcli11-dev nlohmann-json3-dev \
   libcsv-dev qt6-base-dev qt6-svg-dev qt6-translations-l10n libgl1-mesa-dev fonts-dejavu-core"
 test_packages="libgtest-dev libgmock-dev librapidcheck-dev qt6-base-private-dev srecord binutils python3 python3-fonttools \
   clang-format clang-tidy xvfb xauth"

@@ -19,6 +19,11 @@ struct Glyph {
   /// Top row first; bit 4 is the dot at the left.
   std::array<std::uint8_t, kRows> rows{};
 
+  /// Whether there is a dot; columns and rows count from the top left.
+  bool HasDot(std::size_t column, std::size_t row) const {
+    return (rows.at(row) >> (kColumns - 1 - column) & 1U) != 0;
+  }
+
   bool IsEmpty() const { return rows == decltype(rows){}; }
 };
 
