@@ -42,6 +42,8 @@ ExitStatus RunCommandLine(Session& session, int argc, const char* const* argv) {
   AddCompile(app, session);
   AddSections(app, session);
   AddVerify(app, session);
+  AddCheck(app, session);
+  AddStats(app, session);
   try {
     app.parse(argc, argv);
   } catch (const CLI::ParseError& error) {

@@ -42,6 +42,12 @@ void AddSections(CLI::App& app, Session& session);
 /// Says whether files are sound.
 void AddVerify(CLI::App& app, Session& session);
 
+/// Says what is wrong with translations.
+void AddCheck(CLI::App& app, Session& session);
+
+/// Counts what is translated.
+void AddStats(CLI::App& app, Session& session);
+
 }  // namespace vendlingua::cli
 
 #endif  // VENDLINGUA_CLI_COMMANDS_H_

@@ -14,6 +14,12 @@ CLI::Option* AddLanguage(CLI::App& command, std::string& language, const std::st
   return command.add_option("--language", language, description)->required();
 }
 
+void AddOrigin(CLI::App& command, std::string& origin) {
+  command.add_option("--origin", origin,
+                     "number or name of the language to check against; if not given, 1 in a .MES "
+                     "file and 0, the built-in table, in a .MSX file");
+}
+
 void AddDisplay(CLI::App& command, Session& session) {
   static const std::map<std::string, std::size_t> kDisplays = {
       {"normal", 0}, {"cyrillic", 1}, {"katakana", 2}, {"hebrew", 3}};

@@ -17,6 +17,9 @@ void AddFile(CLI::App& command, std::string& file);
 CLI::Option* AddLanguage(CLI::App& command, std::string& language,
                          const std::string& description = "number or name of the language");
 
+/// The language that others are checked against.
+void AddOrigin(CLI::App& command, std::string& origin);
+
 /// The display whose characters texts are read and written in.
 void AddDisplay(CLI::App& command, Session& session);
 

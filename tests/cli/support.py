@@ -33,6 +33,8 @@ COMMANDS = (
     "compile",
     "sections",
     "verify",
+    "check",
+    "stats",
 )
 
 DONE = 0

@@ -224,7 +224,16 @@ class MadeSamplesTest(CliTest):
         make_samples(self.folder)
         # What one of them reads, another one before it makes.
         self.done(*examples.pop("export"))
-        for command in ("new-language", "apply", "put", "texts", "info", "compile"):
+        for command in (
+            "check",
+            "stats",
+            "new-language",
+            "apply",
+            "put",
+            "texts",
+            "info",
+            "compile",
+        ):
             self.done(*examples.pop(command))
         self.done(*examples.pop("sections"))
         self.done(*examples.pop("verify"))
