@@ -22,7 +22,7 @@ endif()
 # 105651), in {fmt} and in Boost's interval maps.
 if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND CMAKE_CXX_COMPILER_VERSION VERSION_LESS 13)
   target_compile_options(vendlingua_settings INTERFACE
-    -Wno-array-bounds -Wno-restrict -Wno-stringop-overflow)
+    -Wno-array-bounds -Wno-restrict -Wno-stringop-overflow -Wno-stringop-overread)
 endif()
 
 if(VENDLINGUA_COVERAGE)

@@ -3,6 +3,7 @@
 #include <fmt/format.h>
 
 #include <numeric>
+#include <set>
 
 #include "core/formats/mes_layout.h"
 #include "core/platform/errors.h"
@@ -38,6 +39,18 @@ std::vector<int> CheckedFile::Languages() const {
   std::vector<int> languages(languages_.size() - 1);
   std::iota(languages.begin(), languages.end(), 1);
   return languages;
+}
+
+std::vector<int> CheckedFile::Chosen(const Session& session,
+                                     const std::vector<std::string>& chosen) const {
+  if (chosen.empty()) {
+    return Languages();
+  }
+  std::set<int> languages;
+  for (const std::string& language : chosen) {
+    languages.insert(session.FindLanguage(language));
+  }
+  return {languages.begin(), languages.end()};
 }
 
 LanguageCheck CheckedFile::CheckOf(int language, const Rules& rules) const {

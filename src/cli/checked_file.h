@@ -24,6 +24,10 @@ class CheckedFile {
   /// Language 1 and what follows it.
   std::vector<int> Languages() const;
 
+  /// The languages that go by these numbers or names, in ascending order; Languages() when there
+  /// are none. Throws CommandFailed when the file has no such language.
+  std::vector<int> Chosen(const Session& session, const std::vector<std::string>& chosen) const;
+
   const MessageTexts& TextsOf(int language) const { return Read(language).texts; }
 
   LanguageCheck CheckOf(int language, const Rules& rules = AllRules()) const;

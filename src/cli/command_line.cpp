@@ -41,6 +41,7 @@ ExitStatus RunCommandLine(Session& session, int argc, const char* const* argv) {
   AddImport(app, session);
   AddCompile(app, session);
   AddSections(app, session);
+  AddProof(app, session);
   AddVerify(app, session);
   AddCheck(app, session);
   AddStats(app, session);

@@ -39,6 +39,9 @@ void AddCompile(CLI::App& app, Session& session);
 /// Cuts a flash file into section files.
 void AddSections(CLI::App& app, Session& session);
 
+/// Writes a sheet that a native speaker reads and signs.
+void AddProof(CLI::App& app, Session& session);
+
 /// Says whether files are sound.
 void AddVerify(CLI::App& app, Session& session);
 

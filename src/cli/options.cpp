@@ -20,6 +20,14 @@ void AddOrigin(CLI::App& command, std::string& origin) {
                      "file and 0, the built-in table, in a .MSX file");
 }
 
+void AddLanguages(CLI::App& command, const std::string& option,
+                  std::vector<std::string>& languages) {
+  command
+      .add_option(option, languages, "numbers or names of the languages, all but 0 if not given")
+      ->delimiter(',')
+      ->allow_extra_args(false);
+}
+
 void AddDisplay(CLI::App& command, Session& session) {
   static const std::map<std::string, std::size_t> kDisplays = {
       {"normal", 0}, {"cyrillic", 1}, {"katakana", 2}, {"hebrew", 3}};

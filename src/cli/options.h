@@ -3,6 +3,7 @@
 
 #include <CLI/CLI.hpp>
 #include <string>
+#include <vector>
 
 #include "cli/session.h"
 
@@ -19,6 +20,10 @@ CLI::Option* AddLanguage(CLI::App& command, std::string& language,
 
 /// The language that others are checked against.
 void AddOrigin(CLI::App& command, std::string& origin);
+
+/// Languages by their numbers or names, separated by commas; all but 0 if none is given.
+void AddLanguages(CLI::App& command, const std::string& option,
+                  std::vector<std::string>& languages);
 
 /// The display whose characters texts are read and written in.
 void AddDisplay(CLI::App& command, Session& session);

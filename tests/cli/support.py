@@ -32,6 +32,7 @@ COMMANDS = (
     "import",
     "compile",
     "sections",
+    "proof",
     "verify",
     "check",
     "stats",

@@ -233,6 +233,7 @@ class MadeSamplesTest(CliTest):
             "texts",
             "info",
             "compile",
+            "proof",
         ):
             self.done(*examples.pop(command))
         self.done(*examples.pop("sections"))

@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <memory>
-#include <set>
 #include <string>
 #include <vector>
 
@@ -26,18 +25,6 @@ struct CheckOptions {
   std::vector<std::string> only;
   std::vector<std::string> ignored;
 };
-
-std::vector<int> LanguagesToCheck(const Session& session, const CheckedFile& file,
-                                  const std::vector<std::string>& chosen) {
-  if (chosen.empty()) {
-    return file.Languages();
-  }
-  std::set<int> languages;
-  for (const std::string& language : chosen) {
-    languages.insert(session.FindLanguage(language));
-  }
-  return {languages.begin(), languages.end()};
-}
 
 std::vector<Finding> FindingsIn(const CheckedFile& file, const std::vector<int>& languages,
                                 const Rules& rules) {
@@ -115,7 +102,7 @@ void RunCheck(Session& session, const CheckOptions& options) {
   }
   session.Open(options.file);
   const CheckedFile file(session, options.origin);
-  const std::vector<int> languages = LanguagesToCheck(session, file, options.languages);
+  const std::vector<int> languages = file.Chosen(session, options.languages);
   const std::vector<Finding> findings = FindingsIn(file, languages, rules);
   session.Print(AsJson(session, findings),
                 fmt::format("{}{}: {}\n", AsLines(session, findings),
@@ -156,11 +143,7 @@ void AddCheck(CLI::App& app, Session& session) {
                   "--ignore same-as-origin",
                   fmt::join(RuleNames(), ", ")));
   AddFile(*command, options->file);
-  command
-      ->add_option("--language", options->languages,
-                   "numbers or names of the languages to check, all but 0 if not given")
-      ->delimiter(',')
-      ->allow_extra_args(false);
+  AddLanguages(*command, "--language", options->languages);
   AddOrigin(*command, options->origin);
   AddRules(*command, "--only", options->only, "rules to check, all if not given");
   AddRules(*command, "--ignore", options->ignored, "rules not to check");

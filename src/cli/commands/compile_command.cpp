@@ -123,7 +123,7 @@ Json AsJson(const Session& session, const CompileOutcome& outcome,
           {"completed", outcome.completed}};
 }
 
-void CheckOptions(Session& session, const CompileOptions& options) {
+void TakeOptions(Session& session, const CompileOptions& options) {
   if (!session.set().IsMes()) {
     return;
   }
@@ -142,7 +142,7 @@ void CheckOptions(Session& session, const CompileOptions& options) {
 
 void RunCompile(Session& session, const CompileOptions& options) {
   session.Open(options.file);
-  CheckOptions(session, options);
+  TakeOptions(session, options);
   session.dialogs.files[FilePurpose::kFlashFile] = options.output;
   session.dialogs.files[FilePurpose::kIdentifiedCopy] = options.copy;
   const CompileOutcome outcome = session.engine.compiler.Compile();

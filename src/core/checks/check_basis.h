@@ -32,6 +32,7 @@ class CheckBasis {
              const Alphabet& alphabet);
 
   const Alphabet& alphabet() const { return alphabet_; }
+  int origin_language() const { return origin_language_; }
   /// The cells of a message that are checked: all of them, at most 40.
   std::size_t width() const { return width_; }
   std::size_t MessageCount() const { return origin_.size(); }

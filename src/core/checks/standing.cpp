@@ -31,8 +31,8 @@ DisplayCodes LaidOut(std::span<const DisplayCode> field, const Standing& standin
   return laid_out;
 }
 
-std::optional<Field> FieldOfWords(std::span<const DisplayCode> text) {
-  std::optional<Field> found;
+std::optional<WordField> FieldOfWords(std::span<const DisplayCode> text) {
+  std::optional<WordField> found;
   for (auto begin = text.begin(); begin != text.end();) {
     const auto end = std::find(begin, text.end(), kPlaceholder);
     if (!Trim({begin, end}).empty()) {

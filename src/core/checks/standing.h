@@ -29,16 +29,16 @@ Standing StandingOf(std::span<const DisplayCode> field);
 DisplayCodes LaidOut(std::span<const DisplayCode> field, const Standing& standing);
 
 /// The cells from `first` on between two placeholders, or a placeholder and an end of the text.
-struct Field {
+struct WordField {
   std::size_t first;
   std::size_t cells;
 
-  bool operator==(const Field&) const = default;
+  bool operator==(const WordField&) const = default;
 };
 
 /// The field that holds the words of a text; nothing when it has none, or words in several fields
 /// ("Tube þþ Pod"), where each has its own place.
-std::optional<Field> FieldOfWords(std::span<const DisplayCode> text);
+std::optional<WordField> FieldOfWords(std::span<const DisplayCode> text);
 
 }  // namespace vendlingua
 

@@ -5,12 +5,17 @@
 #include <span>
 #include <vector>
 
+#include "core/document/alphabet_table.h"
 #include "core/document/display_code.h"
 
 namespace vendlingua {
 
 /// A display shows its messages in rows of two: message 0 over message 1, 2 over 3.
 inline constexpr std::size_t kGlassRows = 2;
+
+/// A cell is a dot wider and higher than its glyph.
+inline constexpr std::size_t kGlassCellColumns = Glyph::kColumns + 1;
+inline constexpr std::size_t kGlassCellRows = Glyph::kRows + 1;
 
 /// One cell as people see it in front of the machine.
 struct GlassCell {

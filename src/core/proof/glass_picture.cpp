@@ -12,9 +12,7 @@ namespace vendlingua {
 namespace {
 
 constexpr std::size_t kDotPixels = 8;
-constexpr std::size_t kCellWidth = Glyph::kColumns + 1;
-constexpr std::size_t kRowHeight = Glyph::kRows + 1;
-constexpr std::size_t kBorder = 2;  // dots
+constexpr std::size_t kBorderDots = 2;
 
 using Colour = std::array<std::uint8_t, 3>;
 constexpr Colour kBacklight = {0x1B, 0x3F, 0xC8};
@@ -78,11 +76,12 @@ std::string GlassPicture(const std::vector<std::vector<GlassCell>>& rows,
   for (const auto& row : rows) {
     width = std::max(width, row.size());
   }
-  Picture picture(width * kCellWidth - 1 + 2 * kBorder, rows.size() * kRowHeight - 1 + 2 * kBorder);
+  Picture picture(width * kGlassCellColumns - 1 + 2 * kBorderDots,
+                  rows.size() * kGlassCellRows - 1 + 2 * kBorderDots);
   for (std::size_t row = 0; row < rows.size(); ++row) {
     for (std::size_t cell = 0; cell < rows[row].size(); ++cell) {
-      PaintGlyph(picture, kBorder + cell * kCellWidth, kBorder + row * kRowHeight,
-                 alphabet.GlyphOf(rows[row][cell].code));
+      PaintGlyph(picture, kBorderDots + cell * kGlassCellColumns,
+                 kBorderDots + row * kGlassCellRows, alphabet.GlyphOf(rows[row][cell].code));
     }
   }
   return picture.Png();

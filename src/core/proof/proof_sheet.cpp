@@ -11,10 +11,6 @@
 namespace vendlingua {
 namespace {
 
-// A cell is a dot wider and higher than its glyph; the units of the drawings are dots.
-constexpr std::size_t kCellWidth = Glyph::kColumns + 1;
-constexpr std::size_t kRowHeight = Glyph::kRows + 1;
-
 using UsedCodes = std::bitset<256>;
 using Out = std::back_insert_iterator<std::string>;
 
@@ -69,7 +65,8 @@ void DrawRow(Out out, const DisplayCodes& text, const Alphabet& alphabet, UsedCo
   fmt::format_to(out,
                  "<td class=\"glass\"><svg class=\"row\" viewBox=\"-1 -1 {} {}\" role=\"img\" "
                  "aria-label=\"{}\">",
-                 text.size() * kCellWidth + 1, kRowHeight + 1, Escaped(alphabet.TextOf(text)));
+                 text.size() * kGlassCellColumns + 1, kGlassCellRows + 1,
+                 Escaped(alphabet.TextOf(text)));
   std::size_t x = 0;
   for (const GlassCell& cell : GlassCells(text)) {
     if (cell.filled_by_board) {
@@ -79,7 +76,7 @@ void DrawRow(Out out, const DisplayCodes& text, const Alphabet& alphabet, UsedCo
       used.set(cell.code);
       fmt::format_to(out, "<use href=\"#g{:02X}\" x=\"{}\"/>", cell.code, x);
     }
-    x += kCellWidth;
+    x += kGlassCellColumns;
   }
   fmt::format_to(out, "</svg></td>");
 }

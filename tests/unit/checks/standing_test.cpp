@@ -42,10 +42,10 @@ TEST(StandingTest, LaysWordsOut) {
 }
 
 TEST(FieldOfWordsTest, IsWhatPlaceholdersLeave) {
-  EXPECT_EQ(FieldOfWords(Codes("ab  \xFE\xFE")), (Field{0, 4}));
-  EXPECT_EQ(FieldOfWords(Codes("\xFE\xFE\xFE ab")), (Field{3, 3}));
-  EXPECT_EQ(FieldOfWords(Codes("\xFE ab \xFE  ")), (Field{1, 4}));
-  EXPECT_EQ(FieldOfWords(Codes("ab cd")), (Field{0, 5}));
+  EXPECT_EQ(FieldOfWords(Codes("ab  \xFE\xFE")), (WordField{0, 4}));
+  EXPECT_EQ(FieldOfWords(Codes("\xFE\xFE\xFE ab")), (WordField{3, 3}));
+  EXPECT_EQ(FieldOfWords(Codes("\xFE ab \xFE  ")), (WordField{1, 4}));
+  EXPECT_EQ(FieldOfWords(Codes("ab cd")), (WordField{0, 5}));
 }
 
 TEST(FieldOfWordsTest, IsNoneWithoutWordsOrWithSeveral) {

@@ -7,7 +7,7 @@
 namespace vendlingua {
 namespace {
 
-std::span<const DisplayCode> CellsOf(std::span<const DisplayCode> text, const Field& field) {
+std::span<const DisplayCode> CellsOf(std::span<const DisplayCode> text, const WordField& field) {
   return text.subspan(field.first, field.cells);
 }
 
