@@ -22,6 +22,7 @@ STANDS_ON = {
     "core/flash": (*FOR_ALL, "core/document", "core/formats"),
     "core/proof": (*FOR_ALL, "core/document"),
     "core/checks": (*FOR_ALL, "core/document", "core/formats"),
+    "core/exchange": (*FOR_ALL, "core/document", "core/formats"),
     "core/presentation": (
         *FOR_ALL,
         "core/document",
@@ -29,6 +30,7 @@ STANDS_ON = {
         "core/operations",
         "core/flash",
         "core/checks",
+        "core/exchange",
     ),
     "core": ("core",),
     "cli": ("core",),

@@ -71,13 +71,14 @@ class Cli:
         self._program = program
         self._user = user
 
-    def run(self, *arguments: str | bytes | Path) -> Result:
-        """Runs one command. A crash, a hang or a finding of a sanitizer fails the test."""
+    def run(self, *arguments: str | bytes | Path, given: bytes = b"") -> Result:
+        """Runs one command with `given` on standard input. A crash, a hang or a finding of a
+        sanitizer fails the test."""
         done = subprocess.run(
             [self._program, *arguments],
             cwd=self._folder,
             user=self._user,
-            stdin=subprocess.DEVNULL,
+            input=given,
             capture_output=True,
             timeout=self.TIMEOUT_SECONDS,
         )
@@ -111,9 +112,9 @@ class CliTest(unittest.TestCase):
         """Names of the files in the folder, sorted."""
         return sorted(path.name for path in self.folder.iterdir())
 
-    def done(self, *arguments: str | bytes | Path) -> Result:
+    def done(self, *arguments: str | bytes | Path, given: bytes = b"") -> Result:
         """Runs a command that must succeed without a word on stderr."""
-        result = self.cli.run(*arguments)
+        result = self.cli.run(*arguments, given=given)
         self.assertEqual((result.status, result.err), (DONE, ""), arguments)
         return result
 
@@ -124,10 +125,10 @@ class CliTest(unittest.TestCase):
         self.assertNotEqual(result.err, "")
         return result
 
-    def refused(self, *arguments: str | bytes | Path) -> Result:
+    def refused(self, *arguments: str | bytes | Path, given: bytes = b"") -> Result:
         """Runs a command that must fail, say why, and leave every file as it was."""
         with self.unchanged(*arguments):
-            result = self.cli.run(*arguments)
+            result = self.cli.run(*arguments, given=given)
         self.assertEqual(result.status, REFUSED, (arguments, result))
         self.assertEqual(result.out, "", arguments)
         self.assertNotEqual(result.err, "", arguments)

@@ -161,7 +161,9 @@ class ApplyTest(CliTest):
     def test_cells_that_the_board_fills_stay(self) -> None:
         self.file.texts = {(0, 1): b"a\xfe\xfe ", (1, 1): b"b\xfe\xfe "}
         self.write("A.MES", self.file.content())
-        self.apply(b"1,,wxyz\r\n")
+        self.write("t.csv", HEADER + b"1,,wxyz\r\n")
+        err = self.done_with_message("apply", "A.MES", "t.csv", "--language=1").err
+        self.assertIn("t.csv, row 2: message 1: the text covers cells 2 to 3, which the board", err)
         self.file.texts[1, 1] = b"w\xfe\xfez"
         self.assertEqual(self.read("A.MES"), self.file.content())
 
@@ -233,6 +235,10 @@ class ApplyTest(CliTest):
             self.assertIn("t.csv: ", self.refused("apply", "A.MES", "t.csv", "--language=1").err)
 
     def test_malformed_utf8_is_refused(self) -> None:
+        self.assertIn("t.csv: line 3 ", self.refused_table("1,,Tè\r\n".encode() + b"2,,T\xe8\r\n"))
+        self.assertIn("t.csv: ends inside", self.refused_table(b"1,,T\xc3"))
+
+    def test_a_text_in_windows_1252_is_measured_as_such(self) -> None:
         self.assertIn("t.csv, row 2: ", self.refused_table(b"1,,Caff\xe8\r\n"))
 
     def test_a_language_that_cannot_be_changed_is_refused(self) -> None:

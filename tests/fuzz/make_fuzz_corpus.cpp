@@ -76,6 +76,41 @@ std::vector<std::string> Languages() {
           "Lin\\nfirst\nline\n\\nfirst\n"};
 }
 
+std::vector<std::string> CsvTables() {
+  const std::string header = "message,origin,text\r\n";
+  std::string utf16 = "\xFF\xFE";
+  for (const char c : header + "1,,\"x\"\r\n") {
+    utf16 += c;
+    utf16 += '\0';
+  }
+  return {header + "0,,xþyþþz\r\n1,,new\r\n2,\"a\"\"b\",60°C\r\n",
+          "\xEF\xBB\xBFmessage;origin;text\r\n0;;\"wxyz;WXYZ\"\r\n9;;x\r\n",
+          "message\torigin\ttext\n1\t\tT\xE8\n1\t\tx\n", header + "1,,\"x\r\n2,,y\r\n", utf16};
+}
+
+std::vector<std::string> XliffTables() {
+  const std::string start =
+      "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<xliff version=\"1.2\" "
+      "xmlns=\"urn:oasis:names:tc:xliff:document:1.2\"><file original=\"a\" "
+      "source-language=\"it\" datatype=\"plaintext\"><body>";
+  const std::string end = "</body></file></xliff>\n";
+  const std::string placeholders = "<x id=\"1\" equiv-text=\"þ\"/>b<x id=\"2\" equiv-text=\"þþ\"/>";
+  const std::string unit = "<trans-unit id=\"0\" resname=\"0\"><source>a" + placeholders +
+                           "</source><target state=\"translated\">x" + placeholders +
+                           "</target><note>n</note></trans-unit>";
+  return {start + unit + end,
+          start +
+              "<group><trans-unit id=\"1\"><source/><target><mrk mtype=\"seg\">a &lt;&#x41F;"
+              "<![CDATA[<b>]]></mrk></target></trans-unit></group>" +
+              end,
+          start +
+              "<trans-unit id=\"3\"><source>a</source><target>b</target><context-group "
+              "name=\"po-reference\"><context>1</context></context-group></trans-unit>" +
+              end,
+          "<!DOCTYPE xliff [<!ENTITY a \"b\">]><xliff version=\"1.2\">&a;</xliff>",
+          start + unit + unit.substr(0, 60)};
+}
+
 std::vector<std::string> WithChoices(std::vector<std::string> files) {
   for (std::string& file : files) {
     file += kChoices;
@@ -93,6 +128,8 @@ void WriteCorpus(const fs::path& folder) {
   Write(folder / "srecord_check", SRecords());
   Write(folder / "section_files", SRecords());
   Write(folder / "flash_compiler", WithChoices(both));
+  Write(folder / "csv_table", CsvTables());
+  Write(folder / "xliff", XliffTables());
 }
 
 }  // namespace

@@ -1,14 +1,16 @@
-#include <charconv>
+#include <fmt/format.h>
+
 #include <iostream>
 #include <memory>
-#include <set>
 #include <string>
-#include <system_error>
 
 #include "cli/commands.h"
-#include "cli/csv_table.h"
 #include "cli/options.h"
-#include "core/platform/files.h"
+#include "cli/standard_streams.h"
+#include "cli/table_files.h"
+#include "cli/table_messages.h"
+#include "core/exchange/read_table.h"
+#include "core/formats/message_texts.h"
 
 namespace vendlingua::cli {
 namespace {
@@ -17,95 +19,138 @@ struct ApplyOptions {
   std::string file;
   std::string language;
   std::string table;
+  std::string folder;  ///< of the tables of all languages
+  bool dry_run = false;
+  bool centre = false;
 };
 
-struct Edit {
-  int message;
-  DisplayCodes text;
+void RequireUsable(const ApplyOptions& options) {
+  if (options.folder.empty() ? options.language.empty() || options.table.empty()
+                             : !options.language.empty() || !options.table.empty()) {
+    throw WrongUsage("give --language and a table, or --all and a folder");
+  }
+}
+
+// A table, the language that it belongs to, and what it changes there.
+struct Application {
+  TableFile table;
+  TranslationPlan plan;
+  std::vector<std::string> warnings;
 };
 
-// Checks a table row by row; what is wrong is collected, so that a translator sees it all at once.
-class TableReader {
- public:
-  TableReader(Session& session, std::string file)
-      : session_(session), set_(session.set()), file_(std::move(file)) {}
-
-  std::vector<Edit> Read() {
-    const std::vector<CsvRow> rows = ParseCsv(file_, ReadFile(file_));
-    if (rows.empty() || rows.front() != CsvHeader()) {
-      throw CommandFailed(file_ + ": the first row must be message,origin,text");
-    }
-    std::vector<Edit> edits;
-    for (row_ = 2; row_ <= rows.size(); ++row_) {
-      if (auto edit = ReadRow(rows[row_ - 1])) {
-        edits.push_back(std::move(*edit));
-      }
-    }
-    if (!problems_.empty()) {
-      throw CommandFailed(problems_ + file_ + ": nothing was changed");
-    }
-    return edits;
+Application PlanOf(const Session& session, const TableFile& table, const ApplyOptions& options) {
+  const std::string name = NameOf(table.path);
+  const TableReading reading = ReadTable(ReadInput(table.path));
+  TranslationPlan plan = PlanTranslation(session.set(), TextsOf(session.set(), table.language),
+                                         reading, session.alphabet(), {.centre = options.centre});
+  if (plan.IsRefused()) {
+    throw CommandFailed(InWords(name, reading.table.format, plan.problems));
   }
-
- private:
-  std::optional<Edit> ReadRow(const CsvRow& row) {
-    if (row.size() != CsvHeader().size()) {
-      return Refuse("has " + std::to_string(row.size()) + " fields instead of 3");
-    }
-    const std::string& number = row[0];
-    Edit edit{0, {}};
-    const char* end = number.data() + number.size();
-    const auto parsed = std::from_chars(number.data(), end, edit.message);
-    if (parsed.ec != std::errc() || parsed.ptr != end || edit.message < 0 ||
-        edit.message > set_.LastMsg) {
-      return Refuse("there is no message \"" + number + "\"");
-    }
-    if (!seen_.insert(edit.message).second) {
-      return Refuse("message " + number + " stands in a row before");
-    }
-    const DrawnText drawn = session_.alphabet().CodesOf(row[2]);
-    if (!drawn.unknown.empty()) {
-      return Refuse("message " + number + ": " + NotDrawn(row[2], drawn.unknown));
-    }
-    const auto text = TrimRight(drawn.codes);
-    if (text.size() > set_.Width()) {
-      return Refuse("message " + number + ": \"" + row[2] + "\" has " +
-                    std::to_string(text.size()) + " cells, at most " +
-                    std::to_string(set_.Width()) + " fit");
-    }
-    edit.text.assign(text.begin(), text.end());
-    return edit;
+  std::vector<std::string> warnings;
+  for (const PlanWarning& warning : plan.warnings) {
+    warnings.push_back(InWords(name, reading.table.format, warning));
   }
+  return {table, std::move(plan), std::move(warnings)};
+}
 
-  std::nullopt_t Refuse(const std::string& reason) {
-    problems_ += file_ + ", row " + std::to_string(row_) + ": " + reason + "\n";
-    return std::nullopt;
+// All tables are read before the first is taken; what is wrong with any of them is told.
+std::vector<Application> PlansOf(const Session& session, const std::vector<TableFile>& tables,
+                                 const ApplyOptions& options) {
+  std::vector<Application> applications;
+  std::string refusals;
+  for (const TableFile& table : tables) {
+    try {
+      applications.push_back(PlanOf(session, table, options));
+    } catch (const CommandFailed& refusal) {
+      refusals += (refusals.empty() ? "" : "\n") + std::string(refusal.what());
+    }
   }
-
-  const Session& session_;
-  const MessageSet& set_;
-  std::string file_;
-  std::size_t row_ = 0;
-  std::set<int> seen_;
-  std::string problems_;
-};
-
-void RunApply(Session& session, const ApplyOptions& options) {
-  session.Open(options.file);
-  const std::vector<Edit> edits = TableReader(session, options.table).Read();
-  const int language = session.FindLanguage(options.language);
-  session.OpenDestination(language, edits.empty() ? 0 : edits.front().message);
-  for (const Edit& edit : edits) {
-    session.set().SetText(static_cast<std::size_t>(edit.message), edit.text);
+  if (!refusals.empty()) {
+    throw CommandFailed(refusals);
   }
-  if (!edits.empty()) {
+  return applications;
+}
+
+void Apply(Session& session, const Application& application, bool dry_run) {
+  const auto& changes = application.plan.changes;
+  session.OpenDestination(application.table.language,
+                          changes.empty() ? 0 : static_cast<int>(changes.front().message));
+  if (!dry_run && !changes.empty()) {
+    ApplyPlan(application.plan, session.set());
     session.Save();
   }
-  session.Print({{"file", options.file},
-                 {"language", language},
-                 {"applied", edits.size()},
-                 {"messages", session.MessagesAsJson()}},
-                std::to_string(edits.size()) + " messages applied\n");
+}
+
+Json AsJson(const Session& session, const Application& application, bool dry_run) {
+  Json json = {{"language", application.table.language},
+               {"applied", dry_run ? 0 : application.plan.changes.size()}};
+  if (dry_run) {
+    json["changes"] = Json::array();
+    for (const PlannedText& text : application.plan.changes) {
+      json["changes"].push_back({{"message", text.message},
+                                 {"old", session.alphabet().TextOf(text.before)},
+                                 {"new", session.alphabet().TextOf(text.after)}});
+    }
+  }
+  if (!application.warnings.empty()) {
+    json["warnings"] = application.warnings;
+  }
+  return json;
+}
+
+std::string Report(const Session& session, const Application& application, bool dry_run) {
+  const auto& changes = application.plan.changes;
+  if (!dry_run) {
+    return fmt::format("{} messages applied\n", changes.size());
+  }
+  std::string report;
+  for (const PlannedText& text : changes) {
+    report += fmt::format("{:>5} |{}|{}|\n", text.message, session.alphabet().TextOf(text.before),
+                          session.alphabet().TextOf(text.after));
+  }
+  return report + fmt::format("{} messages would change\n", changes.size());
+}
+
+void PrintOne(const Session& session, const ApplyOptions& options, const Application& application) {
+  Json json = {{"file", options.file}};
+  json.update(AsJson(session, application, options.dry_run));
+  json["messages"] = session.MessagesAsJson();
+  session.Print(json, Report(session, application, options.dry_run));
+}
+
+void PrintAll(const Session& session, const ApplyOptions& options,
+              const std::vector<Application>& applications) {
+  Json tables = Json::array();
+  std::string report;
+  for (const Application& application : applications) {
+    Json json = {{"table", application.table.path}};
+    json.update(AsJson(session, application, options.dry_run));
+    tables.push_back(json);
+    report += application.table.path + ":\n" + Report(session, application, options.dry_run);
+  }
+  session.Print(
+      {{"file", options.file}, {"tables", tables}, {"messages", session.MessagesAsJson()}}, report);
+}
+
+void RunApply(Session& session, const ApplyOptions& options) {
+  RequireUsable(options);
+  session.Open(options.file);
+  const bool is_one = options.folder.empty();
+  const std::vector<TableFile> tables =
+      is_one ? std::vector{TableFile{options.table, session.FindLanguage(options.language)}}
+             : TablesIn(options.folder, session.set());
+  const std::vector<Application> applications = PlansOf(session, tables, options);
+  for (const Application& application : applications) {
+    for (const std::string& warning : application.warnings) {
+      std::cerr << "vendlingua-cli: warning: " << warning << '\n';
+    }
+    Apply(session, application, options.dry_run);
+  }
+  if (is_one) {
+    PrintOne(session, options, applications.front());
+  } else {
+    PrintAll(session, options, applications);
+  }
 }
 
 }  // namespace
@@ -115,12 +160,22 @@ void AddApply(CLI::App& app, Session& session) {
   CLI::App* command =
       app.add_subcommand("apply", "Take the texts of a table into a language and save the file.");
   command->footer(
-      "A text that is too long or holds a character without a display code refuses the table.\n"
+      "The table is XLIFF, or .csv with commas, semicolons or tabs, in UTF-8, UTF-16 or "
+      "Windows-1252.\n"
+      "A text that is too long or holds a character without a display code refuses the table; a "
+      "text\n"
+      "whose placeholders are the board's is laid out around them.\n"
       "Example: vendlingua-cli apply FW0417AB.MES --language 2 english.csv");
   AddFile(*command, options->file);
-  AddLanguage(*command, options->language);
+  AddLanguage(*command, options->language)->required(false);
   AddDisplay(*command, session);
-  command->add_option("TABLE", options->table, "table as \"export\" writes it")->required();
+  command->add_option("TABLE", options->table,
+                      "table as \"export\" writes it; - is standard input");
+  command->add_option("--all", options->folder,
+                      "folder of tables named by language, instead of --language and TABLE");
+  command->add_flag("--dry-run", options->dry_run, "show old and new texts and change nothing");
+  command->add_flag("--centre", options->centre,
+                    "centre the texts of messages that stand centred in language 0");
   command->callback([&session, options] { RunApply(session, *options); });
 }
 

@@ -30,7 +30,7 @@ constexpr std::array<MarkedKatakana, 2> kMarkedKatakana = {{
     {U'゜', U"パピプペポ", U"ハヒフヘホ"},
 }};
 
-bool IsAscii(std::size_t code) { return code < 0x80; }
+bool IsAsciiCode(std::size_t code) { return code < 0x80; }
 
 // The letter of `from` at the place where `character` stands in `to`; 0 when it is not there.
 char32_t Counterpart(char32_t character, std::u32string_view to, std::u32string_view from) {
@@ -113,7 +113,7 @@ void Alphabet::AddPictures() {
   for (std::size_t code = 0; code < glyphs_.size(); ++code) {
     const char32_t character = glyphs_[code].character;
     const auto found = codes_.find(character);
-    if (character != 0 && (found == codes_.end() || !IsAscii(found->second))) {
+    if (character != 0 && (found == codes_.end() || !IsAsciiCode(found->second))) {
       codes_[character] = static_cast<DisplayCode>(code);
     }
   }

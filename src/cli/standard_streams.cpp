@@ -1,0 +1,43 @@
+#include "cli/standard_streams.h"
+
+#include <array>
+#include <iostream>
+
+#include "cli/session.h"
+#include "core/platform/files.h"
+
+namespace vendlingua::cli {
+namespace {
+
+std::string ReadStandardInput() {
+  std::string content;
+  std::array<char, 64U << 10U> piece{};
+  while (std::cin.read(piece.data(), piece.size()) || std::cin.gcount() > 0) {
+    content.append(piece.data(), static_cast<std::size_t>(std::cin.gcount()));
+    if (content.size() > kMessageFileLimit) {
+      throw CommandFailed("standard input: holds more than " + std::to_string(kMessageFileLimit) +
+                          " bytes");
+    }
+  }
+  return content;
+}
+
+}  // namespace
+
+std::string NameOf(const std::string& file) {
+  return file == kStandardStream ? "standard input" : file;
+}
+
+std::string ReadInput(const std::string& file) {
+  return file == kStandardStream ? ReadStandardInput() : ReadFile(file);
+}
+
+void WriteOutput(const std::string& file, std::string_view content) {
+  if (file != kStandardStream) {
+    WriteFile(file, content);
+  } else if (!(std::cout << content << std::flush)) {
+    throw CommandFailed("standard output cannot be written");
+  }
+}
+
+}  // namespace vendlingua::cli

@@ -1,0 +1,24 @@
+#ifndef VENDLINGUA_CLI_STANDARD_STREAMS_H_
+#define VENDLINGUA_CLI_STANDARD_STREAMS_H_
+
+#include <string>
+#include <string_view>
+
+namespace vendlingua::cli {
+
+/// Stands for standard input or output where a file is named.
+inline constexpr std::string_view kStandardStream = "-";
+
+/// A file as messages name it.
+std::string NameOf(const std::string& file);
+
+/// The content of a file, or all of standard input. Throws CommandFailed or FileError when it
+/// cannot be read or is too large.
+std::string ReadInput(const std::string& file);
+
+/// Writes a file, or to standard output. Throws CommandFailed or FileError.
+void WriteOutput(const std::string& file, std::string_view content);
+
+}  // namespace vendlingua::cli
+
+#endif  // VENDLINGUA_CLI_STANDARD_STREAMS_H_
