@@ -11,7 +11,7 @@ namespace {
 using Cells = std::span<const DisplayCode>;
 
 // Shorter words prove nothing: "n°", "T°".
-constexpr std::size_t kLettersOfAWord = 3;
+constexpr std::size_t kLettersThatProve = 3;
 
 constexpr DisplayCode kWindowsDegreeSign = 0xB0;
 
@@ -70,7 +70,7 @@ bool IsMeantAsLatin(const TwoReadings& text, const Word& word) {
     }
     has_latin = has_latin || text.IsSmallLatinForSure(cell);
   }
-  return has_latin && word.behind - word.first >= kLettersOfAWord;
+  return has_latin && word.behind - word.first >= kLettersThatProve;
 }
 
 // Whether the Windows-1252 letter of the cell fits into a Latin word: a small one that no capital
