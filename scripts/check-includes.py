@@ -23,6 +23,8 @@ STANDS_ON = {
     "core/proof": (*FOR_ALL, "core/document"),
     "core/checks": (*FOR_ALL, "core/document", "core/formats"),
     "core/exchange": (*FOR_ALL, "core/document", "core/formats"),
+    "core/compare": (*FOR_ALL, "core/document", "core/formats"),
+    "core/transfer": (*FOR_ALL, "core/document", "core/formats"),
     "core/presentation": (
         *FOR_ALL,
         "core/document",
@@ -31,6 +33,8 @@ STANDS_ON = {
         "core/flash",
         "core/checks",
         "core/exchange",
+        "core/compare",
+        "core/transfer",
     ),
     "core": ("core",),
     "cli": ("core",),

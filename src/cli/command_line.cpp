@@ -45,12 +45,17 @@ ExitStatus RunCommandLine(Session& session, int argc, const char* const* argv) {
   AddVerify(app, session);
   AddCheck(app, session);
   AddStats(app, session);
+  AddDiff(app, session);
+  AddPretranslate(app, session);
+  AddUpdate(app, session);
+  AddRename(app, session);
+  AddDisplayType(app, session);
   try {
     app.parse(argc, argv);
   } catch (const CLI::ParseError& error) {
     return ExitOf(app, error);
   }
-  return ExitStatus::kDone;
+  return session.status;
 }
 
 }  // namespace vendlingua::cli

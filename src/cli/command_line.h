@@ -5,9 +5,6 @@
 
 namespace vendlingua::cli {
 
-/// What the program tells its caller.
-enum class ExitStatus : int { kDone = 0, kFailed = 1, kWrongUsage = 2 };
-
 /// Parses the command line and runs its command on `session`. Help and wrong usage are printed
 /// here; what a command throws is passed on.
 ExitStatus RunCommandLine(Session& session, int argc, const char* const* argv);

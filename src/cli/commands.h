@@ -51,6 +51,21 @@ void AddCheck(CLI::App& app, Session& session);
 /// Counts what is translated.
 void AddStats(CLI::App& app, Session& session);
 
+/// Compares two message files or two flash files. Throws Trouble instead of anything else.
+void AddDiff(CLI::App& app, Session& session);
+
+/// Fills the messages of a language from an older message file.
+void AddPretranslate(CLI::App& app, Session& session);
+
+/// Makes the ".MES" file of a new firmware with the languages of an older one.
+void AddUpdate(CLI::App& app, Session& session);
+
+/// Gives a language of a ".MES" file another name.
+void AddRename(CLI::App& app, Session& session);
+
+/// Changes the display type that a ".MES" file declares.
+void AddDisplayType(CLI::App& app, Session& session);
+
 }  // namespace vendlingua::cli
 
 #endif  // VENDLINGUA_CLI_COMMANDS_H_

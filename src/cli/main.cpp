@@ -21,6 +21,9 @@ int main(int argc, char** argv) {
   } catch (const cli::WrongUsage& error) {
     PrintError(error);
     status = cli::ExitStatus::kWrongUsage;
+  } catch (const cli::Trouble& error) {
+    PrintError(error);
+    status = cli::kTrouble;
   } catch (const std::exception& error) {
     PrintError(error);
   }

@@ -29,13 +29,17 @@ void AddLanguages(CLI::App& command, const std::string& option,
 }
 
 void AddDisplay(CLI::App& command, Session& session) {
-  static const std::map<std::string, std::size_t> kDisplays = {
-      {"normal", 0}, {"cyrillic", 1}, {"katakana", 2}, {"hebrew", 3}};
   command
       .add_option("--display", session.display,
                   "display whose characters texts are in, instead of the file's")
-      ->transform(CLI::CheckedTransformer(kDisplays, CLI::ignore_case)
-                      .description("normal|cyrillic|katakana|hebrew"));
+      ->transform(DisplayName());
+}
+
+CLI::Validator DisplayName() {
+  static const std::map<std::string, std::size_t> kDisplays = {
+      {"normal", 0}, {"cyrillic", 1}, {"katakana", 2}, {"hebrew", 3}};
+  return CLI::CheckedTransformer(kDisplays, CLI::ignore_case)
+      .description("normal|cyrillic|katakana|hebrew");
 }
 
 CLI::Validator NumberAnswer() {

@@ -28,6 +28,9 @@ void AddLanguages(CLI::App& command, const std::string& option,
 /// The display whose characters texts are read and written in.
 void AddDisplay(CLI::App& command, Session& session);
 
+/// Accepts the name of a display and hands on the number of its type.
+CLI::Validator DisplayName();
+
 /// Accepts a number in decimal, "&H" or "0x" notation and hands it on as the input boxes of the
 /// engine take it: "0x" becomes "&H".
 CLI::Validator NumberAnswer();

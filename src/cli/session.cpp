@@ -7,6 +7,7 @@
 #include <iostream>
 #include <system_error>
 
+#include "core/formats/message_file.h"
 #include "core/operations/interface_language.h"
 #include "core/platform/errors.h"
 #include "core/platform/executable_folder.h"
@@ -36,6 +37,13 @@ std::optional<int> NumberOf(const std::string& text) {
   return parsed.ec == std::errc() && parsed.ptr == end ? std::optional(number) : std::nullopt;
 }
 
+void RequireLanguage(const MessageSet& file, int language) {
+  if (!file.HoldsLanguage(language)) {
+    throw CommandFailed(PathText(file.CurrentFileName) + ": has no language " +
+                        std::to_string(language));
+  }
+}
+
 DisplayCodes InCapitals(const std::string& name) {
   DisplayCodes codes = Alphabet::Of(0).CodesOf(name).codes;
   std::transform(codes.begin(), codes.end(), codes.begin(), ToUpper);
@@ -56,10 +64,8 @@ Session::Session() : engine(dialogs) {
 
 void Session::Open(const std::filesystem::path& file) {
   const std::string type = MessageFileType(file);
-  if (type != kMesType && type != kMsxType) {
-    throw CommandFailed(PathText(file) +
-                        ": is no message file; its name must end in .MES or .MSX and hold no "
-                        "other dot");
+  if (!IsMessageFileType(type)) {
+    throw FileError(file, UiTextId::kNoMessageFile);
   }
   if (type == kMesType && IsAssemblerSource(file)) {
     throw CommandFailed(PathText(file) +
@@ -72,12 +78,16 @@ void Session::Open(const std::filesystem::path& file) {
   }
 }
 
-void Session::OpenDestination(int language, int message) {
+void Session::RequireDestination(int language) const {
   LanguageName(language);
   if (language == 0) {
     throw CommandFailed(PathText(set().CurrentFileName) +
                         ": language 0 is the reference and cannot be changed");
   }
+}
+
+void Session::OpenDestination(int language, int message) {
+  RequireDestination(language);
   if (message < 0 || message > set().LastMsg) {
     throw CommandFailed(PathText(set().CurrentFileName) + ": has no message " +
                         std::to_string(message) + ", they run from 0 to " +
@@ -97,32 +107,12 @@ void Session::Save() {
 }
 
 const std::string& Session::LanguageName(int language) const {
-  if (!set().HoldsLanguage(language)) {
-    throw CommandFailed(PathText(set().CurrentFileName) + ": has no language " +
-                        std::to_string(language));
-  }
+  RequireLanguage(set(), language);
   return set().language_names[static_cast<std::size_t>(language)];
 }
 
 int Session::FindLanguage(const std::string& number_or_name) const {
-  if (const auto number = NumberOf(number_or_name)) {
-    LanguageName(*number);
-    return *number;
-  }
-  const auto& names = set().language_names;
-  const auto is_meant = [meant = InCapitals(number_or_name)](const std::string& name) {
-    return InCapitals(name) == meant;
-  };
-  const auto found = std::find_if(names.begin(), names.end(), is_meant);
-  if (found == names.end()) {
-    throw CommandFailed(PathText(set().CurrentFileName) + ": has no language \"" + number_or_name +
-                        "\"");
-  }
-  if (std::any_of(found + 1, names.end(), is_meant)) {
-    throw CommandFailed(PathText(set().CurrentFileName) + ": has several languages \"" +
-                        number_or_name + "\"; give the number");
-  }
-  return static_cast<int>(found - names.begin());
+  return cli::FindLanguage(set(), number_or_name);
 }
 
 DisplayCodes Session::CodesOf(const std::string& utf8) const {
@@ -149,6 +139,27 @@ Json Session::MessagesAsJson() const {
         {{"icon", IconName(message.icon)}, {"title", message.title}, {"text", message.text}});
   }
   return messages;
+}
+
+int FindLanguage(const MessageSet& file, const std::string& number_or_name) {
+  if (const auto number = NumberOf(number_or_name)) {
+    RequireLanguage(file, *number);
+    return *number;
+  }
+  const auto& names = file.language_names;
+  const auto is_meant = [meant = InCapitals(number_or_name)](const std::string& name) {
+    return InCapitals(name) == meant;
+  };
+  const auto found = std::find_if(names.begin(), names.end(), is_meant);
+  if (found == names.end()) {
+    throw CommandFailed(PathText(file.CurrentFileName) + ": has no language \"" + number_or_name +
+                        "\"");
+  }
+  if (std::any_of(found + 1, names.end(), is_meant)) {
+    throw CommandFailed(PathText(file.CurrentFileName) + ": has several languages \"" +
+                        number_or_name + "\"; give the number");
+  }
+  return static_cast<int>(found - names.begin());
 }
 
 void RefuseToOverwrite(const std::filesystem::path& input, const std::filesystem::path& output) {

@@ -16,6 +16,12 @@ namespace vendlingua::cli {
 
 using Json = nlohmann::ordered_json;
 
+/// What the program tells its caller.
+enum class ExitStatus : int { kDone = 0, kFailed = 1, kWrongUsage = 2 };
+/// What a comparison tells: 0 when there is no difference, 2 when it could not be made.
+inline constexpr ExitStatus kDifferent = ExitStatus::kFailed;
+inline constexpr ExitStatus kTrouble = ExitStatus::kWrongUsage;
+
 /// Why a command was refused or failed: exit status 1, the reason on stderr.
 class CommandFailed : public std::runtime_error {
  public:
@@ -28,6 +34,12 @@ class WrongUsage : public std::runtime_error {
   using std::runtime_error::runtime_error;
 };
 
+/// Why a comparison could not be made: exit status 2, because 1 says that the files differ.
+class Trouble : public std::runtime_error {
+ public:
+  using std::runtime_error::runtime_error;
+};
+
 /// One run of the program: the engine, the dialogs that answer it, and the output.
 class Session {
  public:
@@ -36,16 +48,23 @@ class Session {
   CliDialogs dialogs;
   Engine engine;
   bool json_output = false;
-  std::optional<std::size_t> display;  ///< overrules the display type of the file
+  std::optional<std::size_t> display;     ///< overrules the display type of the file
+  ExitStatus status = ExitStatus::kDone;  ///< of a command that came to its end
 
   MessageSet& set() { return engine.workspace.set; }
   const MessageSet& set() const { return engine.workspace.set; }
 
-  /// What texts are read and written in.
-  const Alphabet& alphabet() const { return Alphabet::Of(display.value_or(set().DisplayType)); }
+  /// What texts are read and written in: those of the open file, or of another one.
+  const Alphabet& alphabet() const { return AlphabetFor(set()); }
+  const Alphabet& AlphabetFor(const MessageSet& file) const {
+    return Alphabet::Of(display.value_or(file.DisplayType));
+  }
 
   /// Opens a message file. Throws CommandFailed or Error when it is none.
   void Open(const std::filesystem::path& file);
+
+  /// Throws CommandFailed when language `language` is not there or cannot be changed.
+  void RequireDestination(int language) const;
 
   /// Opens language `language` as destination with message `message` as the current one, and entry
   /// 0 as origin.
@@ -59,7 +78,7 @@ class Session {
   const std::string& LanguageName(int language) const;
 
   /// The number of the language that goes by this number or, without regard to case, by this name.
-  /// Throws CommandFailed when the file has none, or several of the name.
+  /// Throws CommandFailed when the open file has none, or several of the name.
   int FindLanguage(const std::string& number_or_name) const;
 
   /// UTF-8 text as display codes. Throws CommandFailed, which names them all, when the display
@@ -72,6 +91,9 @@ class Session {
   /// The message boxes so far, for the JSON output.
   Json MessagesAsJson() const;
 };
+
+/// The same of any file.
+int FindLanguage(const MessageSet& file, const std::string& number_or_name);
 
 /// Throws CommandFailed when `output` is the file `input`, which it would overwrite.
 void RefuseToOverwrite(const std::filesystem::path& input, const std::filesystem::path& output);

@@ -36,6 +36,11 @@ COMMANDS = (
     "verify",
     "check",
     "stats",
+    "diff",
+    "pretranslate",
+    "update",
+    "rename",
+    "display-type",
 )
 
 DONE = 0

@@ -64,6 +64,11 @@ MES_READERS = [
         ("export", "A.MES", "--language=2", "--output=out.csv"),
         ("apply", "A.MES", "good.csv", "--language=2"),
         ("compile", "A.MES", "--languages=1,2", "--output=FW0417AB.MHX"),
+        ("pretranslate", "A.MES", "--language=2", "--from=good.MES"),
+        ("pretranslate", "good.MES", "--language=2", "--from=A.MES"),
+        ("update", "good.src", "--from=A.MES", "--language-message=1", "--output=OUT.MES"),
+        ("rename", "A.MES", "--language=2", "--name=NEW"),
+        ("display-type", "A.MES", "cyrillic"),
         ("verify", "A.MES"),
     )
 ]
@@ -75,6 +80,7 @@ MSX_READERS = [
         ("put", "A.MSX", "--language=1", "--message=1", "--text=new"),
         ("export", "A.MSX", "--language=1", "--output=out.csv"),
         ("apply", "A.MSX", "good.csv", "--language=1"),
+        ("pretranslate", "A.MSX", "--language=1", "--from=good.MES", "--from-language=1"),
         ("compile", "A.MSX", "--output=P.MHX"),
         ("verify", "A.MSX"),
     )
@@ -107,6 +113,7 @@ class BadInputCase(CliTest):
             shutil.rmtree(path) if path.is_dir() and not path.is_symlink() else path.unlink()
         self.write("good.MES", MES.content())
         self.write("good.csv", TABLE)
+        self.write("good.src", SOURCE)
         if content is not None:
             self.write(reader.file, content)
 
@@ -220,7 +227,8 @@ class LockedFileTest(BadInputCase):
 
     def test_a_file_that_may_not_be_written(self) -> None:
         for reader in READERS:
-            if reader.arguments[0] in ("put", "new-language", "apply") and reader is not APPLY:
+            writers = ("put", "new-language", "apply", "rename", "display-type")
+            if reader.arguments[0] in writers and reader is not APPLY:
                 self.prepare(reader, reader.content)
                 (self.folder / reader.file).chmod(0o444)
                 self.assert_refused(reader)
@@ -291,6 +299,13 @@ class CutFileTest(BadInputCase):
         def whole_blocks(size: int) -> bool:
             return any(MES.at(k, 3) <= size <= MES.block(k + 1) for k in range(3))
 
+        def whole_names_and_messages(size: int) -> bool:
+            """The first two languages are there, and the last name makes no difference."""
+            first = MES.at(1, 0)
+            if size < last_block:
+                return size >= first and (size >= MES.at(1, 3) or (size - first) % MES.width == 0)
+            return between_messages(size)
+
         rules: dict[str, Callable[[int], bool]] = {
             "info": lambda size: size >= first_name,
             # The last block of a file may hold fewer messages than the others: those that were
@@ -302,6 +317,10 @@ class CutFileTest(BadInputCase):
             "apply": between_messages,
             # There 0 stands for them.
             "compile": lambda size: size >= last_block,
+            "pretranslate": between_messages,
+            "update": whole_names_and_messages,
+            "rename": lambda size: size >= last_block,
+            "display-type": lambda size: size >= first_name,
             "verify": whole_blocks,
         }
         for reader in MES_READERS:
@@ -324,7 +343,7 @@ class CutFileTest(BadInputCase):
             if size < 20 or name < size < name + data_end:
                 yield from ("info", "compile")
             if size < last + data_end:
-                yield from ("texts", "export", "put", "apply")
+                yield from ("texts", "export", "put", "apply", "pretranslate")
             if size < head + 44 or inside_a_line(size):
                 yield "verify"
 

@@ -223,6 +223,8 @@ class MadeSamplesTest(CliTest):
         self.done(*examples.pop("import"))
         make_samples(self.folder)
         # What one of them reads, another one before it makes.
+        for command in ("update", "diff", "pretranslate", "display-type"):
+            self.done(*examples.pop(command))
         self.done(*examples.pop("export"))
         for command in (
             "check",
@@ -234,6 +236,7 @@ class MadeSamplesTest(CliTest):
             "info",
             "compile",
             "proof",
+            "rename",
         ):
             self.done(*examples.pop(command))
         self.done(*examples.pop("sections"))

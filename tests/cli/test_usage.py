@@ -30,6 +30,11 @@ COMPLETE = {
     "compile": ["A.MES", "--languages=1,2", "--output=FW0417AB.HEX"],
     "sections": ["A.MHX"],
     "verify": ["A.MES"],
+    "diff": ["A.MES", "A.MES"],
+    "pretranslate": ["A.MES", "--language=1", "--from=A.MES"],
+    "update": ["a.src", "--from=A.MES", "--output=NEW.MES"],
+    "rename": ["A.MES", "--language=1", "--name=NEW"],
+    "display-type": ["A.MES", "normal"],
 }
 
 

@@ -91,6 +91,8 @@ std::string SourceLines(std::size_t count, std::string_view text) {
 
 DisplayCodes Codes(std::string_view bytes) { return {bytes.begin(), bytes.end()}; }
 
+DisplayText TextFrom(std::string_view bytes) { return DisplayText(Codes(bytes)); }
+
 std::string Text(std::span<const DisplayCode> codes) { return {codes.begin(), codes.end()}; }
 
 }  // namespace vendlingua::test

@@ -6,7 +6,7 @@
 #include <string_view>
 #include <vector>
 
-#include "core/document/display_code.h"
+#include "core/document/display_text.h"
 
 namespace vendlingua::test {
 
@@ -62,6 +62,9 @@ std::string SourceLines(std::size_t count, std::string_view text);
 
 /// ASCII or byte text as display codes.
 DisplayCodes Codes(std::string_view bytes);
+
+/// The same as a text of a set.
+DisplayText TextFrom(std::string_view bytes);
 
 /// Display codes as byte text, to compare with.
 std::string Text(std::span<const DisplayCode> codes);

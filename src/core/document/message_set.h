@@ -43,6 +43,10 @@ inline constexpr std::string_view kMsxType = ".MSX";
 inline constexpr std::size_t kLanguageEntries = 101;
 /// The number that a new destination language goes by until it is saved: above all others.
 inline constexpr int kNewLanguage = 101;
+/// Language slots of a ".MSX" file, whatever it holds. A language has as many messages as the
+/// built-in table, and as wide ones.
+inline constexpr int kMsxLanguages = 9;
+
 /// The name of the built-in table.
 inline constexpr std::string_view kBuiltInLanguage = "Italiano";
 
@@ -137,6 +141,9 @@ struct MessageSet {
   /// is made anew when this number has changed.
   std::uint32_t OpenedFiles = 0;
 
+  /// Language slots of the message memory, which a ".MSX" file does not declare, and bytes of each.
+  std::size_t SlotCount() const { return IsMsx() ? std::size_t{kMsxLanguages} : LangCount; }
+  std::size_t SlotLength() const { return MemLength / SlotCount(); }
   /// Message width in cells.
   std::size_t Width() const { return std::size_t{LastCol} + 1; }
   std::size_t MessageCount() const { return std::size_t{LastMsg} + 1; }
@@ -216,10 +223,6 @@ struct MessageSet {
 /// Message slots of one language in a ".MES" file. Throws Error when `lang_count` or `width` is 0,
 /// or when the result does not fit 16 bits.
 std::uint16_t MesLangStride(std::uint32_t mem_length, std::uint32_t lang_count, std::size_t width);
-
-/// Language slots of a ".MSX" file, whatever it holds. A language has as many messages as the
-/// built-in table, and as wide ones.
-inline constexpr int kMsxLanguages = 9;
 
 /// Message slots of one language in a ".MSX" file: nine slots of 16-byte records, whatever it
 /// holds.

@@ -5,6 +5,7 @@
 #include <array>
 #include <memory>
 
+#include "core/exchange/csv_row.h"
 #include "core/exchange/table_rows.h"
 
 namespace vendlingua {
@@ -19,16 +20,6 @@ constexpr std::string_view kSeparators = ",;\t";
 // What a message can need by far; a field without its closing quote takes in the rest of the file.
 constexpr std::size_t kLongestField = 4096;
 constexpr std::size_t kSliceBytes = std::size_t{64} << 10U;
-
-void AppendRow(const Fields& row, std::string& out) {
-  for (std::size_t i = 0; i < row.size(); ++i) {
-    const std::string& field = row[i];
-    std::string quoted(2 * field.size() + 2, '\0');
-    quoted.resize(csv_write(quoted.data(), quoted.size(), field.data(), field.size()));
-    out += (i == 0 ? "" : ",") + quoted;
-  }
-  out += "\r\n";
-}
 
 int IsNoSpace(unsigned char /*character*/) { return 0; }
 
@@ -145,9 +136,10 @@ class CsvReader {
 
 std::string WriteCsv(const TranslationTable& table) {
   std::string content;
-  AppendRow(kHeader, content);
+  AppendCsvRow(kHeader, content);
   for (const TranslationRow& row : table.rows) {
-    AppendRow({std::to_string(row.message), FlatText(row.origin), FlatText(row.text)}, content);
+    AppendCsvRow(Fields{std::to_string(row.message), FlatText(row.origin), FlatText(row.text)},
+                 content);
   }
   return content;
 }

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <optional>
+#include <ranges>
 #include <string>
 #include <utility>
 
@@ -103,9 +104,9 @@ class Planner {
   // What is left of a message's text without the elements that stand for the board's cells.
   static DisplayCodes WithoutBoardCells(const Message& message) {
     DisplayCodes cells(message.present.begin(), message.present.end());
-    for (auto range = message.board.rbegin(); range != message.board.rend(); ++range) {
-      const auto first = cells.begin() + static_cast<std::ptrdiff_t>(range->first);
-      cells.erase(first, first + static_cast<std::ptrdiff_t>(range->count));
+    for (const CellRange& range : std::views::reverse(message.board)) {
+      const auto first = cells.begin() + static_cast<std::ptrdiff_t>(range.first);
+      cells.erase(first, first + static_cast<std::ptrdiff_t>(range.count));
     }
     return LooseText(cells).WithoutPlaceholders();
   }

@@ -12,8 +12,6 @@ namespace {
 
 constexpr std::size_t kMaxNames = 20;
 
-std::size_t SlotLength(const MessageSet& set) { return set.MemLength / set.LangCount; }
-
 // Messages 0 to `LastMsg` of a language, one behind the other, as far as the file holds them.
 std::string_view MessagesOf(const MessageSet& set, std::string_view mes_content, int language) {
   const auto offset = static_cast<std::size_t>(MesMessageOffset(set, language, 0));
@@ -47,13 +45,13 @@ std::vector<int> FlashImage::Pack(const MessageSet& set, std::string_view mes_co
                                   std::span<const int> languages) {
   const std::size_t language_bytes = set.MessageCount() * set.Width();
   if (!languages.empty()) {
-    RequireInside((languages.size() - 1) * SlotLength(set) + language_bytes,
+    RequireInside((languages.size() - 1) * set.SlotLength() + language_bytes,
                   UiTextId::kMessagesOutsideImage);
   }
   std::vector<int> short_languages;
   for (std::size_t slot = 0; slot < languages.size(); ++slot) {
     const std::string_view messages = MessagesOf(set, mes_content, languages[slot]);
-    const auto slot_bytes = std::span(bytes_).subspan(slot * SlotLength(set), language_bytes);
+    const auto slot_bytes = std::span(bytes_).subspan(slot * set.SlotLength(), language_bytes);
     const auto end =
         std::transform(messages.begin(), messages.end(), slot_bytes.begin(), PackedByte);
     std::fill(end, slot_bytes.end(), std::uint8_t{0});
@@ -71,7 +69,7 @@ void FlashImage::WriteLanguageNames(const MessageSet& set) {
     throw Error(UiTextId::kTooManySlotsForNames, kMaxNames, slots);
   }
   const auto list_offset = [&](std::size_t slot) {
-    return slot * SlotLength(set) + width * set.HeaderCount;
+    return slot * set.SlotLength() + width * set.HeaderCount;
   };
   RequireInside(list_offset(slots - 1) + slots * width, UiTextId::kNamesOutsideImage);
   std::vector<std::uint8_t> names;

@@ -2,6 +2,8 @@
 
 #include <fmt/format.h>
 
+#include <algorithm>
+
 #include "core/document/name_field.h"
 #include "core/formats/hex.h"
 #include "core/platform/errors.h"
@@ -40,6 +42,12 @@ MesHeader ParseMesHeader(std::string_view content) {
   header.mem_start = HeaderField(content, kMesMemStart);
   header.mem_length = HeaderField(content, kMesMemLength);
   return header;
+}
+
+std::uint8_t MesFlags(const MessageSet& set, std::size_t display_type) {
+  const std::size_t stored = display_type < kStoredDisplayTypes ? display_type : 0;
+  return static_cast<std::uint8_t>(4 * stored + (set.HeaderBit1 != kFalse ? 2U : 0U) +
+                                   (set.HeaderBit0 != kFalse ? 1U : 0U));
 }
 
 std::string FormatMesHeader(const MessageSet& set, std::uint8_t flags) {
@@ -87,21 +95,29 @@ std::vector<std::string> ReadMesNames(const MessageSet& set, std::string_view co
   return names;
 }
 
-MessageTexts ReadMesTexts(const MessageSet& set, int language) {
-  const std::string content = ReadFile(set.CurrentFileName);
-  MessageTexts texts(set.MessageCount());
-  for (std::size_t message = 0; message < set.MessageCount(); ++message) {
-    const auto offset = static_cast<std::size_t>(MesMessageOffset(set, language, message));
-    if (offset >= content.size()) {
-      continue;
-    }
-    const std::string_view bytes = std::string_view(content).substr(offset, set.Width());
-    if (bytes.size() < set.Width()) {
-      throw FileError(set.CurrentFileName, UiTextId::kEndsInsideMessage, message, language);
-    }
-    texts[message] = DisplayText(CodesFromBytes(bytes));
+DisplayCodes MesCells(const MessageSet& set, std::string_view content, int language) {
+  const auto offset = static_cast<std::size_t>(MesMessageOffset(set, language, 0));
+  const std::size_t size = set.MessageCount() * set.Width();
+  const std::string_view bytes = content.substr(std::min(offset, content.size()), size);
+  if (bytes.size() % set.Width() != 0) {
+    throw FileError(set.CurrentFileName, UiTextId::kEndsInsideMessage, bytes.size() / set.Width(),
+                    language);
+  }
+  return FitTo(CodesFromBytes(bytes), size);
+}
+
+MessageTexts MesTexts(const MessageSet& set, std::string_view content, int language) {
+  const DisplayCodes cells = MesCells(set, content, language);
+  MessageTexts texts;
+  texts.reserve(set.MessageCount());
+  for (std::size_t start = 0; start < cells.size(); start += set.Width()) {
+    texts.emplace_back(std::span(cells).subspan(start, set.Width()));
   }
   return texts;
+}
+
+MessageTexts ReadMesTexts(const MessageSet& set, int language) {
+  return MesTexts(set, ReadFile(set.CurrentFileName), language);
 }
 
 }  // namespace vendlingua

@@ -29,6 +29,10 @@ struct MesHeader {
 /// not hexadecimal.
 MesHeader ParseMesHeader(std::string_view content);
 
+/// The flags of a header that declares `display_type`. Type 3 is stored as 0: boards in the field
+/// expect the file so.
+std::uint8_t MesFlags(const MessageSet& set, std::size_t display_type);
+
 /// The 24 bytes of a header with the dimensions of `set` and the given flags. Of `MemLength` only
 /// the low 16 bits fit.
 std::string FormatMesHeader(const MessageSet& set, std::uint8_t flags);
@@ -45,9 +49,16 @@ void ApplyMesHeader(const MesHeader& header, MessageSet& set);
 /// The names of blocks 0, 1, 2, ... as captions, up to the end of the file and at most 101.
 std::vector<std::string> ReadMesNames(const MessageSet& set, std::string_view content);
 
-/// Messages 0 to `LastMsg` of block `language` of `CurrentFileName`. A message that lies wholly
-/// behind the end of the file reads as blanks: the last block of a file ends with the last message
-/// that was saved into it. Throws FileError when the file cannot be read or ends inside a message.
+/// Messages 0 to `LastMsg` of block `language` of the file whose content is given, one behind the
+/// other. A message that lies wholly behind the end of the file reads as blanks: the last block of
+/// a file ends with the last message that was saved into it. Throws FileError when the file ends
+/// inside a message.
+DisplayCodes MesCells(const MessageSet& set, std::string_view content, int language);
+
+/// The same as texts of a set.
+MessageTexts MesTexts(const MessageSet& set, std::string_view content, int language);
+
+/// The same of `CurrentFileName`. Throws FileError when it cannot be read, too.
 MessageTexts ReadMesTexts(const MessageSet& set, int language);
 
 }  // namespace vendlingua

@@ -33,6 +33,9 @@ inline constexpr MesField kMesLastMsg{"LastMsg", 8, 4};
 inline constexpr MesField kMesMemStart{"MemStart", 12, 8};
 inline constexpr MesField kMesMemLength{"MemLength", 20, 4};
 
+/// Display types below this one can be stored.
+inline constexpr std::size_t kStoredDisplayTypes = 3;
+
 /// The name of block 0.
 inline constexpr std::string_view kReferenceName = "Default";
 

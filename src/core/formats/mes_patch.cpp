@@ -64,6 +64,11 @@ std::vector<FilePatch> BuildMesPatch(const MessageSet& set, int language, const 
           {MesBlockOffset(set, language), std::move(block)}};
 }
 
+FilePatch BuildFlagsPatch(const MessageSet& set, std::uint8_t flags, std::uintmax_t file_size) {
+  RequireHeader(set, file_size);
+  return HeaderPatch(kMesFlags, flags);
+}
+
 std::string BuildNewMes(const MessageSet& set, const std::optional<NameField>& name,
                         std::uint8_t flags) {
   const std::string messages = OriginMessages(set);

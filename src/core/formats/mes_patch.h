@@ -20,6 +20,9 @@ namespace vendlingua {
 std::vector<FilePatch> BuildMesPatch(const MessageSet& set, int language, const NameField& name,
                                      std::uint8_t flags, std::uintmax_t file_size);
 
+/// What giving the file other flags changes in it. Throws FileError when it has lost its header.
+FilePatch BuildFlagsPatch(const MessageSet& set, std::uint8_t flags, std::uintmax_t file_size);
+
 /// The content of a new ".MES" file: the header, the reference block with the origin texts, and a
 /// first language that is a copy of it under `name`; where there is no name, nothing stands in its
 /// place. Message slots that the set has no text for are blank.

@@ -82,8 +82,7 @@ std::size_t MsxLinesBefore(const MessageSet& set, int language) {
   return 1 + static_cast<std::size_t>(std::max(language - 1, 0)) * set.LangStride;
 }
 
-MessageTexts ReadMsxTexts(const MessageSet& set, int language) {
-  const std::string content = ReadFile(set.CurrentFileName);
+MessageTexts MsxTexts(const MessageSet& set, std::string_view content, int language) {
   TextLines lines(content);
   lines.Skip(MsxLinesBefore(set, language));
   MessageTexts texts(set.MessageCount());
@@ -96,6 +95,10 @@ MessageTexts ReadMsxTexts(const MessageSet& set, int language) {
     texts[message] = DisplayText(DecodeMessage(set, line->text, lines.count()));
   }
   return texts;
+}
+
+MessageTexts ReadMsxTexts(const MessageSet& set, int language) {
+  return MsxTexts(set, ReadFile(set.CurrentFileName), language);
 }
 
 }  // namespace vendlingua

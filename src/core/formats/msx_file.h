@@ -30,8 +30,11 @@ bool IsMsxHeader(std::string_view first_line);
 std::optional<std::vector<std::string>> ReadMsxNames(const MessageSet& set,
                                                      std::string_view content);
 
-/// Messages 0 to `LastMsg` of language `language` (counted from 1) of `CurrentFileName`.
-/// Throws FileError when the file cannot be read, a line is missing or a line holds no message.
+/// Messages 0 to `LastMsg` of language `language` (counted from 1) of the file whose content is
+/// given. Throws FileError when a line is missing or holds no message.
+MessageTexts MsxTexts(const MessageSet& set, std::string_view content, int language);
+
+/// The same of `CurrentFileName`. Throws FileError when it cannot be read, too.
 MessageTexts ReadMsxTexts(const MessageSet& set, int language);
 
 /// The number of lines before the first message line of `language`; language 0, which a ".MSX" file

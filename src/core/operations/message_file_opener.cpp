@@ -1,25 +1,9 @@
 #include "core/operations/message_file_opener.h"
 
-#include "core/formats/mes_file.h"
+#include "core/formats/message_file.h"
 #include "core/platform/errors.h"
-#include "core/platform/files.h"
-#include "core/texts/ascii_case.h"
 
 namespace vendlingua {
-
-std::string MessageFileType(const std::filesystem::path& path) {
-  std::string name = PathText(path.filename());
-  const std::size_t dot = name.find('.');
-  return dot == std::string::npos ? "" : UpperCase(name.substr(dot));
-}
-
-bool IsAssemblerSource(const std::filesystem::path& path) {
-  const std::string content = ReadFile(path);
-  if (content.empty()) {
-    throw FileError(path, UiTextId::kFileIsEmpty);
-  }
-  return static_cast<std::uint8_t>(content.front()) >= kFirstSourceByte;
-}
 
 MessageFileOpener::MessageFileOpener(Workspace& workspace, Dialogs& dialogs,
                                      MessageFileReader& reader, MessageFileWriter& writer,

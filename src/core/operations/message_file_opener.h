@@ -12,15 +12,6 @@
 
 namespace vendlingua {
 
-/// The type of a message file: its name from the first dot on, in upper case. "TEST.MSX.MES" has
-/// the type ".MSX.MES", which is none.
-std::string MessageFileType(const std::filesystem::path& path);
-
-/// Whether a file that is chosen as ".MES" is an assembler source: its first byte, which is the
-/// number of languages of a binary file, is 32 or more. Throws FileError when it cannot be read or
-/// is empty.
-bool IsAssemblerSource(const std::filesystem::path& path);
-
 /// How File, Open ended.
 enum class OpenOutcome {
   kOpened,

@@ -1,9 +1,6 @@
 #ifndef VENDLINGUA_CORE_OPERATIONS_MESSAGE_FILE_READER_H_
 #define VENDLINGUA_CORE_OPERATIONS_MESSAGE_FILE_READER_H_
 
-#include <string>
-#include <vector>
-
 #include "core/document/workspace.h"
 #include "core/platform/dialogs.h"
 
@@ -29,9 +26,6 @@ class MessageFileReader {
 
  private:
   void Reset();
-  void ReloadMes();
-  bool ReloadMsx();
-  void Take(std::vector<std::string> names, std::string content);
 
   Workspace& workspace_;
   Dialogs& dialogs_;

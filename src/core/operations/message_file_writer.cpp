@@ -4,6 +4,7 @@
 #include <string_view>
 #include <system_error>
 
+#include "core/formats/mes_file.h"
 #include "core/formats/mes_layout.h"
 #include "core/formats/mes_patch.h"
 #include "core/formats/msx_lines.h"
@@ -115,15 +116,10 @@ bool MessageFileWriter::NameIsTaken(const NameField& name) const {
   return !names.empty() && std::find(names.begin() + 1, names.end(), name.Caption()) != names.end();
 }
 
-// Display type 3, and any type while no destination is open, is stored as 0: boards in the field
-// expect the file so.
+// Any display type is stored as 0 while no destination is open.
 std::uint8_t MessageFileWriter::HeaderFlags() const {
-  constexpr std::size_t kStoredTypes = 3;
   const MessageSet& set = workspace_.set;
-  const bool stored = set.DestinationIsOpen() && set.DisplayType < kStoredTypes;
-  const std::size_t type = stored ? set.DisplayType : 0;
-  return static_cast<std::uint8_t>(4 * type + (set.HeaderBit1 != kFalse ? 2U : 0U) +
-                                   (set.HeaderBit0 != kFalse ? 1U : 0U));
+  return MesFlags(set, set.DestinationIsOpen() ? set.DisplayType : 0);
 }
 
 // Empty when nothing was chosen.

@@ -11,23 +11,14 @@
 namespace vendlingua {
 namespace {
 
-bool NameIsTaken(const MessageSet& set, std::size_t language, const NameField& name) {
-  for (std::size_t i = 1; i < set.language_names.size(); ++i) {
-    if (i != language && set.language_names[i] == name.Caption()) {
-      return true;
-    }
-  }
-  return false;
-}
-
 // Nothing when the user gave no name.
-std::optional<NameField> AskName(const Workspace& workspace, Dialogs& dialogs,
-                                 std::size_t language) {
+std::optional<NameField> AskName(const Workspace& workspace, Dialogs& dialogs, int language) {
   const UiText& ui_text = workspace.ui_text;
+  const std::string& old_name = workspace.set.language_names.at(static_cast<std::size_t>(language));
   for (;;) {
-    const std::string answer = dialogs.InputBox(
-        {InputPurpose::kRenamedLanguageName, ui_text[UiTextId::kRenamePrompt],
-         ui_text[UiTextId::kRenameTitle], workspace.set.language_names.at(language)});
+    const std::string answer =
+        dialogs.InputBox({InputPurpose::kRenamedLanguageName, ui_text[UiTextId::kRenamePrompt],
+                          ui_text[UiTextId::kRenameTitle], old_name});
     try {
       const NameField name = NameField::FromAnswer(answer);
       if (name.IsBlank()) {
@@ -58,21 +49,32 @@ void WriteNames(MessageSet& set) {
 
 }  // namespace
 
+bool NameIsTaken(const MessageSet& set, int language, const NameField& name) {
+  for (std::size_t i = 1; i < set.language_names.size(); ++i) {
+    if (i != static_cast<std::size_t>(language) && set.language_names[i] == name.Caption()) {
+      return true;
+    }
+  }
+  return false;
+}
+
+void RenameLanguage(MessageSet& set, int language, const NameField& name) {
+  set.language_names.at(static_cast<std::size_t>(language)) = name.Caption();
+  set.LangStride = MesLangStride(set.MemLength, set.LangCount, set.Width());
+  set.BlockLength = MesBlockLength(set.LastCol, set.LangStride);
+  WriteNames(set);
+}
+
 void RenameLanguage(Workspace& workspace, Dialogs& dialogs, int language) {
-  const auto index = static_cast<std::size_t>(language);
   const UiText& ui_text = workspace.ui_text;
-  const auto name = AskName(workspace, dialogs, index);
+  const auto name = AskName(workspace, dialogs, language);
   if (!name || dialogs.MessageBox({MessageIcon::kQuestion, ui_text[UiTextId::kRenameQuestion],
                                    ui_text[UiTextId::kRenameTitle], MessageButtons::kYesNo}) !=
                    MessageAnswer::kYes) {
     return;
   }
-  MessageSet& set = workspace.set;
-  set.language_names[index] = name->Caption();
-  set.LangStride = MesLangStride(set.MemLength, set.LangCount, set.Width());
-  set.BlockLength = MesBlockLength(set.LastCol, set.LangStride);
   try {
-    WriteNames(set);
+    RenameLanguage(workspace.set, language, *name);
   } catch (const FileError&) {
     dialogs.MessageBox({MessageIcon::kCritical,
                         "File Error: This file is only reading!\nPlease change the property File",

@@ -140,6 +140,11 @@ enum class UiTextId : std::size_t {
   kIsFlashFile,
   kIsIdentifiedCopy,
   kIsReadFile,
+  kNoMessageFile = 149,
+  kIsASource,
+  kFirmwareNotManaged,
+  kHebrewNotStored,
+  kNoDisplayTypeInMsx,
 };
 
 }  // namespace vendlingua

@@ -76,5 +76,35 @@ TEST_F(LanguageTexts, CannotBeReadFromAFileThatWasCut) {
   EXPECT_THROW(Read(1), FileError);
 }
 
+TEST_F(LanguageTexts, ComeFromAContentThatIsGiven) {
+  Open("FILE.MES", MesFile().Bytes());
+  MesFile other;
+  other.names = {"Default", "ITALIANO", "ENGLISH"};
+  EXPECT_EQ(Text(TextsOf(set_, other.Bytes(), 2).at(1).First(4)), "2111");
+}
+
+TEST_F(LanguageTexts, CanBeHadWithAllTheirCells) {
+  MesFile mes;
+  mes.width = 50;
+  Open("FILE.MES", mes.Bytes());
+  EXPECT_EQ(Text(CellsOf(set_, set_.file_content, 1)),
+            mes.Message(1, 0) + mes.Message(1, 1) + mes.Message(1, 2));
+}
+
+TEST_F(LanguageTexts, OfAnMsxFileCanBeHadWithAllTheirCells) {
+  Open("FILE.MSX", MsxFile(2));
+  const DisplayCodes cells = CellsOf(set_, set_.file_content, 2);
+  EXPECT_EQ(cells.size(), 455U * 16);
+  EXPECT_EQ(Text(std::span(cells).subspan(454 * 16)), MsxMessage(2, 454));
+}
+
+TEST_F(LanguageTexts, AreBlankBehindTheEndOfTheFile) {
+  const std::string content = MesFile().Bytes();
+  Open("FILE.MES", content);
+  // The last block ends behind its first message.
+  const std::string cut = content.substr(0, content.size() - 3 * 4);
+  EXPECT_EQ(Text(CellsOf(set_, cut, 1)), "1000        ");
+}
+
 }  // namespace
 }  // namespace vendlingua

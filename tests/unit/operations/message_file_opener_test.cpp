@@ -74,35 +74,6 @@ class MessageFileOpenerTest : public test::EngineTest {
   }
 };
 
-TEST(MessageFileType, IsTheNameFromTheFirstDotOnInUpperCase) {
-  EXPECT_EQ(MessageFileType("FW0417AB.MES"), ".MES");
-  EXPECT_EQ(MessageFileType("fw0417ab.msx"), ".MSX");
-  EXPECT_EQ(MessageFileType("TEST.MSX.MES"), ".MSX.MES");
-  EXPECT_EQ(MessageFileType(".MES"), ".MES");
-}
-
-TEST(MessageFileType, IsEmptyWithoutADot) {
-  EXPECT_EQ(MessageFileType("FW0417AB"), "");
-  EXPECT_EQ(MessageFileType(""), "");
-}
-
-TEST(MessageFileType, DoesNotLookAtFolders) {
-  EXPECT_EQ(MessageFileType(fs::path("v1.2.MSX") / "TEST.MES"), ".MES");
-  EXPECT_EQ(MessageFileType(fs::path("v1.2.MSX") / "TEST"), "");
-}
-
-TEST_F(MessageFileOpenerTest, TellsASourceByAFirstByteOf32OrMore) {
-  EXPECT_FALSE(IsAssemblerSource(folder_.Write("A.MES", std::string(1, '\0'))));
-  EXPECT_FALSE(IsAssemblerSource(folder_.Write("B.MES", "\x1F")));
-  EXPECT_TRUE(IsAssemblerSource(folder_.Write("C.MES", "\x20")));
-  EXPECT_TRUE(IsAssemblerSource(folder_.Write("D.MES", "\xFF")));
-}
-
-TEST_F(MessageFileOpenerTest, CannotTellAnEmptyOrMissingFile) {
-  EXPECT_THROW(IsAssemblerSource(folder_.Write("A.MES", "")), FileError);
-  EXPECT_THROW(IsAssemblerSource(folder_ / "none.MES"), FileError);
-}
-
 TEST_F(MessageFileOpenerTest, AsksForAMessageFile) {
   engine_.workspace.folders.program = folder_.path();
   Open("");

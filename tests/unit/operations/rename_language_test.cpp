@@ -5,6 +5,7 @@
 #include <filesystem>
 #include <string>
 
+#include "core/platform/errors.h"
 #include "core/presentation/compiler_view.h"
 #include "support/engine_test.h"
 #include "support/ordinary_user.h"
@@ -123,6 +124,26 @@ TEST_F(RenameLanguageTest, AFileThatCannotBeWrittenKeepsTheNewNameOnTheScreen) {
   EXPECT_EQ(Entry(2), "POLSKI");
   EXPECT_EQ(menus().mnuDes[2].caption, "POLSKI");
   EXPECT_EQ(folder_.Names(), "");
+}
+
+TEST_F(RenameLanguageTest, IsDoneWithoutAQuestion) {
+  RenameLanguage(set_, 2, NameField::FromAnswer("polski"));
+  std::string expected = mes_.Bytes();
+  expected.replace(24 + 2 * mes_.BlockLength(), 20, "POLSKI              ");
+  EXPECT_EQ(test::Slurp(file_), expected);
+  EXPECT_EQ(Entry(2), "POLSKI");
+  EXPECT_THAT(dialogs_.inputs, IsEmpty());
+}
+
+TEST_F(RenameLanguageTest, FailsWhereTheFileIsGone) {
+  std::filesystem::remove(file_);
+  EXPECT_THROW(RenameLanguage(set_, 2, NameField::FromAnswer("polski")), FileError);
+}
+
+TEST_F(RenameLanguageTest, KnowsTheNamesOfTheOthers) {
+  EXPECT_TRUE(NameIsTaken(set_, 1, NameField::FromAnswer("english")));
+  EXPECT_FALSE(NameIsTaken(set_, 2, NameField::FromAnswer("english")));
+  EXPECT_FALSE(NameIsTaken(set_, 1, NameField::FromCaption("Default")));
 }
 
 }  // namespace
