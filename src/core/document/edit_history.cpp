@@ -1,34 +1,37 @@
 #include "core/document/edit_history.h"
 
+#include <utility>
+
 namespace vendlingua {
 
 void EditHistory::Add(const Edit& edit, EditKind kind) {
-  edits_.resize(done_, edit);
-  const bool grows = typing_ && kind == EditKind::kTyping && !edits_.empty() &&
-                     edits_.back().message == edit.message;
+  const bool types = kind == EditKind::kTyping;
+  const bool grows =
+      typing_ && types && CanStepBack() && steps_[done_ - 1].back().message == edit.message;
   if (grows) {
-    edits_.back().after = edit.after;
+    steps_.resize(done_);
+    steps_.back().back().after = edit.after;
   } else {
-    edits_.push_back(edit);
+    Add({edit});
   }
-  done_ = edits_.size();
-  typing_ = kind == EditKind::kTyping;
+  typing_ = types;
 }
 
-std::optional<Edit> EditHistory::StepBack() {
+void EditHistory::Add(EditStep step) {
+  steps_.resize(done_);
+  steps_.push_back(std::move(step));
+  done_ = steps_.size();
   EndTyping();
-  if (!CanStepBack()) {
-    return std::nullopt;
-  }
-  return edits_[--done_];
 }
 
-std::optional<Edit> EditHistory::StepForward() {
+EditStep EditHistory::StepBack() {
   EndTyping();
-  if (!CanStepForward()) {
-    return std::nullopt;
-  }
-  return edits_[done_++];
+  return CanStepBack() ? steps_[--done_] : EditStep();
+}
+
+EditStep EditHistory::StepForward() {
+  EndTyping();
+  return CanStepForward() ? steps_[done_++] : EditStep();
 }
 
 }  // namespace vendlingua

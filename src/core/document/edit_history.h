@@ -3,7 +3,6 @@
 
 #include <cstddef>
 #include <cstdint>
-#include <optional>
 #include <vector>
 
 #include "core/document/display_text.h"
@@ -21,6 +20,9 @@ struct Edit {
   std::uint16_t last_msg_after;
 };
 
+/// Changes that are taken back together, in the order in which they were made.
+using EditStep = std::vector<Edit>;
+
 /// How a change came about: the keys that are typed in one message are taken back together,
 /// everything else for itself.
 enum class EditKind { kTyping, kWhole };
@@ -30,20 +32,22 @@ class EditHistory {
  public:
   /// Notes a change. What was taken back before cannot be done again any more.
   void Add(const Edit& edit, EditKind kind);
+  /// The same of changes that one command made together.
+  void Add(EditStep step);
 
   /// The message was left, or typing paused: what is typed from now on is a step of its own.
   void EndTyping() { typing_ = false; }
 
-  /// The step to take back, or to do again; it counts as taken back, or done, from then on.
-  /// Nothing when there is none.
-  std::optional<Edit> StepBack();
-  std::optional<Edit> StepForward();
+  /// The step to take back, or to do again; it counts as taken back, or done, from then on. Empty
+  /// when there is none.
+  EditStep StepBack();
+  EditStep StepForward();
 
   bool CanStepBack() const { return done_ > 0; }
-  bool CanStepForward() const { return done_ < edits_.size(); }
+  bool CanStepForward() const { return done_ < steps_.size(); }
 
  private:
-  std::vector<Edit> edits_;
+  std::vector<EditStep> steps_;
   std::size_t done_ = 0;  // of them; those behind were taken back
   bool typing_ = false;   // the last one may grow
 };

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <limits>
+#include <utility>
 
 #include "core/document/name_field.h"
 #include "core/platform/errors.h"
@@ -41,11 +42,13 @@ void MessageSet::ForgetFile() {
   DestLang = 0;
   Modified = kFalse;
   phase = Phase::kNoFile;
+  origin_language.reset();
   file_was_imported = false;
   ShowMessage(0);
   language_names.clear();
   file_content.clear();
   saved.reset();
+  opened_texts.clear();
   save_failed = false;
   history = EditHistory();
 }
@@ -64,6 +67,7 @@ void MessageSet::CloseFile() {
 
 void MessageSet::TakeDestination(const MessageTexts& texts, int language) {
   std::copy(texts.begin(), texts.end(), DestText.begin());
+  opened_texts = DestText;
   history = EditHistory();
   ShowMessage(current_message);
   const bool is_new = language == 0;
@@ -78,7 +82,7 @@ void MessageSet::ShowMessage(std::size_t message) {
   history.EndTyping();
 }
 
-bool MessageSet::SetText(std::size_t message, std::span<const DisplayCode> codes, EditKind kind) {
+std::optional<Edit> MessageSet::Store(std::size_t message, std::span<const DisplayCode> codes) {
   DisplayCodes text = FitTo(codes, Width());
   for (std::size_t cell = 0; cell < text.size(); ++cell) {
     if (OriginCaption(message, cell) == kPlaceholder) {
@@ -87,14 +91,33 @@ bool MessageSet::SetText(std::size_t message, std::span<const DisplayCode> codes
   }
   current_message_stored = current_message_stored || message == current_message;
   const DisplayText after(text);
-  DisplayText& stored = DestText.at(message);
-  if (after == stored) {
+  const DisplayText before = std::exchange(DestText.at(message), after);
+  if (after == before) {
+    return std::nullopt;
+  }
+  Modified = kTrue;
+  return Edit{DestLang, static_cast<std::uint16_t>(message), before, after, LastMsg, LastMsg};
+}
+
+bool MessageSet::SetText(std::size_t message, std::span<const DisplayCode> codes, EditKind kind) {
+  const auto edit = Store(message, codes);
+  if (edit) {
+    history.Add(*edit, kind);
+  }
+  return edit.has_value();
+}
+
+bool MessageSet::SetTexts(std::span<const NewText> texts) {
+  EditStep step;
+  for (const NewText& text : texts) {
+    if (const auto edit = Store(text.message, text.codes)) {
+      step.push_back(*edit);
+    }
+  }
+  if (step.empty()) {
     return false;
   }
-  history.Add({DestLang, static_cast<std::uint16_t>(message), stored, after, LastMsg, LastMsg},
-              kind);
-  stored = after;
-  Modified = kTrue;
+  history.Add(std::move(step));
   return true;
 }
 
@@ -109,26 +132,30 @@ void MessageSet::AppendMessage() {
 }
 
 bool MessageSet::Undo() {
-  const auto edit = history.StepBack();
-  if (edit) {
-    Apply(*edit, edit->before, edit->last_msg_before);
+  const EditStep step = history.StepBack();
+  for (auto edit = step.rbegin(); edit != step.rend(); ++edit) {
+    DestText.at(edit->message) = edit->before;
+    LastMsg = edit->last_msg_before;
   }
-  return edit.has_value();
+  ShowApplied(step);
+  return !step.empty();
 }
 
 bool MessageSet::Redo() {
-  const auto edit = history.StepForward();
-  if (edit) {
-    Apply(*edit, edit->after, edit->last_msg_after);
+  const EditStep step = history.StepForward();
+  for (const Edit& edit : step) {
+    DestText.at(edit.message) = edit.after;
+    LastMsg = edit.last_msg_after;
   }
-  return edit.has_value();
+  ShowApplied(step);
+  return !step.empty();
 }
 
-void MessageSet::Apply(const Edit& edit, const DisplayText& text, std::uint16_t last_msg) {
-  DestText.at(edit.message) = text;
-  LastMsg = last_msg;
-  ShowMessage(std::min(edit.message, last_msg));
-  Modified = ToBoolean16(saved != ToSave());
+void MessageSet::ShowApplied(const EditStep& step) {
+  if (!step.empty()) {
+    ShowMessage(std::min(step.front().message, LastMsg));
+    Modified = ToBoolean16(saved != ToSave());
+  }
 }
 
 void MessageSet::NoteSaved() {

@@ -56,6 +56,12 @@ inline constexpr std::size_t kDisplayTypes = 4;
 /// So many cells of a message are shown.
 inline constexpr std::size_t kOriginCells = 20;
 
+/// A text that a message is to have.
+struct NewText {
+  std::size_t message;
+  DisplayCodes codes;
+};
+
 /// How far the work on a file has come. Each phase includes what the ones before it allow.
 enum class Phase {
   kNoFile,
@@ -111,6 +117,8 @@ struct MessageSet {
   bool DisplayTypeChosen = false;
 
   Phase phase = Phase::kNoFile;
+  /// The language that the origin texts are of.
+  std::optional<int> origin_language;
   /// The message file was made by an import that goes on: what is saved from now on becomes one
   /// more language of it, although no destination was opened.
   bool file_was_imported = false;
@@ -132,6 +140,8 @@ struct MessageSet {
     bool operator==(const Saved&) const = default;
   };
   std::optional<Saved> saved;
+  /// The destination as it was opened, to tell what was changed since then.
+  MessageTexts opened_texts;
   /// The last save failed. It cleared `Modified` like any other; what it should have saved is still
   /// asked about.
   bool save_failed = false;
@@ -203,6 +213,9 @@ struct MessageSet {
   bool SetText(std::size_t message, std::span<const DisplayCode> codes,
                EditKind kind = EditKind::kWhole);
 
+  /// The same of several messages, in one step of the history.
+  bool SetTexts(std::span<const NewText> texts);
+
   /// Adds a message behind the last one, with whatever texts the set holds there.
   void AppendMessage();
 
@@ -216,7 +229,9 @@ struct MessageSet {
 
  private:
   void ForgetFile();
-  void Apply(const Edit& edit, const DisplayText& text, std::uint16_t last_msg);
+  /// What changes when a text is put into the set, which it is then; nothing when it is there.
+  std::optional<Edit> Store(std::size_t message, std::span<const DisplayCode> codes);
+  void ShowApplied(const EditStep& step);
   Saved ToSave() const;
 };
 

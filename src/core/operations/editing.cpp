@@ -81,6 +81,12 @@ void Editing::CopyOrigin() {
   Enter(std::move(origin), EditKind::kWhole);
 }
 
+void Editing::ReplaceTexts(std::span<const NewText> texts) {
+  if (workspace_.set.DestinationIsOpen() && workspace_.set.SetTexts(texts)) {
+    Show(workspace_.set.current_message);
+  }
+}
+
 void Editing::AddMessage(Dialogs& dialogs) {
   workspace_.window.offers_new_message = false;
   const MessageAnswer answer =

@@ -37,6 +37,9 @@ class Editing {
   /// Copies the whole origin into the edit box (`mnuCopy`).
   void CopyOrigin();
 
+  /// Gives several messages new texts, which are taken back together.
+  void ReplaceTexts(std::span<const NewText> texts);
+
   /// Appends a message to a ".MES" set after asking (`Command2`).
   void AddMessage(Dialogs& dialogs);
 

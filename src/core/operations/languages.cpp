@@ -17,6 +17,7 @@ void Languages::ChooseOrigin(int language) {
   }
   const MessageTexts texts = TextsOf(set, language);
   std::copy(texts.begin(), texts.end(), set.OriginText.begin());
+  set.origin_language = language;
   set.phase = std::max(set.phase, Phase::kOriginChosen);
   set.ShowMessage(set.current_message);
   workspace_.window.typed.reset();
