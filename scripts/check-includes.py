@@ -18,6 +18,7 @@ STANDS_ON = {
     "core/platform": ("core/texts",),
     "core/document": FOR_ALL,
     "core/formats": (*FOR_ALL, "core/document"),
+    "core/desk": (*FOR_ALL, "core/document", "core/formats"),
     "core/operations": (*FOR_ALL, "core/document", "core/formats"),
     "core/flash": (*FOR_ALL, "core/document", "core/formats"),
     "core/proof": (*FOR_ALL, "core/document"),

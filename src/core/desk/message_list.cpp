@@ -1,0 +1,81 @@
+#include "core/desk/message_list.h"
+
+#include <algorithm>
+
+#include "core/desk/row_state.h"
+
+namespace vendlingua {
+namespace {
+
+bool PassesFilter(const MessageSet& set, std::size_t message, MessageFilter filter) {
+  switch (filter) {
+    case MessageFilter::kToDo:
+      return IsToDo(set, message);
+    case MessageFilter::kChanged:
+      return IsChanged(set, message);
+    case MessageFilter::kAll:
+      break;
+  }
+  return true;
+}
+
+bool TextIsBefore(const DisplayText& a, const DisplayText& b) {
+  return std::ranges::lexicographical_compare(a.Cells(), b.Cells());
+}
+
+bool IsBefore(const MessageSet& set, MessageOrder order, std::size_t a, std::size_t b) {
+  switch (order) {
+    case MessageOrder::kOrigin:
+      return TextIsBefore(set.OriginText.at(a), set.OriginText.at(b));
+    case MessageOrder::kDestination:
+      return TextIsBefore(set.DestText.at(a), set.DestText.at(b));
+    case MessageOrder::kCells:
+      return CellsUsed(set, a) < CellsUsed(set, b);
+    case MessageOrder::kState:
+      return StateOf(set, a) < StateOf(set, b);
+    case MessageOrder::kNumber:
+      break;
+  }
+  return a < b;
+}
+
+std::optional<std::size_t> NextToDoInSteps(const MessageSet& set, std::size_t message,
+                                           std::size_t step) {
+  const std::size_t count = set.MessageCount();
+  for (std::size_t n = 1; n < count; ++n) {
+    const std::size_t next = (message + n * step) % count;
+    if (IsToDo(set, next)) {
+      return next;
+    }
+  }
+  return std::nullopt;
+}
+
+}  // namespace
+
+std::vector<std::size_t> ListMessages(const MessageSet& set, const ListWishes& wishes) {
+  std::vector<std::size_t> messages;
+  if (set.phase < Phase::kOriginChosen) {
+    return messages;
+  }
+  for (std::size_t message = 0; message < set.MessageCount(); ++message) {
+    if (PassesFilter(set, message, wishes.filter)) {
+      messages.push_back(message);
+    }
+  }
+  std::ranges::stable_sort(messages, [&](std::size_t a, std::size_t b) {
+    return wishes.descending ? IsBefore(set, wishes.order, b, a)
+                             : IsBefore(set, wishes.order, a, b);
+  });
+  return messages;
+}
+
+std::optional<std::size_t> NextToDo(const MessageSet& set, std::size_t message) {
+  return NextToDoInSteps(set, message, 1);
+}
+
+std::optional<std::size_t> PreviousToDo(const MessageSet& set, std::size_t message) {
+  return NextToDoInSteps(set, message, set.MessageCount() - 1);
+}
+
+}  // namespace vendlingua
