@@ -37,7 +37,7 @@ struct InputRequest {
   std::string default_answer;
 };
 
-enum class FilePurpose { kOpenMessages, kSaveMessages, kFlashFile, kIdentifiedCopy };
+enum class FilePurpose { kOpenMessages, kSaveMessages, kFlashFile, kIdentifiedCopy, kPicture };
 
 /// The files that a file dialog offers: those with `extension`, in upper or lower case.
 struct FileFilter {

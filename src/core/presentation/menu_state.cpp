@@ -8,6 +8,7 @@ void InitMenu(const UiText& ui_text, MenuState& menus) {
   menus.mnuOpen.caption = ui_text[UiTextId::kOpen];
   menus.mnuSave.caption = ui_text[UiTextId::kSave];
   menus.mnuSaas.caption = ui_text[UiTextId::kSaveAs];
+  menus.mnuDesk.caption = ui_text[UiTextId::kDesk];
   menus.mnuEsci.caption = ui_text[UiTextId::kExit];
   menus.mnuOrig.caption = ui_text[UiTextId::kOriginMenu];
   menus.mnuDest.caption = ui_text[UiTextId::kDestinationMenu];

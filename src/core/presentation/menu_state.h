@@ -22,7 +22,7 @@ struct MenuState {
   /// Entry 0 is special, entries 1 to 100 are the languages of the file.
   using LanguageMenu = std::array<MenuEntry, kLanguageEntries>;
 
-  MenuEntry mnuFile, mnuOpen, mnuSave, mnuSaas, mnuEsci;
+  MenuEntry mnuFile, mnuOpen, mnuSave, mnuSaas, mnuDesk, mnuEsci;
   MenuEntry mnuOrig, mnuDest, mnuMake, mnuTLCD, mnuLingue;
   MenuEntry mnuInf;
   MenuEntry mCopy, mnuAbor, mnuCopy, mnuUndo, mnuRedo;

@@ -16,6 +16,7 @@
 #include "core/operations/message_file_writer.h"
 #include "core/platform/dialogs.h"
 #include "desktop/postponed_close.h"
+#include "desktop/run_command.h"
 
 namespace vendlingua {
 
@@ -34,10 +35,6 @@ class FrmMake : public QWidget {
   Q_OBJECT
 
  public:
-  /// Does a command of the user that belongs to `window`: shows its errors and mirrors all windows
-  /// afterwards.
-  using RunCommand = std::function<void(const std::function<void()>& command, QWidget& window)>;
-
   FrmMake(const CompilerParts& parts, RunCommand run, QWidget* main_window);
 
   /// Offers to save pending changes and fills the window with the languages of the open file. False

@@ -76,6 +76,7 @@ void FrmMes::ConnectMenus() {
   run(&MainMenus::UndoChosen, [this] { engine_.editing.Undo(); });
   run(&MainMenus::RedoChosen, [this] { engine_.editing.Redo(); });
   run(&MainMenus::CompilerChosen, [this] { OpenCompiler(); });
+  run(&MainMenus::DeskChosen, [this] { OpenDesk(); });
   run(&MainMenus::InfoChosen, [this] { OpenInfo(); });
   connect(menus_, &MainMenus::ExitChosen, this, &QWidget::close);
 }
@@ -149,6 +150,9 @@ void FrmMes::Mirror() {
   } else {
     unsetCursor();
   }
+  if (frm_desk_) {
+    frm_desk_->Mirror();
+  }
   if (frm_make_) {
     frm_make_->Mirror();
   }
@@ -188,6 +192,9 @@ void FrmMes::closeEvent(QCloseEvent* event) {
   if (frm_make_) {
     frm_make_->close();
   }
+  if (frm_desk_) {
+    frm_desk_->close();
+  }
   if (frm_info_) {
     frm_info_->close();
   }
@@ -223,6 +230,19 @@ void FrmMes::OpenCompiler() {
   }
   frm_make_->show();
   frm_make_->activateWindow();
+}
+
+void FrmMes::OpenDesk() {
+  if (!frm_desk_) {
+    frm_desk_ = std::make_unique<FrmDesk>(
+        engine_, dialogs_,
+        [this](const auto& command, QWidget& window) { RunIn(window, command); });
+    frm_desk_->addActions(menus_->SharedEntries());
+    connect(frm_desk_.get(), &FrmDesk::TextTyped, this,
+            [this](const DisplayCodes& text) { RunIn(*frm_desk_, [&] { ChangeText(text); }); });
+  }
+  frm_desk_->show();
+  frm_desk_->activateWindow();
 }
 
 void FrmMes::OpenInfo() {

@@ -5,11 +5,13 @@
 #include <QPointer>
 #include <QTimer>
 #include <functional>
+#include <memory>
 
 #include "core/engine.h"
 #include "core/platform/program_starter.h"
 #include "core/presentation/window_top.h"
 #include "desktop/compiler/frm_make.h"
+#include "desktop/desk/frm_desk.h"
 #include "desktop/dialogs/qt_dialogs.h"
 #include "desktop/dialogs/qt_texts.h"
 #include "desktop/information/frm_info.h"
@@ -48,6 +50,7 @@ class FrmMes : public QMainWindow {
   void ChangeText(const DisplayCodes& text);
   void ToggleHeight();
   void OpenCompiler();
+  void OpenDesk();
   void OpenInfo();
 
   Engine& engine_;
@@ -55,7 +58,8 @@ class FrmMes : public QMainWindow {
   ProgramStarter& starter_;
   MainMenus* menus_;
   EditorPanel* panel_;
-  UiText captions_;  ///< of the editor
+  UiText captions_;                    ///< of the editor
+  std::unique_ptr<FrmDesk> frm_desk_;  ///< from when it is opened first
   QPointer<FrmMake> frm_make_;
   QPointer<FrmInfo> frm_info_;
   QtTexts qt_texts_;

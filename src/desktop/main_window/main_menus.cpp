@@ -79,6 +79,9 @@ void MainMenus::BuildFileMenu(QMenuBar& menu_bar) {
   mnuSaas_->setShortcut(QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_S));
   connect(mnuSaas_, &QAction::triggered, this, &MainMenus::SaveAsChosen);
   mnuFile_->addSeparator();
+  mnuDesk_ = AddAction(*mnuFile_, "mnuDesk");
+  mnuDesk_->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_L));
+  connect(mnuDesk_, &QAction::triggered, this, &MainMenus::DeskChosen);
   mnuEsci_ = AddAction(*mnuFile_, "mnuEsci");
   mnuEsci_->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_Q));
   mnuEsci_->setMenuRole(QAction::QuitRole);
@@ -138,6 +141,7 @@ void MainMenus::Show(const MenuState& menus) {
   ShowEntry(*mnuOpen_, menus.mnuOpen);
   ShowEntry(*mnuSave_, menus.mnuSave);
   ShowEntry(*mnuSaas_, menus.mnuSaas);
+  ShowEntry(*mnuDesk_, menus.mnuDesk);
   ShowEntry(*mnuEsci_, menus.mnuEsci);
   ShowEntry(*mnuOrig_->menuAction(), menus.mnuOrig);
   ShowEntry(*mnuDest_->menuAction(), menus.mnuDest);

@@ -26,6 +26,9 @@ class MainMenus : public QObject {
   /// Take an edit back and do it again; they belong into the menu of the edit box.
   QList<QAction*> HistoryEntries() const { return {mnuUndo_, mnuRedo_}; }
 
+  /// What the keys do in every window of the document.
+  QList<QAction*> SharedEntries() const { return {mnuSave_, mnuSaas_, mnuUndo_, mnuRedo_}; }
+
   /// Opens the copy menu.
   void PopUpCopyMenu(const QPoint& global_position) { mCopy_->popup(global_position); }
 
@@ -33,6 +36,7 @@ class MainMenus : public QObject {
   void OpenChosen();
   void SaveChosen();
   void SaveAsChosen();
+  void DeskChosen();
   void ExitChosen();
   void OriginChosen(int language);
   void DestinationChosen(int language);
@@ -59,6 +63,7 @@ class MainMenus : public QObject {
   QAction* mnuOpen_ = nullptr;
   QAction* mnuSave_ = nullptr;
   QAction* mnuSaas_ = nullptr;
+  QAction* mnuDesk_ = nullptr;
   QAction* mnuEsci_ = nullptr;
   QMenu* mnuOrig_ = nullptr;
   QMenu* mnuDest_ = nullptr;

@@ -6,6 +6,7 @@
 
 #include "core/presentation/twips.h"
 #include "desktop/element_name.h"
+#include "desktop/fonts/cell_colors.h"
 #include "desktop/fonts/display_font.h"
 #include "desktop/fonts/widget_text.h"
 #include "desktop/qt_text.h"
@@ -17,10 +18,6 @@ constexpr int kFirstLeft = 1200;
 constexpr int kTop = 480;
 constexpr int kWidth = 195;
 constexpr int kHeight = 345;
-
-constexpr QRgb kOrdinary = 0xFFFFFFC0;
-constexpr QRgb kDark = 0xFFC0C000;
-constexpr QRgb kBorder = 0xFFDCDC8C;
 
 }  // namespace
 
@@ -60,11 +57,11 @@ void OriginLabel::mousePressEvent(QMouseEvent* event) {
 }
 
 // Drawn here, because the character has to begin at the cell's left edge: so it stands above the
-// same character of the edit box. The colours belong to the display, not to the desktop's theme.
+// same character of the edit box.
 void OriginLabel::paintEvent(QPaintEvent* /*event*/) {
   QPainter painter(this);
-  painter.fillRect(rect(), QColor(dark_ ? kDark : kOrdinary));
-  painter.setPen(hasFocus() ? palette().color(QPalette::Highlight) : QColor(kBorder));
+  painter.fillRect(rect(), QColor(dark_ ? kBoardCell : kOrdinaryCell));
+  painter.setPen(hasFocus() ? palette().color(QPalette::Highlight) : QColor(kCellBorder));
   painter.drawRect(rect().adjusted(0, 0, -1, -1));
   painter.setPen(Qt::black);
   painter.drawText(rect(), Qt::AlignLeft | Qt::AlignVCenter | Qt::TextDontClip, text());

@@ -34,6 +34,8 @@ class DeskTest : public QObject {
   /// Entry `number` of the interface texts in use.
   QString UiText(std::size_t number) const;
 
+  QString UiText(UiTextId id) const { return UiText(static_cast<std::size_t>(id)); }
+
   /// What `sentence` says in the interface language.
   QString Say(const UiSentence& sentence) const;
 

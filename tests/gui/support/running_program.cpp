@@ -51,6 +51,16 @@ void RunningProgram::Show() {
   QApplication::processEvents();
 }
 
+// It is a window of its own and has no parent.
+FrmDesk& RunningProgram::desk() {
+  for (QWidget* window : QApplication::topLevelWidgets()) {
+    if (auto* desk = qobject_cast<FrmDesk*>(window)) {
+      return *desk;
+    }
+  }
+  qFatal("the desk is not open");
+}
+
 void RunningProgram::Choose(const char* name) {
   QAction& entry = Entry(name);
   if (entry.isEnabled() && entry.isVisible()) {

@@ -12,6 +12,7 @@
 #include "core/platform/font_list.h"
 #include "core/platform/program_starter.h"
 #include "desktop/compiler/frm_make.h"
+#include "desktop/desk/frm_desk.h"
 #include "desktop/dialogs/qt_dialogs.h"
 #include "desktop/information/frm_info.h"
 #include "desktop/main_window/frm_mes.h"
@@ -53,6 +54,15 @@ class RunningProgram {
   /// The windows that the menus open; null while they are not open.
   FrmMake* compiler() { return window_->findChild<FrmMake*>(); }
   FrmInfo* info() { return window_->findChild<FrmInfo*>(); }
+
+  /// The translator's desk, once it was opened.
+  FrmDesk& desk();
+
+  /// A control of the desk.
+  template <typename Control>
+  Control& GetInDesk(const char* name) {
+    return GetIn<Control>(desk(), name);
+  }
 
   /// A control of the main window.
   template <typename Control>

@@ -1,0 +1,269 @@
+#include "desktop/desk/frm_desk.h"
+
+#include <QCloseEvent>
+#include <QHBoxLayout>
+#include <QHeaderView>
+#include <QIcon>
+#include <QSettings>
+#include <QShortcut>
+#include <QSignalBlocker>
+#include <QVBoxLayout>
+#include <array>
+#include <utility>
+
+#include "core/desk/message_list.h"
+#include "core/desk/row_state.h"
+#include "core/operations/rename_language.h"
+#include "core/platform/errors.h"
+#include "core/platform/files.h"
+#include "core/texts/ui_sentence.h"
+#include "desktop/announce.h"
+#include "desktop/desk/replace_dialog.h"
+#include "desktop/qt_text.h"
+
+namespace vendlingua {
+namespace {
+
+constexpr QSize kFirstSize(1000, 640);
+
+// By MessageFilter.
+constexpr std::array<UiTextId, 3> kFilters = {UiTextId::kAllMessages, UiTextId::kToDo,
+                                              UiTextId::kChangedMessages};
+
+QString WindowKey() { return QStringLiteral("window"); }
+QString ColumnsKey() { return QStringLiteral("columns"); }
+QString PartsKey() { return QStringLiteral("parts"); }
+QString BacklightKey() { return QStringLiteral("backlight"); }
+QString FilterKey() { return QStringLiteral("filter"); }
+
+// The user's own settings of this window, beside those that the program keeps in its settings file.
+QSettings DeskSettings() {
+  return QSettings(QSettings::NativeFormat, QSettings::UserScope, QStringLiteral("vendlingua"),
+                   QStringLiteral("desk"));
+}
+
+}  // namespace
+
+FrmDesk::FrmDesk(Engine& engine, Dialogs& dialogs, RunCommand run)
+    : engine_(engine),
+      dialogs_(dialogs),
+      workspace_(engine.workspace),
+      run_(std::move(run)),
+      find_bar_(new FindBar(this)),
+      filter_(new QComboBox(this)),
+      parts_(new QSplitter(this)),
+      table_(new DeskTable(workspace_, parts_)),
+      finder_(new Finder(workspace_, *find_bar_, table_->messages())),
+      glass_(new GlassPanel(workspace_, this)),
+      pages_(new QTabWidget(this)),
+      languages_(new LanguagesPage(workspace_, pages_)),
+      status_(new QLabel(this)),
+      progress_(new QLabel(this)) {
+  setObjectName(QStringLiteral("FrmDesk"));
+  setWindowIcon(QIcon(QStringLiteral(":/icons/vendlingua.svg")));
+  filter_->setObjectName(QStringLiteral("DeskFilter"));
+  status_->setObjectName(QStringLiteral("DeskStatus"));
+  progress_->setObjectName(QStringLiteral("DeskProgress"));
+  for (std::size_t i = 0; i < kFilters.size(); ++i) {
+    filter_->addItem(QString());
+  }
+  LayOut();
+  ConnectTable();
+  ConnectFinder();
+  ConnectSide();
+  AddShortcuts();
+  table_->Mirror();
+  Restore();
+}
+
+void FrmDesk::LayOut() {
+  status_->setTextFormat(Qt::PlainText);
+  status_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+  auto* top = new QHBoxLayout;
+  top->addWidget(find_bar_, 1);
+  top->addWidget(filter_, 0, Qt::AlignTop);
+  auto* bottom = new QHBoxLayout;
+  bottom->addWidget(status_, 1);
+  bottom->addWidget(progress_);
+  auto* layout = new QVBoxLayout(this);
+  layout->addLayout(top);
+  layout->addWidget(parts_, 1);
+  layout->addLayout(bottom);
+  pages_->addTab(languages_, QString());
+  auto* side = new QWidget(parts_);
+  auto* side_layout = new QVBoxLayout(side);
+  side_layout->setContentsMargins(0, 0, 0, 0);
+  side_layout->addWidget(glass_);
+  side_layout->addWidget(pages_, 1);
+  parts_->setChildrenCollapsible(false);
+  parts_->setStretchFactor(0, 1);
+  table_->setFocus();
+}
+
+void FrmDesk::ConnectTable() {
+  connect(table_, &DeskTable::MessageChosen, this, &FrmDesk::GoTo);
+  connect(table_, &DeskTable::NextToDoWanted, this, &FrmDesk::GoToNextToDo);
+  connect(filter_, &QComboBox::currentIndexChanged, this, &FrmDesk::Filter);
+  const CellsDelegate& cells = table_->cells();
+  connect(&cells, &CellsDelegate::Edited, this, &FrmDesk::TextTyped);
+  connect(&cells, &CellsDelegate::NoRoom, this,
+          [this] { Tell(workspace_.ui_text[UiTextId::kNoRoomInCells]); });
+  connect(&cells, &CellsDelegate::ModeChanged, this, [this](CellText::Mode mode) {
+    const bool inserts = mode == CellText::Mode::kInsert;
+    Tell(workspace_.ui_text[inserts ? UiTextId::kInserting : UiTextId::kOverwriting]);
+  });
+  // The edit box is still taking its new text when it refuses a character.
+  connect(
+      &cells, &CellsDelegate::Refused, this,
+      [this](const QStringList& characters) {
+        Tell(workspace_.ui_text[UiTextId::kCharacterRefused] + " " +
+             characters.join(QLatin1Char(' ')).toStdString());
+      },
+      Qt::QueuedConnection);
+}
+
+void FrmDesk::ConnectFinder() {
+  connect(finder_, &Finder::Found, this, &FrmDesk::GoTo);
+  connect(find_bar_, &FindBar::ReplaceWanted, this, &FrmDesk::Replace);
+  connect(find_bar_, &FindBar::Left, this, [this] { table_->setFocus(); });
+}
+
+void FrmDesk::ConnectSide() {
+  connect(glass_, &GlassPanel::SaveWanted, this, &FrmDesk::SavePicture);
+  connect(languages_, &LanguagesPage::OpenWanted, this,
+          [this](int language) { Run([&] { engine_.languages.ChooseDestination(language); }); });
+  connect(languages_, &LanguagesPage::NewWanted, this,
+          [this](int language) { Run([&] { engine_.languages.StartNewLanguage(language); }); });
+  connect(languages_, &LanguagesPage::RenameWanted, this,
+          [this](int language) { Run([&] { RenameLanguage(workspace_, dialogs_, language); }); });
+}
+
+void FrmDesk::AddShortcuts() {
+  const auto add = [this](QKeyCombination key, auto&& command) {
+    auto* shortcut = new QShortcut(QKeySequence(key), this);
+    connect(shortcut, &QShortcut::activated, this, command);
+  };
+  add(Qt::CTRL | Qt::Key_F, [this] { find_bar_->Begin(); });
+  add(Qt::Key_F3, [this] { finder_->GoToNext(); });
+  add(Qt::SHIFT | Qt::Key_F3, [this] { finder_->GoToPrevious(); });
+}
+
+void FrmDesk::Mirror() {
+  if (!isVisible()) {
+    return;
+  }
+  if (captions_ != workspace_.ui_text) {
+    SetCaptions();
+  }
+  table_->Mirror();
+  glass_->Mirror();
+  languages_->Mirror();
+  const std::string& status = workspace_.window.status;
+  status_->setText(FromUtf8(status));
+  status_->setToolTip(FromUtf8(status));
+  Announce(*status_, FromUtf8(status));
+  const Progress progress = ProgressOf(workspace_.set);
+  const UiSentence done(UiTextId::kProgress, progress.done, progress.messages);
+  progress_->setText(workspace_.set.DestinationIsOpen() ? FromUtf8(done.In(captions_)) : QString());
+}
+
+void FrmDesk::SetCaptions() {
+  captions_ = workspace_.ui_text;
+  const QSignalBlocker blocker(filter_);
+  const QString title = FromUtf8(captions_[UiTextId::kDesk]).remove(QLatin1Char('&'));
+  setWindowTitle(title);
+  setAccessibleName(title);
+  find_bar_->SetCaptions(captions_);
+  glass_->SetCaptions(captions_);
+  languages_->SetCaptions(captions_);
+  pages_->setTabText(0, FromUtf8(captions_[UiTextId::kLanguages]));
+  for (std::size_t i = 0; i < kFilters.size(); ++i) {
+    filter_->setItemText(static_cast<int>(i), FromUtf8(captions_[kFilters.at(i)]));
+  }
+  filter_->setAccessibleName(FromUtf8(captions_[UiTextId::kFilter]));
+  filter_->setToolTip(filter_->accessibleName());
+  status_->setAccessibleName(FromUtf8(captions_[UiTextId::kStatus]));
+}
+
+void FrmDesk::Restore() {
+  const QSettings settings = DeskSettings();
+  resize(kFirstSize);
+  restoreGeometry(settings.value(WindowKey()).toByteArray());
+  table_->horizontalHeader()->restoreState(settings.value(ColumnsKey()).toByteArray());
+  parts_->restoreState(settings.value(PartsKey()).toByteArray());
+  glass_->SetBacklight(settings.value(BacklightKey()).toInt());
+  filter_->setCurrentIndex(
+      qBound(0, settings.value(FilterKey()).toInt(), static_cast<int>(kFilters.size()) - 1));
+}
+
+void FrmDesk::Store() const {
+  QSettings settings = DeskSettings();
+  settings.setValue(WindowKey(), saveGeometry());
+  settings.setValue(ColumnsKey(), table_->horizontalHeader()->saveState());
+  settings.setValue(PartsKey(), parts_->saveState());
+  settings.setValue(BacklightKey(), glass_->backlight());
+  settings.setValue(FilterKey(), filter_->currentIndex());
+}
+
+void FrmDesk::closeEvent(QCloseEvent* event) {
+  Store();
+  QWidget::closeEvent(event);
+}
+
+void FrmDesk::showEvent(QShowEvent* event) {
+  QWidget::showEvent(event);
+  Mirror();
+}
+
+void FrmDesk::GoTo(std::size_t message) {
+  Run([&] { engine_.editing.GoTo(message); });
+}
+
+void FrmDesk::GoToNextToDo() {
+  if (const auto next = NextToDo(workspace_.set, workspace_.set.current_message)) {
+    GoTo(*next);
+  }
+}
+
+void FrmDesk::Filter(int filter) {
+  table_->messages().SetFilter(static_cast<MessageFilter>(filter));
+}
+
+void FrmDesk::Replace() {
+  Run([&] {
+    const std::vector<ReplacedText> plan = finder_->PlanReplacement();
+    if (ReplaceDialog(workspace_, plan, this).exec() != QDialog::Accepted) {
+      return;
+    }
+    std::vector<NewText> texts;
+    for (const ReplacedText& text : plan) {
+      if (text.after) {
+        texts.push_back({text.message, *text.after});
+      }
+    }
+    engine_.editing.ReplaceTexts(texts);
+  });
+}
+
+void FrmDesk::SavePicture(const QByteArray& png) {
+  Run([&] {
+    const UiText& ui_text = workspace_.ui_text;
+    const auto path = dialogs_.SaveFile({.purpose = FilePurpose::kPicture,
+                                         .title = "",
+                                         .initial_name = "",
+                                         .default_extension = "png",
+                                         .filters = {{ui_text[UiTextId::kPngPictures], "png"}},
+                                         .overwrite_prompt = true,
+                                         .folder = workspace_.folders.current});
+    if (path) {
+      WriteFile(*path, png.toStdString());
+      workspace_.window.status = ui_text[UiTextId::kSaved] + " " + PathText(path->filename());
+    }
+  });
+}
+
+void FrmDesk::Tell(const std::string& status) {
+  Run([&] { workspace_.window.status = status; });
+}
+
+}  // namespace vendlingua

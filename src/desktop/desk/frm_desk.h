@@ -1,0 +1,78 @@
+#ifndef VENDLINGUA_DESKTOP_DESK_FRM_DESK_H_
+#define VENDLINGUA_DESKTOP_DESK_FRM_DESK_H_
+
+#include <QComboBox>
+#include <QLabel>
+#include <QSplitter>
+#include <QTabWidget>
+#include <QWidget>
+#include <functional>
+#include <string>
+
+#include "core/engine.h"
+#include "desktop/desk/desk_table.h"
+#include "desktop/desk/find_bar.h"
+#include "desktop/desk/finder.h"
+#include "desktop/desk/glass_panel.h"
+#include "desktop/desk/languages_page.h"
+#include "desktop/run_command.h"
+
+namespace vendlingua {
+
+/// The translator's desk: all messages of the document in one window, beside the main window. While
+/// it is closed it shows nothing new.
+class FrmDesk : public QWidget {
+  Q_OBJECT
+
+ public:
+  FrmDesk(Engine& engine, Dialogs& dialogs, RunCommand run);
+
+  /// Shows the document.
+  void Mirror();
+
+ signals:
+  /// The current message was edited in its row.
+  void TextTyped(const DisplayCodes& text);
+
+ protected:
+  void closeEvent(QCloseEvent* event) override;
+  void showEvent(QShowEvent* event) override;
+
+ private:
+  void LayOut();
+  void ConnectTable();
+  void ConnectFinder();
+  void ConnectSide();
+  void AddShortcuts();
+  void SetCaptions();
+  void Restore();
+  void Store() const;
+
+  void GoTo(std::size_t message);
+  void GoToNextToDo();
+  void Filter(int filter);
+  void Replace();
+  void SavePicture(const QByteArray& png);
+  void Tell(const std::string& status);
+  void Run(const std::function<void()>& command) { run_(command, *this); }
+
+  Engine& engine_;
+  Dialogs& dialogs_;
+  Workspace& workspace_;
+  RunCommand run_;
+  FindBar* find_bar_;
+  QComboBox* filter_;
+  QSplitter* parts_;
+  DeskTable* table_;
+  Finder* finder_;
+  GlassPanel* glass_;
+  QTabWidget* pages_;
+  LanguagesPage* languages_;
+  QLabel* status_;
+  QLabel* progress_;
+  UiText captions_;
+};
+
+}  // namespace vendlingua
+
+#endif  // VENDLINGUA_DESKTOP_DESK_FRM_DESK_H_

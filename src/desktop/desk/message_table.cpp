@@ -1,0 +1,165 @@
+#include "desktop/desk/message_table.h"
+
+#include <fmt/format.h>
+
+#include "core/document/alphabet.h"
+#include "desktop/qt_text.h"
+
+namespace vendlingua {
+namespace {
+
+constexpr std::array<UiTextId, MessageTable::kColumns> kHeadings = {
+    UiTextId::kNumber, UiTextId::kOriginHeading, UiTextId::kDestinationHeading, UiTextId::kCells,
+    UiTextId::kState};
+
+UiTextId WordFor(RowState state) {
+  switch (state) {
+    case RowState::kToDo:
+      return UiTextId::kToDo;
+    case RowState::kChanged:
+      return UiTextId::kChanged;
+    case RowState::kDone:
+      break;
+  }
+  return UiTextId::kDone;
+}
+
+}  // namespace
+
+MessageTable::MessageTable(const Workspace& workspace, QObject* parent)
+    : QAbstractTableModel(parent),
+      workspace_(workspace),
+      state_icons_{QIcon(QStringLiteral(":/icons/todo.svg")),
+                   QIcon(QStringLiteral(":/icons/changed.svg")),
+                   QIcon(QStringLiteral(":/icons/done.svg"))} {}
+
+MessageTable::Source MessageTable::CurrentSource() const {
+  const MessageSet& set = workspace_.set;
+  return {set.OpenedFiles, set.origin_language, set.DestLang, set.phase, set.MessageCount()};
+}
+
+void MessageTable::Mirror() {
+  if (source_ != CurrentSource()) {
+    MakeList();
+  } else if (!messages_.empty()) {
+    emit dataChanged(index(0, 0), index(rowCount() - 1, kColumns - 1));
+  }
+  emit headerDataChanged(Qt::Horizontal, 0, kColumns - 1);
+}
+
+void MessageTable::MakeList() {
+  beginResetModel();
+  source_ = CurrentSource();
+  messages_ = ListMessages(workspace_.set, wishes_);
+  rows_.assign(workspace_.set.MessageCount(), -1);
+  for (std::size_t row = 0; row < messages_.size(); ++row) {
+    rows_[messages_[row]] = static_cast<int>(row);
+  }
+  endResetModel();
+}
+
+void MessageTable::SetFilter(MessageFilter filter) {
+  wishes_.filter = filter;
+  MakeList();
+}
+
+void MessageTable::SetSearch(const TextSearch& search) {
+  search_ = search;
+  Mirror();
+}
+
+void MessageTable::sort(int column, Qt::SortOrder order) {
+  wishes_.order = static_cast<MessageOrder>(column);
+  wishes_.descending = order == Qt::DescendingOrder;
+  MakeList();
+}
+
+std::size_t MessageTable::MessageOf(const QModelIndex& index) const {
+  return messages_.at(static_cast<std::size_t>(index.row()));
+}
+
+QModelIndex MessageTable::IndexOf(std::size_t message, int column) const {
+  return message < rows_.size() && rows_[message] >= 0 ? index(rows_[message], column)
+                                                       : QModelIndex();
+}
+
+ShownCells MessageTable::CellsOf(const QModelIndex& index) const {
+  const MessageSet& set = workspace_.set;
+  const std::size_t message = MessageOf(index);
+  const bool origin = index.column() == kOrigin;
+  ShownCells cells;
+  if (!origin && !set.DestinationIsOpen()) {
+    return cells;
+  }
+  const auto codes = (origin ? set.OriginText : set.DestText).at(message).First(set.Width());
+  cells.codes.assign(codes.begin(), codes.end());
+  for (std::size_t cell = 0; cell < codes.size(); ++cell) {
+    cells.board_fills.push_back(set.BoardFills(message, cell));
+  }
+  if (search_.LooksAt(origin ? SearchedTexts::kOrigin : SearchedTexts::kDestination)) {
+    cells.hits = search_.HitsIn(codes, Alphabet::Of(set.DisplayType));
+  }
+  return cells;
+}
+
+QString MessageTable::TextOf(std::size_t message, int column) const {
+  const MessageSet& set = workspace_.set;
+  if (column == kNumber) {
+    return QString::number(message);
+  }
+  if (column == kOrigin) {
+    return FromUtf8(
+        Alphabet::Of(set.DisplayType).TextOf(set.OriginText.at(message).First(set.Width())));
+  }
+  if (!set.DestinationIsOpen()) {
+    return {};
+  }
+  if (column == kDestination) {
+    return FromUtf8(
+        Alphabet::Of(set.DisplayType).TextOf(set.DestText.at(message).First(set.Width())));
+  }
+  if (column == kCells) {
+    return FromUtf8(fmt::format("{}/{}", CellsUsed(set, message), set.Width()));
+  }
+  return FromUtf8(workspace_.ui_text[WordFor(StateOf(set, message))]);
+}
+
+int MessageTable::rowCount(const QModelIndex& parent) const {
+  return parent.isValid() ? 0 : static_cast<int>(messages_.size());
+}
+
+int MessageTable::columnCount(const QModelIndex& parent) const {
+  return parent.isValid() ? 0 : kColumns;
+}
+
+QVariant MessageTable::data(const QModelIndex& index, int role) const {
+  const std::size_t message = MessageOf(index);
+  switch (role) {
+    case Qt::DisplayRole:
+      return TextOf(message, index.column());
+    case Qt::DecorationRole:
+      return index.column() == kState && workspace_.set.DestinationIsOpen()
+                 ? state_icons_.at(static_cast<std::size_t>(StateOf(workspace_.set, message)))
+                 : QVariant();
+    case Qt::TextAlignmentRole:
+      return index.column() == kNumber || index.column() == kCells
+                 ? QVariant::fromValue(Qt::Alignment(Qt::AlignRight | Qt::AlignVCenter))
+                 : QVariant();
+    default:
+      return {};
+  }
+}
+
+QVariant MessageTable::headerData(int section, Qt::Orientation orientation, int role) const {
+  return orientation == Qt::Horizontal && role == Qt::DisplayRole
+             ? FromUtf8(workspace_.ui_text[kHeadings.at(static_cast<std::size_t>(section))])
+             : QVariant();
+}
+
+Qt::ItemFlags MessageTable::flags(const QModelIndex& index) const {
+  const Qt::ItemFlags flags = QAbstractTableModel::flags(index);
+  const bool editable = index.column() == kDestination && workspace_.set.DestinationIsOpen();
+  return editable ? flags | Qt::ItemIsEditable : flags;
+}
+
+}  // namespace vendlingua

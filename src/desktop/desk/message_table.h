@@ -1,0 +1,74 @@
+#ifndef VENDLINGUA_DESKTOP_DESK_MESSAGE_TABLE_H_
+#define VENDLINGUA_DESKTOP_DESK_MESSAGE_TABLE_H_
+
+#include <QAbstractTableModel>
+#include <QIcon>
+#include <QString>
+#include <array>
+#include <cstddef>
+#include <optional>
+#include <tuple>
+#include <vector>
+
+#include "core/desk/message_list.h"
+#include "core/desk/row_state.h"
+#include "core/document/workspace.h"
+#include "desktop/desk/cell_painting.h"
+#include "desktop/desk/text_search.h"
+
+namespace vendlingua {
+
+/// The messages of the document as a table. It holds which of them are listed, in which order, and
+/// nothing else. A message that is edited stays in its row, whatever the list is filtered and
+/// sorted by, until the list is made anew.
+class MessageTable : public QAbstractTableModel {
+  Q_OBJECT
+
+ public:
+  enum Column { kNumber, kOrigin, kDestination, kCells, kState };
+  static constexpr int kColumns = 5;
+
+  MessageTable(const Workspace& workspace, QObject* parent);
+
+  /// The document has changed.
+  void Mirror();
+
+  void SetFilter(MessageFilter filter);
+  MessageFilter filter() const { return wishes_.filter; }
+  /// What is marked in the cells.
+  void SetSearch(const TextSearch& search);
+
+  const std::vector<std::size_t>& messages() const { return messages_; }
+  std::size_t MessageOf(const QModelIndex& index) const;
+  /// No index when the message is not listed.
+  QModelIndex IndexOf(std::size_t message, int column) const;
+  ShownCells CellsOf(const QModelIndex& index) const;
+  std::size_t Width() const { return workspace_.set.Width(); }
+
+  int rowCount(const QModelIndex& parent = {}) const override;
+  int columnCount(const QModelIndex& parent = {}) const override;
+  QVariant data(const QModelIndex& index, int role) const override;
+  QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
+  Qt::ItemFlags flags(const QModelIndex& index) const override;
+  void sort(int column, Qt::SortOrder order) override;
+
+ private:
+  /// What the list was made of: the file, its origin and destination, and how many messages.
+  using Source = std::tuple<std::uint32_t, std::optional<int>, int, Phase, std::size_t>;
+
+  Source CurrentSource() const;
+  void MakeList();
+  QString TextOf(std::size_t message, int column) const;
+
+  const Workspace& workspace_;
+  std::array<QIcon, 3> state_icons_;  // by RowState
+  ListWishes wishes_;
+  TextSearch search_;
+  Source source_{};
+  std::vector<std::size_t> messages_;
+  std::vector<int> rows_;  // by message; -1 for one that is not listed
+};
+
+}  // namespace vendlingua
+
+#endif  // VENDLINGUA_DESKTOP_DESK_MESSAGE_TABLE_H_

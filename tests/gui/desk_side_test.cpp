@@ -1,0 +1,136 @@
+#include <QClipboard>
+#include <QComboBox>
+#include <QGuiApplication>
+#include <QImage>
+#include <QLabel>
+#include <QPushButton>
+#include <QToolButton>
+#include <QTreeWidget>
+
+#include "gui/support/desk_test.h"
+#include "gui/support/registered_test.h"
+
+namespace vendlingua::test {
+
+/// What stands beside the desk's table: the glass and the languages.
+class DeskSideTest : public DeskTest {
+  Q_OBJECT
+
+ private:
+  template <typename Control>
+  Control& Get(const char* name) {
+    return desk_->program.GetInDesk<Control>(name);
+  }
+  QTreeWidget& Languages() { return Get<QTreeWidget>("DeskLanguages"); }
+
+  void OpenDesk() {
+    MesFile mes;
+    mes.names = {"Default", "ITALIANO", "ENGLISH", "SUOMI"};
+    desk_->Open("TEST.MES", mes.Bytes());
+    desk_->program.Choose("mnuori(1)");
+    desk_->program.Choose("mnuDes(2)");
+    desk_->program.Choose("mnuDesk");
+    QVERIFY(QTest::qWaitForWindowActive(&desk_->program.desk()));
+  }
+
+  QImage CopiedGlass() {
+    Get<QToolButton>("DeskCopyPicture").click();
+    return QGuiApplication::clipboard()->image();
+  }
+
+ private slots:
+  void TheGlassSaysItsRows() {
+    OpenDesk();
+    auto& glass = Get<QWidget>("DeskGlass");
+    QCOMPARE(glass.accessibleName(), UiText(UiTextId::kDisplay));
+    QCOMPARE(glass.accessibleDescription(), QStringLiteral("2000\n2111"));
+    desk_->HScroll1().setValue(2);
+    QCOMPARE(glass.accessibleDescription(), QStringLiteral("2222\n    "));
+  }
+
+  // Sixteen cells of five dots with a dot between them and four around them, six pixels a dot. The
+  // picture of "1" has its foot in the seventh row: dots 2 to 4 of the first cell of row 1.
+  void CopiesTheGlassDotByDot() {
+    OpenDesk();
+    desk_->Type("1");
+    const QImage glass = CopiedGlass();
+    QCOMPARE(glass.size(), QSize((16 * 6 - 1 + 8) * 6, (2 * 9 - 1 + 8) * 6));
+    const auto dot = [&](int column, int row) {
+      return glass.pixelColor((4 + column) * 6 + 2, (4 + row) * 6 + 2);
+    };
+    const QColor lit = dot(2, 6);
+    for (const int column : {1, 3}) {
+      QCOMPARE(dot(column, 6), lit);
+    }
+    for (const int column : {0, 4}) {
+      QVERIFY(dot(column, 6) != lit);
+    }
+    QVERIFY(dot(2, 7) != lit);
+  }
+
+  void TheLightIsChosenAndKept() {
+    OpenDesk();
+    const QImage green = CopiedGlass();
+    Get<QComboBox>("DeskBacklight").setCurrentIndex(1);
+    const QImage blue = CopiedGlass();
+    QVERIFY(green != blue);
+    desk_->program.desk().close();
+    desk_ = std::make_unique<Desk>();
+    OpenDesk();
+    QCOMPARE(Get<QComboBox>("DeskBacklight").currentIndex(), 1);
+    Get<QComboBox>("DeskBacklight").setCurrentIndex(0);
+    desk_->program.desk().close();
+  }
+
+  void SavesTheGlassAsAPicture() {
+    OpenDesk();
+    desk_->user.Choose(desk_->folder / "GLASS.png");
+    Get<QToolButton>("DeskSavePicture").click();
+    const std::string png = Slurp(desk_->folder / "GLASS.png");
+    QCOMPARE(QImage::fromData(QByteArray::fromStdString(png), "PNG"), CopiedGlass());
+    QVERIFY(Get<QLabel>("DeskStatus").text().endsWith(QStringLiteral("GLASS.png")));
+  }
+
+  void ListsTheLanguagesOfTheFile() {
+    OpenDesk();
+    QCOMPARE(Languages().topLevelItemCount(), 3);
+    QCOMPARE(Languages().topLevelItem(1)->text(0), QStringLiteral("ENGLISH"));
+    QCOMPARE(Languages().topLevelItem(0)->text(1), UiText(UiTextId::kOriginHeading));
+    QCOMPARE(Languages().topLevelItem(1)->text(1), Say(UiSentence(UiTextId::kProgress, 3, 3)));
+    desk_->Type(" ");
+    QCOMPARE(Languages().topLevelItem(1)->text(1), Say(UiSentence(UiTextId::kProgress, 2, 3)));
+  }
+
+  void OpensALanguageByADoubleClick() {
+    OpenDesk();
+    const QRect row = Languages().visualItemRect(Languages().topLevelItem(2));
+    QTest::mouseClick(Languages().viewport(), Qt::LeftButton, Qt::NoModifier, row.center());
+    QTest::mouseDClick(Languages().viewport(), Qt::LeftButton, Qt::NoModifier, row.center());
+    QCOMPARE(desk_->Text1().text(), QStringLiteral("3000"));
+  }
+
+  void StartsANewLanguageFromOne() {
+    OpenDesk();
+    Languages().setCurrentItem(Languages().topLevelItem(2));
+    Get<QPushButton>("DeskLanguageNew").click();
+    QCOMPARE(desk_->program.set().phase, Phase::kDestinationUnnamed);
+    QCOMPARE(desk_->Stored(1), std::string("3111"));
+  }
+
+  void RenamesALanguage() {
+    OpenDesk();
+    Languages().setCurrentItem(Languages().topLevelItem(2));
+    desk_->user.Type(QStringLiteral("svenska"));
+    desk_->user.Yes();
+    Get<QPushButton>("DeskLanguageRename").click();
+    QCOMPARE(Languages().topLevelItem(2)->text(0), QStringLiteral("SVENSKA"));
+  }
+};
+
+namespace {
+const RegisteredTest kDeskSideTest("desk_side_test", RunTest<DeskSideTest>);
+}  // namespace
+
+}  // namespace vendlingua::test
+
+#include "desk_side_test.moc"
