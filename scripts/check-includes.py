@@ -2,7 +2,7 @@
 """Fails when a source includes what stands above it.
 
 A folder may include its own files and those of the folders named beside it. So the path of a file says what
-it may use: Qt under src/desktop alone, CLI11 under src/cli alone.
+it may use: Qt under src/desktop alone, CLI11 under src/cli and src/manual alone.
 """
 
 import pathlib
@@ -39,6 +39,7 @@ STANDS_ON = {
     ),
     "core": ("core",),
     "cli": ("core",),
+    "manual": ("core", "cli"),
     "desktop": ("core",),
 }
 
@@ -48,7 +49,7 @@ LIBRARIES = {
     "CLI11": re.compile(r"CLI/"),
     "nlohmann-json": re.compile(r"nlohmann/"),
 }
-MAY_USE = {"desktop": {"Qt"}, "cli": {"CLI11", "nlohmann-json"}}
+MAY_USE = {"desktop": {"Qt"}, "cli": {"CLI11", "nlohmann-json"}, "manual": {"CLI11"}}
 
 INCLUDE = re.compile(r'^\s*#\s*include\s+(?:"([^"]+)"|<([^>]+)>)', re.MULTILINE)
 

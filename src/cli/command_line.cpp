@@ -25,9 +25,10 @@ ExitStatus ExitOf(const CLI::App& app, const CLI::ParseError& error) {
 
 }  // namespace
 
-ExitStatus RunCommandLine(Session& session, int argc, const char* const* argv) {
-  CLI::App app("Edits the display messages of vending machines and compiles them into flash files.",
-               "vendlingua-cli");
+void AddGrammar(CLI::App& app, Session& session) {
+  app.name("vendlingua-cli");
+  app.description(
+      "Edits the display messages of vending machines and compiles them into flash files.");
   app.set_version_flag("--version", "vendlingua-cli " + std::string(kVersion));
   app.add_flag("--json", session.json_output, "print JSON for programs");
   app.require_subcommand(1);
@@ -50,6 +51,11 @@ ExitStatus RunCommandLine(Session& session, int argc, const char* const* argv) {
   AddUpdate(app, session);
   AddRename(app, session);
   AddDisplayType(app, session);
+}
+
+ExitStatus RunCommandLine(Session& session, int argc, const char* const* argv) {
+  CLI::App app;
+  AddGrammar(app, session);
   try {
     app.parse(argc, argv);
   } catch (const CLI::ParseError& error) {

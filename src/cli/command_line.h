@@ -3,7 +3,14 @@
 
 #include "cli/session.h"
 
+namespace CLI {
+class App;
+}
+
 namespace vendlingua::cli {
+
+/// Adds all that the command line can hold to `app`. Its commands run on `session`.
+void AddGrammar(CLI::App& app, Session& session);
 
 /// Parses the command line and runs its command on `session`. Help and wrong usage are printed
 /// here; what a command throws is passed on.

@@ -11,19 +11,22 @@ void AddFile(CLI::App& command, std::string& file) {
 }
 
 CLI::Option* AddLanguage(CLI::App& command, std::string& language, const std::string& description) {
-  return command.add_option("--language", language, description)->required();
+  return command.add_option("--language", language, description)->required()->type_name("LANGUAGE");
 }
 
 void AddOrigin(CLI::App& command, std::string& origin) {
-  command.add_option("--origin", origin,
-                     "number or name of the language to check against; if not given, 1 in a .MES "
-                     "file and 0, the built-in table, in a .MSX file");
+  command
+      .add_option("--origin", origin,
+                  "number or name of the language to check against; if not given, 1 in a .MES "
+                  "file and 0, the built-in table, in a .MSX file")
+      ->type_name("LANGUAGE");
 }
 
 void AddLanguages(CLI::App& command, const std::string& option,
                   std::vector<std::string>& languages) {
   command
       .add_option(option, languages, "numbers or names of the languages, all but 0 if not given")
+      ->type_name("LANGUAGE")
       ->delimiter(',')
       ->allow_extra_args(false);
 }

@@ -26,6 +26,7 @@ class IncludesTest(unittest.TestCase):
         self.assert_allowed("core/formats/a.cpp", '"core/document/b.h"', '"core/platform/c.h"')
         self.assert_allowed("core/engine.h", '"core/presentation/a.h"')
         self.assert_allowed("cli/a.cpp", '"core/engine.h"', '"core/flash/b.h"', '"cli/c.h"')
+        self.assert_allowed("manual/a.cpp", '"core/version.h"', '"cli/b.h"', "<CLI/CLI.hpp>")
         self.assert_allowed("desktop/fonts/a.cpp", '"core/engine.h"', '"desktop/dialogs/b.h"')
 
     def test_what_stands_above_is_refused(self) -> None:
@@ -38,6 +39,7 @@ class IncludesTest(unittest.TestCase):
         self.assert_refused("cli/a.cpp", '"desktop/a.h"')
         self.assert_refused("desktop/a.cpp", '"cli/a.h"')
         self.assert_refused("core/engine.h", '"cli/a.h"', '"desktop/a.h"')
+        self.assert_refused("cli/a.cpp", '"manual/a.h"')
 
     def test_libraries_stay_in_their_programs(self) -> None:
         self.assert_allowed("desktop/a.cpp", "<QLabel>", "<QtGlobal>", "<QtCore/qglobal.h>")

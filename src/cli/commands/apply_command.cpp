@@ -171,8 +171,10 @@ void AddApply(CLI::App& app, Session& session) {
   AddDisplay(*command, session);
   command->add_option("TABLE", options->table,
                       "table as \"export\" writes it; - is standard input");
-  command->add_option("--all", options->folder,
-                      "folder of tables named by language, instead of --language and TABLE");
+  command
+      ->add_option("--all", options->folder,
+                   "folder of tables named by language, instead of --language and TABLE")
+      ->type_name("FOLDER");
   command->add_flag("--dry-run", options->dry_run, "show old and new texts and change nothing");
   command->add_flag("--centre", options->centre,
                     "centre the texts of messages that stand centred in language 0");

@@ -171,11 +171,16 @@ void AddCompile(CLI::App& app, Session& session) {
       ->add_option(
           "--languages", options->languages,
           "numbers or names of the languages, as many as the board has slots; not for .MSX files")
+      ->type_name("LANGUAGE")
       ->delimiter(',')
       ->allow_extra_args(false);
-  command->add_option("--output", options->output, "flash file to write")->required();
-  command->add_option("--copy", options->copy,
-                      "identified copy to write (.MSX), for boards with 9 slots");
+  command->add_option("--output", options->output, "flash file to write")
+      ->required()
+      ->type_name("FILE");
+  command
+      ->add_option("--copy", options->copy,
+                   "identified copy to write (.MSX), for boards with 9 slots")
+      ->type_name("FILE");
   command->callback([&session, options] { RunCompile(session, *options); });
 }
 

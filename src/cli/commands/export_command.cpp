@@ -132,12 +132,17 @@ void AddExport(CLI::App& app, Session& session) {
       "Example: vendlingua-cli export FW0417AB.MES --language 2 --output english.csv");
   AddFile(*command, options->file);
   AddLanguage(*command, options->language)->required(false);
-  command->add_option("--origin", options->origin,
-                      "number or name of the origin language, 0 if not given");
+  command
+      ->add_option("--origin", options->origin,
+                   "number or name of the origin language, 0 if not given")
+      ->type_name("LANGUAGE");
   AddDisplay(*command, session);
-  command->add_option("--output", options->output, "table to write; - is standard output");
-  command->add_option("--all", options->folder,
-                      "folder for the tables of all languages, instead of --language and --output");
+  command->add_option("--output", options->output, "table to write; - is standard output")
+      ->type_name("FILE");
+  command
+      ->add_option("--all", options->folder,
+                   "folder for the tables of all languages, instead of --language and --output")
+      ->type_name("FOLDER");
   command
       ->add_option("--format", options->format,
                    "of the table; if not given, .xliff and .xlf are XLIFF, all others csv")

@@ -52,10 +52,13 @@ void AddNewLanguage(CLI::App& app, Session& session) {
   CLI::App* command = app.add_subcommand("new-language", "Add a language to a .MES file.");
   command->footer("Example: vendlingua-cli new-language FW0417AB.MES --from 1 --name POLSKI");
   command->add_option("FILE", options->file, "message file (.MES)")->required();
-  command->add_option("--from", options->from,
-                      "start from the texts of this language instead of blank ones");
+  command
+      ->add_option("--from", options->from,
+                   "start from the texts of this language instead of blank ones")
+      ->type_name("LANGUAGE");
   command->add_option("--name", options->name, "name of the new language, at most 20 characters")
-      ->required();
+      ->required()
+      ->type_name("NAME");
   command->callback([&session, options] { RunNewLanguage(session, *options); });
 }
 

@@ -66,8 +66,9 @@ void AddPut(CLI::App& app, Session& session) {
   command->add_option("--message", options->message, "number of the message")->required();
   AddDisplay(*command, session);
   auto* text = command->add_option_group("text");
-  text->add_option("--text", options->text, "new text (UTF-8)");
-  text->add_option("--hex", options->hex, "new text as hexadecimal display codes");
+  text->add_option("--text", options->text, "new text (UTF-8)")->type_name("CHARACTERS");
+  text->add_option("--hex", options->hex, "new text as hexadecimal display codes")
+      ->type_name("CODES");
   text->require_option(1);
   command->callback([&session, options] { RunPut(session, *options); });
 }

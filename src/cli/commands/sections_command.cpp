@@ -59,8 +59,10 @@ void AddSections(CLI::App& app, Session& session) {
       app.add_subcommand("sections", "Cut a flash file into the section files of the board.");
   command->footer("Example: vendlingua-cli sections FW0417AB.MHX --output out/FW0417AB");
   command->add_option("FILE", options->file, "flash file (.MHX)")->required();
-  command->add_option("--output", options->output,
-                      "path of the section files without extension, that of FILE if not given");
+  command
+      ->add_option("--output", options->output,
+                   "path of the section files without extension, that of FILE if not given")
+      ->type_name("FILE");
   command->callback([&session, options] { RunSections(session, *options); });
 }
 
