@@ -4,7 +4,9 @@ build_packages="g++ cmake ninja-build libfmt-dev libutfcpp-dev libboost-dev libs
   libcsv-dev libpugixml-dev qt6-base-dev qt6-svg-dev qt6-translations-l10n libgl1-mesa-dev fonts-dejavu-core"
 # php-symfony-translation has the schema of XLIFF.
 test_packages="libgtest-dev libgmock-dev librapidcheck-dev qt6-base-private-dev srecord binutils python3 python3-fonttools \
-  translate-toolkit libxml2-utils php-symfony-translation clang-format clang-tidy xvfb xauth mandoc zsh fish"
+  translate-toolkit libxml2-utils php-symfony-translation clang-format clang-tidy xvfb xauth mandoc zsh fish dpkg-dev \
+  desktop-file-utils appstream shared-mime-info libglib2.0-bin"
+package_packages="git dpkg-dev patchelf xz-utils"
 bench_packages="libbenchmark-dev srecord binutils time linguist-qt6 python3 python3-xlib xvfb xauth"
 fuzz_packages="clang libclang-rt-14-dev"
 coverage_packages="gcovr"

@@ -1,10 +1,12 @@
 #include <exception>
 
 #include "core/engine.h"
+#include "core/operations/language_files.h"
 #include "core/operations/start_up.h"
 #include "desktop/application.h"
 #include "desktop/dialogs/qt_dialogs.h"
 #include "desktop/fonts/qt_font_list.h"
+#include "desktop/interface_locale.h"
 #include "desktop/main_window/frm_mes.h"
 #include "desktop/program_folders.h"
 #include "desktop/qt_program_starter.h"
@@ -15,6 +17,8 @@ int Run() {
   vendlingua::QtDialogs dialogs;
   vendlingua::Engine engine(dialogs);
   engine.workspace.folders = vendlingua::ProgramFolders();
+  engine.workspace.LanguageName =
+      vendlingua::SystemLanguage(vendlingua::LanguageNames(engine.workspace.folders.program));
   const vendlingua::QtFontList fonts(engine.workspace.folders.program / "fonts");
   if (!vendlingua::StartUp(engine.workspace, dialogs, fonts).Form_Load()) {
     return 1;

@@ -2,6 +2,7 @@
 
 from __future__ import annotations
 
+import contextlib
 import ctypes
 import os
 import re
@@ -10,6 +11,7 @@ import shutil
 import subprocess
 import tempfile
 import unittest
+from collections.abc import Iterator
 from pathlib import Path
 
 BUILD = Path(os.environ["BUILD"])
@@ -21,17 +23,29 @@ LANGUAGES = {
 FONTS = {"LCD.ttf", "LCD_CY.ttf", "LCD_HBR.ttf", "LCD_KTV.ttf"}
 PROGRAMS = {"vendlingua", "vendlingua-cli"}
 SETTINGS = "vendlingua.ini"
-LOCALE_VARIABLES = ("LC_ALL", "LC_MESSAGES", "LANG")
+LOCALE_VARIABLES = ("LANGUAGE", "LC_ALL", "LC_MESSAGES", "LANG")
 
 
 def install(prefix: Path, **environment: str) -> None:
-    here = {k: v for k, v in os.environ.items() if k not in LOCALE_VARIABLES}
     subprocess.run(
         [os.environ["CMAKE"], "--install", BUILD, "--prefix", prefix],
-        env=here | environment,
+        env=os.environ | environment,
         check=True,
         capture_output=True,
     )
+
+
+@contextlib.contextmanager
+def started(program: Path, home: Path, **environment: str) -> Iterator[subprocess.Popen[bytes]]:
+    """The window, offscreen, with none of the locale of this test."""
+    here = {k: v for k, v in os.environ.items() if k not in LOCALE_VARIABLES}
+    here |= {"QT_QPA_PLATFORM": "offscreen", "HOME": str(home)}
+    process = subprocess.Popen([program], env=here | environment)
+    try:
+        yield process
+    finally:
+        process.kill()
+        process.wait()
 
 
 def names(folder: Path) -> set[str]:
@@ -70,7 +84,7 @@ class InstallTest(unittest.TestCase):
 class TreeTest(InstallTest):
     def test_the_program_folder_holds_programs_languages_and_fonts(self) -> None:
         install(self.prefix)
-        self.assertEqual(names(self.programs), PROGRAMS | LANGUAGES | {"fonts", SETTINGS})
+        self.assertEqual(names(self.programs), PROGRAMS | LANGUAGES | {"fonts"})
         self.assertEqual(names(self.programs / "fonts"), FONTS)
 
     def test_the_build_tree_has_the_same_programs(self) -> None:
@@ -97,17 +111,37 @@ class TreeTest(InstallTest):
     def test_the_desktop_finds_program_and_icon(self) -> None:
         install(self.prefix)
         entry = (self.prefix / "share/applications/vendlingua.desktop").read_text(encoding="utf-8")
-        self.assertIn("\nExec=vendlingua\n", entry)
+        self.assertIn("\nExec=vendlingua %f\n", entry)
         self.assertIn("\nIcon=vendlingua\n", entry)
         icon = self.prefix / "share/icons/hicolor/scalable/apps/vendlingua.svg"
         self.assertIn(b"<svg", icon.read_bytes())
+
+    def test_nothing_else_is_shared(self) -> None:
+        install(self.prefix)
+        share = self.prefix / "share"
+        documents = share / "doc"
+        shared = {p.relative_to(share).as_posix() for p in share.rglob("*") if p.is_file()}
+        self.assertEqual(
+            {name for name in shared if not (share / name).is_relative_to(documents)},
+            {
+                "applications/vendlingua.desktop",
+                "bash-completion/completions/vendlingua-cli",
+                "fish/vendor_completions.d/vendlingua-cli.fish",
+                "icons/hicolor/scalable/apps/vendlingua.svg",
+                "man/man1/vendlingua-cli.1.gz",
+                "man/man1/vendlingua.1.gz",
+                "metainfo/org.example.vendlingua.metainfo.xml",
+                "mime/packages/vendlingua.xml",
+                "zsh/vendor-completions/_vendlingua-cli",
+            },
+        )
 
     def test_a_staged_tree_lies_below_its_folder(self) -> None:
         stage = self.folder / "a stage"
         install(self.prefix, DESTDIR=str(stage))
         self.assertFalse(self.prefix.exists())
         staged = stage / self.prefix.relative_to("/")
-        self.assertTrue((staged / "lib/vendlingua" / SETTINGS).exists())
+        self.assertTrue((staged / "lib/vendlingua/english.lng").exists())
         subprocess.run([staged / "bin/vendlingua-cli", "--version"], check=True)
 
 
@@ -116,7 +150,7 @@ class RunningTest(InstallTest):
 
     def setUp(self) -> None:
         super().setUp()
-        install(self.prefix, LANG="en_GB.UTF-8")
+        install(self.prefix)
 
     def test_the_command_line_program(self) -> None:
         english = Openings(self.programs / "english.lng")
@@ -129,39 +163,38 @@ class RunningTest(InstallTest):
     def test_the_desktop_program(self) -> None:
         english = Openings(self.programs / "english.lng")
         self.addCleanup(english.close)
-        program = subprocess.Popen(
-            [self.prefix / "bin/vendlingua"],
-            env=os.environ | {"QT_QPA_PLATFORM": "offscreen", "HOME": str(self.folder)},
-        )
-        try:
+        with started(self.prefix / "bin/vendlingua", self.folder) as program:
             self.assertTrue(english.wait(seconds=60))
             self.assertIsNone(program.poll())
-        finally:
-            program.kill()
-            program.wait()
 
 
-class FirstSettingsTest(InstallTest):
-    def settings(self) -> bytes:
-        return (self.programs / SETTINGS).read_bytes()
+class FirstStartTest(InstallTest):
+    """Which language file the window reads besides the reference, by the surroundings of its start."""
 
-    def test_the_language_of_the_system_is_set(self) -> None:
-        install(self.prefix, LANG="nl_BE.UTF-8")
-        self.assertEqual(self.settings(), b"Lingua=nederlands\r\n")
+    def setUp(self) -> None:
+        super().setUp()
+        install(self.prefix)
+
+    def assert_speaks(self, language: str, **environment: str) -> None:
+        opened = Openings(self.programs / f"{language}.lng")
+        self.addCleanup(opened.close)
+        with started(self.prefix / "bin/vendlingua", self.folder, **environment):
+            self.assertTrue(opened.wait(seconds=60))
+
+    def test_the_language_of_the_system(self) -> None:
+        self.assert_speaks("nederlands", LANG="nl_BE.UTF-8")
 
     def test_a_category_goes_before_the_general_locale(self) -> None:
-        install(self.prefix, LC_ALL="", LC_MESSAGES="sv_SE", LANG="da_DK")
-        self.assertEqual(self.settings(), b"Lingua=svenska\r\n")
+        self.assert_speaks("svenska", LC_ALL="", LC_MESSAGES="sv_SE", LANG="da_DK")
 
     def test_other_systems_get_english(self) -> None:
-        install(self.prefix, LC_ALL="frr_DE.UTF-8")
-        self.assertEqual(self.settings(), b"Lingua=english\r\n")
+        self.assert_speaks("english", LC_ALL="frr_DE.UTF-8")
 
     def test_a_choice_that_was_made_stays(self) -> None:
-        install(self.prefix, LANG="de_DE")
         (self.programs / SETTINGS).write_bytes(b"Lingua=dansk\r\n")
-        install(self.prefix, LANG="de_DE")
-        self.assertEqual(self.settings(), b"Lingua=dansk\r\n")
+        self.assert_speaks("dansk", LANG="de_DE")
+        install(self.prefix)
+        self.assertEqual((self.programs / SETTINGS).read_bytes(), b"Lingua=dansk\r\n")
 
 
 if __name__ == "__main__":

@@ -8,6 +8,7 @@
 #include <array>
 #include <utility>
 
+#include "desktop/interface_locale.h"
 #include "desktop/qt_path.h"
 #include "desktop/qt_text.h"
 
@@ -56,29 +57,6 @@ class InterfaceTexts : public QTranslator {
 
   const UiText& ui_text_;
 };
-
-// In lower case and without accents: the names of interface languages are written so.
-QString Plain(const QString& name) {
-  QString plain;
-  for (const QChar character : name.normalized(QString::NormalizationForm_D).toLower()) {
-    if (character.category() != QChar::Mark_NonSpacing) {
-      plain += character;
-    }
-  }
-  return plain;
-}
-
-// The language that calls itself `name`, as "espanol" does in "español de España".
-QLocale::Language LanguageOf(const QString& name) {
-  const QList<QLocale> all =
-      QLocale::matchingLocales(QLocale::AnyLanguage, QLocale::AnyScript, QLocale::AnyTerritory);
-  for (const QLocale& locale : all) {
-    if (Plain(locale.nativeLanguageName()).split(QLatin1Char(' ')).contains(Plain(name))) {
-      return locale.language();
-    }
-  }
-  return QLocale::C;
-}
 
 // Qt's translations into `language` in `folder`: later ones come before earlier ones. Of a language
 // of two countries both are there, because each may lack texts that the other has.
