@@ -15,7 +15,7 @@ constexpr int kDotsToCell = 1;       // between two cells
 constexpr int kFrameDots = 4;        // around all cells
 constexpr int kUsualDot = 3;         // pixels
 constexpr int kPictureDot = 6;
-constexpr std::size_t kUsualCells = 16;
+constexpr std::size_t kBoardCells = 16;
 
 constexpr int kCellWidth = static_cast<int>(Glyph::kColumns) + kDotsToCell;
 constexpr int kCellHeight = static_cast<int>(Glyph::kRows) + kDotsToCell;
@@ -62,7 +62,7 @@ void Glass::SetBacklight(Backlight backlight) {
 }
 
 QSize Glass::SizeInDots() const {
-  const auto cells = static_cast<int>(std::max(rows_.codes[0].size(), kUsualCells));
+  const auto cells = static_cast<int>(std::max(rows_.codes[0].size(), kBoardCells));
   constexpr auto kRows = static_cast<int>(std::tuple_size_v<decltype(GlassRows::codes)>);
   return {cells * kCellWidth - kDotsToCell + 2 * kFrameDots,
           kRows * kCellHeight - kDotsToCell + 2 * kFrameDots};
@@ -95,7 +95,7 @@ void Glass::paintEvent(QPaintEvent* /*event*/) {
 void Glass::Draw(QPainter& painter, int dot) const {
   const Light& light = kLights.at(static_cast<std::size_t>(backlight_));
   painter.fillRect(QRect(QPoint(), SizeInDots() * dot), QColor(light.glass));
-  const std::size_t cells = std::max(rows_.codes[0].size(), kUsualCells);
+  const std::size_t cells = std::max(rows_.codes[0].size(), kBoardCells);
   for (std::size_t row = 0; row < rows_.codes.size(); ++row) {
     const DisplayCodes codes = FitTo(RowAt(rows_, row, ticks_), cells);
     for (std::size_t cell = 0; cell < cells; ++cell) {
