@@ -3,7 +3,7 @@
 namespace vendlingua {
 namespace {
 
-bool TouchesBoard(const CellText& text, const CellRange& range) {
+bool TouchesBoard(const CellText& text, const CellRun& range) {
   for (std::size_t cell = range.first; cell < range.End(); ++cell) {
     if (text.BoardFills(cell)) {
       return true;

@@ -4,14 +4,14 @@
 #include <optional>
 #include <span>
 
-#include "core/desk/cell_range.h"
+#include "core/desk/cell_run.h"
 #include "core/desk/cell_text.h"
 
 namespace vendlingua {
 
 /// Other characters in the place of some cells.
 struct Replacement {
-  CellRange range;
+  CellRun range;
   DisplayCodes by;
 };
 

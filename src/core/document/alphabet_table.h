@@ -21,7 +21,7 @@ struct Glyph {
 
   /// Whether there is a dot; columns and rows count from the top left.
   bool HasDot(std::size_t column, std::size_t row) const {
-    return (rows.at(row) >> (kColumns - 1 - column) & 1U) != 0;
+    return (std::uint32_t{rows.at(row)} >> (kColumns - 1 - column) & 1U) != 0;
   }
 
   bool IsEmpty() const { return rows == decltype(rows){}; }

@@ -133,6 +133,8 @@ void MessageSet::AppendMessage() {
 
 bool MessageSet::Undo() {
   const EditStep step = history.StepBack();
+  // Clang 14 cannot compile std::views::reverse with GCC's library.
+  // NOLINTNEXTLINE(modernize-loop-convert)
   for (auto edit = step.rbegin(); edit != step.rend(); ++edit) {
     DestText.at(edit->message) = edit->before;
     LastMsg = edit->last_msg_before;

@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <optional>
-#include <ranges>
 #include <string>
 #include <utility>
 
@@ -104,9 +103,11 @@ class Planner {
   // What is left of a message's text without the elements that stand for the board's cells.
   static DisplayCodes WithoutBoardCells(const Message& message) {
     DisplayCodes cells(message.present.begin(), message.present.end());
-    for (const CellRange& range : std::views::reverse(message.board)) {
-      const auto first = cells.begin() + static_cast<std::ptrdiff_t>(range.first);
-      cells.erase(first, first + static_cast<std::ptrdiff_t>(range.count));
+    // Clang 14 cannot compile std::views::reverse with GCC's library.
+    // NOLINTNEXTLINE(modernize-loop-convert)
+    for (auto range = message.board.rbegin(); range != message.board.rend(); ++range) {
+      const auto first = cells.begin() + static_cast<std::ptrdiff_t>(range->first);
+      cells.erase(first, first + static_cast<std::ptrdiff_t>(range->count));
     }
     return LooseText(cells).WithoutPlaceholders();
   }

@@ -34,7 +34,7 @@ QSize SizeOfCells(std::size_t cells) {
 void PaintFields(QPainter& painter, QPoint place, const ShownCells& cells) {
   const std::size_t count = cells.codes.size();
   painter.fillRect(PlaceOf(place, 0, count), QColor(kOrdinaryCell));
-  for (const CellRange& hit : cells.hits) {
+  for (const CellRun& hit : cells.hits) {
     painter.fillRect(PlaceOf(place, hit.first, hit.count), QColor(kHit));
   }
   for (std::size_t cell = 0; cell < count; ++cell) {

@@ -7,7 +7,7 @@
 #include <cstddef>
 #include <vector>
 
-#include "core/desk/cell_range.h"
+#include "core/desk/cell_run.h"
 #include "core/document/display_code.h"
 
 namespace vendlingua {
@@ -16,7 +16,7 @@ namespace vendlingua {
 struct ShownCells {
   DisplayCodes codes;
   std::vector<bool> board_fills;
-  std::vector<CellRange> hits;  ///< of a search
+  std::vector<CellRun> hits;  ///< of a search
 };
 
 /// From one cell to the next, and from top to bottom, in pixels.

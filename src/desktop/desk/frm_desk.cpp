@@ -38,6 +38,7 @@ QString FilterKey() { return QStringLiteral("filter"); }
 
 // The user's own settings of this window, beside those that the program keeps in its settings file.
 QSettings DeskSettings() {
+  // NOLINTNEXTLINE(modernize-return-braced-init-list)
   return QSettings(QSettings::NativeFormat, QSettings::UserScope, QStringLiteral("vendlingua"),
                    QStringLiteral("desk"));
 }

@@ -27,7 +27,7 @@ QString AsDrawn(const QString& text, const Alphabet& alphabet) {
   return drawn;
 }
 
-CellRange RangeOf(const QRegularExpressionMatch& match) {
+CellRun RangeOf(const QRegularExpressionMatch& match) {
   return {static_cast<std::size_t>(match.capturedStart()),
           static_cast<std::size_t>(match.capturedLength())};
 }
@@ -56,9 +56,9 @@ bool TextSearch::Hits(std::span<const DisplayCode> codes, const Alphabet& alphab
   return !HitsIn(codes, alphabet).empty();
 }
 
-std::vector<CellRange> TextSearch::HitsIn(std::span<const DisplayCode> codes,
-                                          const Alphabet& alphabet) const {
-  std::vector<CellRange> hits;
+std::vector<CellRun> TextSearch::HitsIn(std::span<const DisplayCode> codes,
+                                        const Alphabet& alphabet) const {
+  std::vector<CellRun> hits;
   for (const Replaced& hit : Replace(codes, QString(), alphabet)) {
     hits.push_back(hit.range);
   }

@@ -6,7 +6,7 @@
 #include <span>
 #include <vector>
 
-#include "core/desk/cell_range.h"
+#include "core/desk/cell_run.h"
 #include "core/document/alphabet.h"
 #include "core/document/display_code.h"
 
@@ -35,11 +35,11 @@ class TextSearch {
   bool Hits(std::span<const DisplayCode> codes, const Alphabet& alphabet) const;
 
   /// The cells of each hit, from left to right. A hit without a cell is none.
-  std::vector<CellRange> HitsIn(std::span<const DisplayCode> codes, const Alphabet& alphabet) const;
+  std::vector<CellRun> HitsIn(std::span<const DisplayCode> codes, const Alphabet& alphabet) const;
 
   /// A hit and what takes its place: "\1" is the first group of a regular expression.
   struct Replaced {
-    CellRange range;
+    CellRun range;
     QString by;
   };
   std::vector<Replaced> Replace(std::span<const DisplayCode> codes, const QString& by,
