@@ -136,9 +136,13 @@ void RunApply(Session& session, const ApplyOptions& options) {
   RequireUsable(options);
   session.Open(options.file);
   const bool is_one = options.folder.empty();
-  const std::vector<TableFile> tables =
-      is_one ? std::vector{TableFile{options.table, session.FindLanguage(options.language)}}
-             : TablesIn(options.folder, session.set());
+  std::vector<TableFile> tables;
+  if (is_one) {
+    const int language = session.FindLanguage(options.language);
+    tables.push_back({options.table, language});
+  } else {
+    tables = TablesIn(options.folder, session.set());
+  }
   const std::vector<Application> applications = PlansOf(session, tables, options);
   for (const Application& application : applications) {
     for (const std::string& warning : application.warnings) {

@@ -113,7 +113,7 @@ void Glass::DrawCell(QPainter& painter, QPoint place, int dot, DisplayCode code)
   const Glyph& glyph = Alphabet::Of(display_type_).GlyphOf(code);
   for (std::size_t row = 0; row < Glyph::kRows; ++row) {
     for (std::size_t column = 0; column < Glyph::kColumns; ++column) {
-      const bool is_lit = (glyph.rows.at(row) >> (Glyph::kColumns - 1 - column) & 1U) != 0;
+      const bool is_lit = glyph.HasDot(column, row);
       painter.fillRect(place.x() + static_cast<int>(column) * dot,
                        place.y() + static_cast<int>(row) * dot, lit, lit,
                        QColor(is_lit ? light.dot : light.cell));
