@@ -20,7 +20,7 @@ from concurrent.futures import ThreadPoolExecutor
 from pathlib import Path
 
 ROOT = Path(__file__).resolve().parents[1]
-SOURCES_AT_ONCE = 20
+SOURCES_AT_ONCE = 60
 # The paths through the assertions of a test take the analyzer longer than all of src/; its findings
 # there would say that an assertion can fail.
 # Speed and large products do not matter there, and "private slots:" looks redundant.
@@ -67,9 +67,11 @@ def is_ours(source: Path, build: Path) -> bool:
     return build not in source.parents and any(folder in source.parents for folder in below)
 
 
-def arguments(command: str, source: Path) -> list[str]:
+def arguments(command: str, sources: list[Path]) -> list[str]:
     """What Clang needs of GCC's command line: where headers are, macros and the language."""
-    kept = ["-Wno-unknown-warning-option", "-iquote", str(source.parent)]
+    kept = ["-Wno-unknown-warning-option"]
+    for folder in sorted({source.parent for source in sources}):
+        kept += ["-iquote", str(folder)]
     words = iter(shlex.split(command))
     for word in words:
         if word in ("-isystem", "-I"):
@@ -99,7 +101,7 @@ def large_files(build: Path, wanted: str) -> list[LargeFile]:
         for start in range(0, len(sources), SOURCES_AT_ONCE):
             some = sorted(sources)[start : start + SOURCES_AT_ONCE]
             path = build / "lint" / f"{len(files)}.cpp"
-            files.append(LargeFile(path, arguments(command, some[0]), some))
+            files.append(LargeFile(path, arguments(command, some), some))
     return files
 
 

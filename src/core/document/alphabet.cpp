@@ -54,7 +54,7 @@ bool IsLatinLetter(char32_t character) {
 
 bool IsCyrillic(char32_t character) { return character >= 0x400 && character <= 0x4FF; }
 
-bool IsOfWord(char32_t character) {
+bool IsLetterOrDigit(char32_t character) {
   return IsLatinLetter(character) || IsCyrillic(character) ||
          (character >= U'0' && character <= U'9');
 }
@@ -79,8 +79,8 @@ void MakeWordsCyrillic(std::u32string& text) {
     return;
   }
   for (auto begin = text.begin(); begin != text.end();) {
-    begin = std::find_if(begin, text.end(), IsOfWord);
-    const auto end = std::find_if_not(begin, text.end(), IsOfWord);
+    begin = std::find_if(begin, text.end(), IsLetterOrDigit);
+    const auto end = std::find_if_not(begin, text.end(), IsLetterOrDigit);
     MakeCyrillic({begin, end});
     begin = end;
   }

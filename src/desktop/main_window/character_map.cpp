@@ -15,8 +15,8 @@ namespace {
 
 constexpr int kColumns = 16;
 constexpr int kRows = 16;
-constexpr int kCellWidth = 20;
-constexpr int kCellHeight = 23;
+constexpr int kMapCellWidth = 20;
+constexpr int kMapCellHeight = 23;
 
 }  // namespace
 
@@ -32,13 +32,13 @@ CharacterMap::CharacterMap(QWidget* parent) : QWidget(parent) {
     const QString hint = QStringLiteral("ALT + 0%1").arg(code);
     cell->setToolTip(hint);
     cell->setAccessibleName(ToPlainText(cell->text()) + QLatin1Char(' ') + hint);
-    cell->setGeometry(code % kColumns * kCellWidth, code / kColumns * kCellHeight, kCellWidth,
-                      kCellHeight);
+    cell->setGeometry(code % kColumns * kMapCellWidth, code / kColumns * kMapCellHeight,
+                      kMapCellWidth, kMapCellHeight);
     Label1_.at(static_cast<std::size_t>(code - 1)) = cell;
   }
 }
 
-QSize CharacterMap::MapSize() { return {kColumns * kCellWidth, kRows * kCellHeight}; }
+QSize CharacterMap::MapSize() { return {kColumns * kMapCellWidth, kRows * kMapCellHeight}; }
 
 void CharacterMap::SetDisplayFont(const QFont& font) {
   for (QLabel* cell : Label1_) {

@@ -10,14 +10,10 @@
 
 #include "core/checks/check_basis.h"
 #include "core/checks/language_check.h"
+#include "support/display_types.h"
 #include "support/message_files.h"
 
 namespace vendlingua::test {
-
-inline constexpr std::size_t kNormal = 0;
-inline constexpr std::size_t kCyrillic = 1;
-inline constexpr std::size_t kKatakana = 2;
-inline constexpr std::size_t kHebrew = 3;
 
 /// A set of three languages that is put together message by message: the reference "Default",
 /// "ITALIANO", which is the origin and the same, and "ENGLISH", which is checked. It has no name

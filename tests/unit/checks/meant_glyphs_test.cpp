@@ -4,17 +4,17 @@
 
 #include <string_view>
 
+#include "support/display_types.h"
 #include "support/message_files.h"
 
 namespace vendlingua {
 namespace {
 
 using test::Codes;
-
-constexpr std::size_t kNormal = 0;
-constexpr std::size_t kCyrillic = 1;
-constexpr std::size_t kKatakana = 2;
-constexpr std::size_t kHebrew = 3;
+using test::kCyrillic;
+using test::kHebrew;
+using test::kKatakana;
+using test::kNormal;
 
 bool IsFoundOn(std::size_t display, std::string_view windows_1252) {
   return DrawsAnotherGlyphThanMeant(Alphabet::Of(display), Codes(windows_1252));

@@ -2,19 +2,19 @@
 
 #include <gmock/gmock.h>
 
+#include "support/display_types.h"
 #include "support/message_files.h"
 
 namespace vendlingua {
 namespace {
 
 using test::AllCodes;
+using test::kCyrillic;
+using test::kHebrew;
+using test::kKatakana;
+using test::kNormal;
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
-
-constexpr std::size_t kNormal = 0;
-constexpr std::size_t kCyrillic = 1;
-constexpr std::size_t kKatakana = 2;
-constexpr std::size_t kHebrew = 3;
 
 class EveryAlphabet : public ::testing::TestWithParam<std::size_t> {};
 

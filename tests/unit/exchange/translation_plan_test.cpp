@@ -9,7 +9,6 @@ namespace vendlingua {
 namespace {
 
 using Kind = TableProblem::Kind;
-using test::Codes;
 using test::MesFile;
 using test::Text;
 using ::testing::ElementsAre;
