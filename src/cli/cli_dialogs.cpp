@@ -2,6 +2,7 @@
 
 #include <iostream>
 
+#include "core/document/alphabet.h"
 #include "core/texts/valid_utf8.h"
 
 namespace vendlingua::cli {
@@ -60,6 +61,18 @@ std::optional<std::filesystem::path> CliDialogs::OpenFile(const FileRequest& req
 std::optional<std::filesystem::path> CliDialogs::SaveFile(const FileRequest& request) {
   auto path = GivenFile(request.purpose);
   return path ? WithDefaultExtension(*path, request.default_extension) : path;
+}
+
+// They are listed and left undecided: nothing is written then.
+std::vector<ConflictAnswer> CliDialogs::ResolveConflicts(const ConflictRequest& request) {
+  const Alphabet& alphabet = Alphabet::Of(request.display);
+  for (std::size_t i = 0; i < request.conflicts.size(); ++i) {
+    const EditConflict& conflict = request.conflicts[i];
+    std::cerr << ValidUtf8(request.questions[i]) << " In the file: \""
+              << alphabet.TextOf(conflict.theirs) << "\", to be saved: \""
+              << alphabet.TextOf(conflict.mine) << "\"\n";
+  }
+  return {};
 }
 
 std::optional<std::filesystem::path> CliDialogs::GivenFile(FilePurpose purpose) const {

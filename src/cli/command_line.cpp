@@ -51,6 +51,7 @@ void AddGrammar(CLI::App& app, Session& session) {
   AddUpdate(app, session);
   AddRename(app, session);
   AddDisplayType(app, session);
+  AddRecover(app, session);
 }
 
 ExitStatus RunCommandLine(Session& session, int argc, const char* const* argv) {

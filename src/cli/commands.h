@@ -66,6 +66,9 @@ void AddRename(CLI::App& app, Session& session);
 /// Changes the display type that a ".MES" file declares.
 void AddDisplayType(CLI::App& app, Session& session);
 
+/// Takes a save back that was interrupted.
+void AddRecover(CLI::App& app, Session& session);
+
 }  // namespace vendlingua::cli
 
 #endif  // VENDLINGUA_CLI_COMMANDS_H_

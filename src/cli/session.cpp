@@ -7,10 +7,12 @@
 #include <iostream>
 #include <system_error>
 
+#include "core/formats/held_messages.h"
 #include "core/formats/message_file.h"
 #include "core/operations/interface_language.h"
 #include "core/platform/errors.h"
 #include "core/platform/executable_folder.h"
+#include "core/platform/in_place_change.h"
 #include "core/texts/valid_utf8.h"
 
 namespace vendlingua::cli {
@@ -72,6 +74,8 @@ void Session::Open(const std::filesystem::path& file) {
                         ": is no binary message file; the command \"import\" makes one of an "
                         "assembler source");
   }
+  // The editor offers to put a file back whose save was interrupted; a script has to say so.
+  ReadSharedFile(file);
   dialogs.files[FilePurpose::kOpenMessages] = file;
   if (engine.opener.Open() != OpenOutcome::kOpened) {
     throw CommandFailed(PathText(file) + ": was not opened");
@@ -97,6 +101,7 @@ void Session::OpenDestination(int language, int message) {
   // Moving stores the message that is left, so the move comes before the texts are read.
   engine.editing.GoTo(static_cast<std::size_t>(message));
   engine.languages.ChooseDestination(language);
+  WarnIfItEndsEarly(set(), language);
 }
 
 void Session::Save() {
@@ -160,6 +165,14 @@ int FindLanguage(const MessageSet& file, const std::string& number_or_name) {
                         number_or_name + "\"; give the number");
   }
   return static_cast<int>(found - names.begin());
+}
+
+void WarnIfItEndsEarly(const MessageSet& file, int language) {
+  if (EndsEarly(file, language)) {
+    const UiSentence notice(UiTextId::kLanguageEndsEarly, language);
+    std::cerr << "vendlingua-cli: warning: " << PathText(file.CurrentFileName) << ": "
+              << notice.In(EnglishTexts()) << '\n';
+  }
 }
 
 void RefuseToOverwrite(const std::filesystem::path& input, const std::filesystem::path& output) {

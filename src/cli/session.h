@@ -95,6 +95,9 @@ class Session {
 /// The same of any file.
 int FindLanguage(const MessageSet& file, const std::string& number_or_name);
 
+/// Warns on stderr when the file ends before the last message of a language that is read from it.
+void WarnIfItEndsEarly(const MessageSet& file, int language);
+
 /// Throws CommandFailed when `output` is the file `input`, which it would overwrite.
 void RefuseToOverwrite(const std::filesystem::path& input, const std::filesystem::path& output);
 

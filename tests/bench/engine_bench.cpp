@@ -30,6 +30,9 @@ class BenchDialogs : public Dialogs {
   std::optional<fs::path> SaveFile(const FileRequest& request) override {
     return request.purpose == FilePurpose::kIdentifiedCopy ? copy : flash_file;
   }
+  std::vector<ConflictAnswer> ResolveConflicts(const ConflictRequest& /*request*/) override {
+    return {};
+  }
   void LetPendingEventsRun() override {}
 };
 

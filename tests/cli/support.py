@@ -41,6 +41,7 @@ COMMANDS = (
     "update",
     "rename",
     "display-type",
+    "recover",
 )
 
 DONE = 0

@@ -115,9 +115,13 @@ class NewLanguageTest(CliTest):
             err = self.refused("new-language", "A.MES", f"--from={start}", "--name=X").err
             self.assertIn(f"A.MES: has no language {start}", err)
 
-    def test_a_start_that_is_cut_is_refused(self) -> None:
-        self.write("A.MES", self.file.content()[: self.file.at(2, 1) + 1])
-        self.refused("new-language", "A.MES", "--from=2", "--name=X")
+    def test_a_start_that_is_cut_has_blanks_for_what_is_missing(self) -> None:
+        cut = self.file.content()[: self.file.at(2, 1) + 1]
+        self.write("A.MES", cut)
+        err = self.done_with_message("new-language", "A.MES", "--from=2", "--name=X").err
+        self.assertIn("A.MES: Language 2 ends early in the file", err)
+        gap = bytes(self.file.block(3) - len(cut))
+        self.assertEqual(self.read("A.MES"), cut + gap + b"X".ljust(20) + b"20002       ")
 
     def test_an_msx_file_takes_no_new_language(self) -> None:
         self.write("A.MSX", msx_file(1))

@@ -35,6 +35,14 @@ class PutIntoMesFileTest(CliTest):
         self.assertEqual(printed["text"], "Tè  ")
         self.assertEqual(printed["messages"], [])
 
+    def test_a_language_that_ends_early_is_completed(self) -> None:
+        file = MesFile()
+        cut = file.content()[: file.at(2, 1) + 1]
+        self.write("A.MES", cut)
+        self.done_with_message("put", "A.MES", "--language=2", "--message=0", "--text=new")
+        self.assertEqual(self.read("A.MES"), cut[: file.at(2, 0)] + b"new " + b"2   " + b"    ")
+        self.done("verify", "A.MES")
+
     def test_a_short_text_is_padded_with_blanks(self) -> None:
         self.assert_stored(b"ab  ", "--text=ab")
 
@@ -159,7 +167,9 @@ class PutIntoMesFileTest(CliTest):
     def test_a_block_that_was_never_saved_whole_is_completed_with_blanks(self) -> None:
         file = MesFile()
         self.write("A.MES", file.content()[: file.at(2, 1)])
-        self.put("--language=2", "--message=2", "--text=new")
+        arguments = ("A.MES", "--language=2", "--message=2", "--text=new")
+        err = self.done_with_message("put", *arguments).err
+        self.assertIn("A.MES: Language 2 ends early in the file", err)
         expected = file.content()[: file.at(2, 1)] + b"    " + b"new "
         self.assertEqual(self.read("A.MES"), expected)
 

@@ -241,6 +241,7 @@ class MadeSamplesTest(CliTest):
             self.done(*examples.pop(command))
         self.done(*examples.pop("sections"))
         self.done(*examples.pop("verify"))
+        self.done(*examples.pop("recover"))
         self.assertEqual(examples, {})
 
     def assert_flash_file(self, name: str, start: int, image: bytes) -> None:

@@ -91,18 +91,19 @@ class TextsOfMesFileTest(CliTest):
             err = self.refused("texts", "A.MES", "--language", language).err
             self.assertIn(f"A.MES: has no language {language}", err)
 
-    def test_a_file_that_ends_inside_a_message_is_refused(self) -> None:
+    def test_blanks_stand_for_what_a_language_lacks_that_ends_early(self) -> None:
         file = MesFile()
-        for end in (file.at(2, 1) + 1, file.at(2, 2) + 3):
+        for end, texts in (
+            (file.at(2, 0), ["    ", "    ", "    "]),
+            (file.at(2, 1), ["2000", "    ", "    "]),
+            (file.at(2, 1) + 1, ["2000", "2   ", "    "]),
+            (file.at(2, 2) + 3, ["2000", "2111", "222 "]),
+        ):
             self.write("A.MES", file.content()[:end])
-            err = self.refused("texts", "A.MES", "--language", "2").err
-            self.assertRegex(err, r"A\.MES: the file ends inside message [12] of language 2")
+            result = self.done_with_message("texts", "A.MES", "--language", "2", "--json")
+            self.assertEqual([message["text"] for message in result.json["messages"]], texts)
+            self.assertIn("A.MES: Language 2 ends early in the file", result.err)
             self.assertEqual(self.texts("A.MES", 1), ["1000", "1111", "1222"])
-
-    def test_messages_that_were_never_saved_are_blank(self) -> None:
-        file = MesFile()
-        self.write("A.MES", file.content()[: file.at(2, 1)])
-        self.assertEqual(self.texts("A.MES", 2), ["2000", "    ", "    "])
 
     def texts(self, name: str, language: int) -> list[str]:
         printed = self.done("texts", name, "--language", str(language), "--json").json

@@ -170,9 +170,15 @@ class UpdateTest(CliTest):
         for content in (b"", OLD.content()[:40], SOURCE):
             self.write("OLD.MES", content)
             self.assertIn("OLD.MES", self.refused_update("--report=report.csv"))
-        cut_message = OLD.content()[:-5]
-        self.write("OLD.MES", cut_message)
-        self.assertIn("OLD.MES", self.refused_update("--report=report.csv"))
+
+    def test_a_language_that_ends_early_is_carried_over_with_a_warning(self) -> None:
+        self.write("OLD.MES", OLD.content()[: OLD.at(3, 1)])
+        err = self.done_with_message(
+            "update", "new.src", "--from=OLD.MES", "--output=NEW.MES"
+        ).err
+        self.assertIn("OLD.MES: Language 3 ends early", err)
+        self.assertNotIn("Language 2", err)
+        self.assertEqual(self.read("NEW.MES")[OLD.at(3, 0) :][:4], b"Eins")
 
     def test_nothing_is_written_when_the_report_cannot_be(self) -> None:
         self.refused_update("--report=missing/report.csv")

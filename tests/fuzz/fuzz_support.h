@@ -35,6 +35,9 @@ class FuzzDialogs : public Dialogs {
   std::string InputBox(const InputRequest& request) override;
   std::optional<std::filesystem::path> OpenFile(const FileRequest& request) override;
   std::optional<std::filesystem::path> SaveFile(const FileRequest& request) override;
+  std::vector<ConflictAnswer> ResolveConflicts(const ConflictRequest& /*request*/) override {
+    return {};
+  }
   void LetPendingEventsRun() override {}
 
  private:

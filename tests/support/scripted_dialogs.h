@@ -20,10 +20,13 @@ class ScriptedDialogs : public Dialogs {
   std::deque<std::filesystem::path> file_answers;  ///< an empty path: cancelled
   std::deque<MessageAnswer> yes_no_answers;
 
+  std::deque<std::vector<ConflictAnswer>> conflict_answers;
+
   std::vector<MessageRequest> messages;
   std::vector<InputRequest> inputs;
   std::vector<FileRequest> open_requests;
   std::vector<FileRequest> save_requests;
+  std::vector<ConflictRequest> conflict_requests;
   int pending_event_runs = 0;
 
   MessageAnswer MessageBox(const MessageRequest& request) override {
@@ -45,6 +48,17 @@ class ScriptedDialogs : public Dialogs {
   std::optional<std::filesystem::path> SaveFile(const FileRequest& request) override {
     save_requests.push_back(request);
     return TakeFile("a file to save");
+  }
+
+  /// Leaves conflicts undecided when no answers are left.
+  std::vector<ConflictAnswer> ResolveConflicts(const ConflictRequest& request) override {
+    conflict_requests.push_back(request);
+    if (conflict_answers.empty()) {
+      return {};
+    }
+    std::vector<ConflictAnswer> answers = conflict_answers.front();
+    conflict_answers.pop_front();
+    return answers;
   }
 
   void LetPendingEventsRun() override { ++pending_event_runs; }

@@ -15,7 +15,7 @@ struct DisplayTypeOptions {
 
 void RunDisplayType(Session& session, const DisplayTypeOptions& options) {
   session.Open(options.file);
-  StoreDisplayType(session.set(), options.type);
+  StoreDisplayType(session.engine.workspace, session.dialogs, options.type);
   session.Print({{"file", options.file}, {"displayType", options.type}},
                 options.file + ": display type " + std::to_string(options.type) + "\n");
 }

@@ -61,8 +61,9 @@ struct OutputFile {
 };
 
 OutputFile OneLanguage(const Session& session, const ExportOptions& options, int origin) {
-  TranslationTable table =
-      TableOf(session.set(), session.FindLanguage(options.language), origin, session.alphabet());
+  const int language = session.FindLanguage(options.language);
+  WarnIfItEndsEarly(session.set(), language);
+  TranslationTable table = TableOf(session.set(), language, origin, session.alphabet());
   if (!options.target_language.empty()) {
     table.target_language = options.target_language;
   }
@@ -75,6 +76,7 @@ std::vector<OutputFile> AllLanguages(const Session& session, const ExportOptions
   const auto languages = static_cast<int>(session.set().language_names.size());
   std::vector<OutputFile> files;
   for (int language = 1; language < languages; ++language) {
+    WarnIfItEndsEarly(session.set(), language);
     const TranslationTable table = TableOf(session.set(), language, origin, session.alphabet());
     const fs::path name =
         table.target_language + (format == TableFormat::kXliff ? ".xliff" : ".csv");

@@ -27,6 +27,7 @@ void RunNewLanguage(Session& session, const NewLanguageOptions& options) {
     throw CommandFailed(options.file + ": a .MSX file cannot take a new language");
   }
   const int from = session.FindLanguage(options.from.value_or("0"));
+  WarnIfItEndsEarly(session.set(), from);
   session.engine.languages.ChooseOrigin(0);
   if (session.engine.languages.StartNewLanguage(from) != DestinationOutcome::kOpened) {
     throw CommandFailed(options.file + ": no new language was started");

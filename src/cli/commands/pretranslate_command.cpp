@@ -35,14 +35,16 @@ void RequireOneDisplay(const Session& session, const MessageSet& older) {
 std::vector<CarriedMessage> Plan(const Session& session, const MessageSet& older, int language,
                                  const PretranslateOptions& options) {
   const MessageSet& set = session.set();
-  const std::string& from_language =
-      options.from_language.empty() ? session.LanguageName(language) : options.from_language;
+  const int from_language =
+      FindLanguage(older, options.from_language.empty() ? session.LanguageName(language)
+                                                        : options.from_language);
+  WarnIfItEndsEarly(older, from_language);
   return Pretranslate(
       {.width = set.Width(),
        .origin = TextsToCarry(set, 0),
        .reference = TextsToCarry(set, session.FindLanguage(options.reference)),
        .older_reference = TextsToCarry(older, FindLanguage(older, options.reference)),
-       .older_texts = TextsToCarry(older, FindLanguage(older, from_language))},
+       .older_texts = TextsToCarry(older, from_language)},
       TextsToCarry(set, language));
 }
 

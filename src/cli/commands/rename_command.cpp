@@ -4,6 +4,7 @@
 #include "cli/commands.h"
 #include "cli/options.h"
 #include "core/operations/rename_language.h"
+#include "core/operations/taken_names.h"
 
 namespace vendlingua::cli {
 namespace {
@@ -16,7 +17,7 @@ struct RenameOptions {
 
 void RunRename(Session& session, const RenameOptions& options) {
   session.Open(options.file);
-  MessageSet& set = session.set();
+  const MessageSet& set = session.set();
   if (!set.IsMes()) {
     throw CommandFailed(options.file +
                         ": in a .MSX file a message names the language; change that one");
@@ -32,7 +33,7 @@ void RunRename(Session& session, const RenameOptions& options) {
   if (NameIsTaken(set, language, name)) {
     throw CommandFailed(options.file + ": another language is named \"" + name.Caption() + "\"");
   }
-  RenameLanguage(set, language, name);
+  RenameLanguage(session.engine.workspace, session.dialogs, language, name);
   session.Print({{"file", options.file}, {"language", language}, {"name", name.Caption()}},
                 "language " + std::to_string(language) + ": " + name.Caption() + "\n");
 }

@@ -21,6 +21,7 @@ void RunTexts(Session& session, const TextsOptions& options) {
   const MessageSet& set = session.set();
   const Alphabet& alphabet = session.alphabet();
   const MessageTexts texts = TextsOf(set, language);
+  WarnIfItEndsEarly(session.set(), language);
   Json messages = Json::array();
   std::string text;
   for (std::size_t i = 0; i < set.MessageCount(); ++i) {

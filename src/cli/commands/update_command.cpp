@@ -8,6 +8,7 @@
 #include "cli/options.h"
 #include "core/formats/message_file.h"
 #include "core/platform/errors.h"
+#include "core/platform/files.h"
 #include "core/platform/staged_file.h"
 #include "core/transfer/language_update.h"
 
@@ -62,6 +63,9 @@ void RunUpdate(Session& session, const UpdateOptions& options) {
   RefuseTableInPlaceOf({options.import.source, options.from, output}, options.report);
   const MessageSet older = ReadMessageFile(options.from);
   RequireDistinctNames(older);
+  for (int language = 1; older.HoldsLanguage(language); ++language) {
+    WarnIfItEndsEarly(older, language);
+  }
 
   StagedFile staged(output);
   const std::filesystem::path& place = staged.HandOver();
@@ -71,7 +75,7 @@ void RunUpdate(Session& session, const UpdateOptions& options) {
   }
   session.set().LoadDisplayType(older.DisplayType);
   const std::vector<CarriedLanguage> languages = CarryLanguages(session.set(), older);
-  ApplyPatches(place, PatchesFor(session.set(), languages));
+  WriteFile(place, Patched(session.set().file_content, PatchesFor(session.set(), languages)));
 
   CarryReport report(session.alphabet(), older.Width());
   for (const CarriedLanguage& language : languages) {

@@ -57,6 +57,8 @@ struct Workspace {
   std::string LanguageName;
   InterfaceLanguages interface_languages;
   Folders folders;
+  /// The user was told, once, that files of some folder cannot be kept safe as others are.
+  bool told_of_missing_safety = false;
 };
 
 /// Puts the set and the window back as they were, unless the operation says that it succeeded: a

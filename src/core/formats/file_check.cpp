@@ -8,15 +8,15 @@
 
 #include "core/formats/mes_file.h"
 #include "core/formats/mes_layout.h"
+#include "core/formats/srecord.h"
 #include "core/formats/srecord_check.h"
 #include "core/platform/errors.h"
-#include "core/platform/files.h"
+#include "core/platform/in_place_change.h"
+#include "core/platform/locked_file.h"
+#include "core/texts/english_texts.h"
 
 namespace vendlingua {
 namespace {
-
-// An S-record file of a 16 MiB image has 48 MiB.
-constexpr std::uint64_t kSRecordFileLimit = 1U << 30U;
 
 void CheckDimensions(const MessageSet& set, Findings& findings) {
   if (set.LastMsg > set.LangStride) {
@@ -45,12 +45,32 @@ void CheckNames(const std::vector<std::string>& names, Findings& findings) {
   }
   for (auto name = names.begin() + 1; name != names.end(); ++name) {
     const auto language = name - names.begin();
-    if (name->empty()) {
+    if (name->empty() || name->find_first_not_of('\0') == std::string::npos) {
       findings.push_back(fmt::format("language {} has no name", language));
     } else if (std::find(names.begin() + 1, name, *name) != name) {
       findings.push_back(
           fmt::format("language {} has the name \"{}\" of a language before it", language, *name));
     }
+  }
+}
+
+// A block whose bytes never reached the disk, or that lay in the gap before another one.
+void CheckForNulBytes(const MessageSet& set, std::string_view content, int language,
+                      Findings& findings) {
+  std::size_t count = 0;
+  std::size_t first = 0;
+  for (std::size_t message = set.MessageCount(); message-- > 0;) {
+    const auto at = static_cast<std::size_t>(MesMessageOffset(set, language, message));
+    const std::string_view cells = content.substr(std::min(at, content.size()), set.Width());
+    if (!cells.empty() && cells.find_first_not_of('\0') == std::string_view::npos) {
+      ++count;
+      first = message;
+    }
+  }
+  if (count > 0) {
+    findings.push_back(
+        fmt::format("language {}: {} of its messages are NUL bytes, the first is message {}",
+                    language, count, first));
   }
 }
 
@@ -74,6 +94,9 @@ void CheckBlocks(const MessageSet& set, std::string_view content, Findings& find
                               : "bytes that are no language block stand behind the last one");
   }
   CheckNames(names, findings);
+  for (int language = 0; language <= last; ++language) {
+    CheckForNulBytes(set, content, language, findings);
+  }
 }
 
 Findings CheckMes(std::string_view content) {
@@ -94,9 +117,13 @@ Findings CheckMes(std::string_view content) {
 }  // namespace
 
 Findings CheckFile(const std::filesystem::path& path) {
-  const std::string content = ReadFile(path, kSRecordFileLimit);
+  LockedFile file(path, LockedFile::Access::kRead);
+  const std::string content = file.Read(kSRecordFileLimit);
   if (content.empty()) {
     return {"the file is empty"};
+  }
+  if (PendingChangeOf(path, content).state == PendingChange::State::kInterrupted) {
+    return {EnglishTexts()[UiTextId::kSaveWasInterrupted]};
   }
   const bool is_mes = static_cast<std::uint8_t>(content.front()) < kFirstSourceByte;
   return is_mes ? CheckMes(content) : CheckSRecords(content);

@@ -34,4 +34,9 @@ std::size_t MessagesHeld(const MessageSet& set, int language) {
   return language == 0 ? set.MessageCount() : MessagesInLines(set, language);
 }
 
+bool EndsEarly(const MessageSet& set, int language) {
+  return set.IsMes() && set.HoldsLanguage(language) &&
+         MessagesHeld(set, language) < set.MessageCount();
+}
+
 }  // namespace vendlingua

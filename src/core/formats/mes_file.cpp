@@ -7,7 +7,6 @@
 #include "core/document/name_field.h"
 #include "core/formats/hex.h"
 #include "core/platform/errors.h"
-#include "core/platform/files.h"
 
 namespace vendlingua {
 namespace {
@@ -99,10 +98,6 @@ DisplayCodes MesCells(const MessageSet& set, std::string_view content, int langu
   const auto offset = static_cast<std::size_t>(MesMessageOffset(set, language, 0));
   const std::size_t size = set.MessageCount() * set.Width();
   const std::string_view bytes = content.substr(std::min(offset, content.size()), size);
-  if (bytes.size() % set.Width() != 0) {
-    throw FileError(set.CurrentFileName, UiTextId::kEndsInsideMessage, bytes.size() / set.Width(),
-                    language);
-  }
   return FitTo(CodesFromBytes(bytes), size);
 }
 
@@ -114,10 +109,6 @@ MessageTexts MesTexts(const MessageSet& set, std::string_view content, int langu
     texts.emplace_back(std::span(cells).subspan(start, set.Width()));
   }
   return texts;
-}
-
-MessageTexts ReadMesTexts(const MessageSet& set, int language) {
-  return MesTexts(set, ReadFile(set.CurrentFileName), language);
 }
 
 }  // namespace vendlingua

@@ -23,6 +23,8 @@ struct MesHeader {
   std::uint32_t mem_length;
 
   std::size_t DisplayType() const { return (flags & 12U) / 4; }
+
+  bool operator==(const MesHeader&) const = default;
 };
 
 /// Decodes the first 24 bytes of `content`. Throws Error when there are fewer, or when a field is
@@ -50,16 +52,12 @@ void ApplyMesHeader(const MesHeader& header, MessageSet& set);
 std::vector<std::string> ReadMesNames(const MessageSet& set, std::string_view content);
 
 /// Messages 0 to `LastMsg` of block `language` of the file whose content is given, one behind the
-/// other. A message that lies wholly behind the end of the file reads as blanks: the last block of
-/// a file ends with the last message that was saved into it. Throws FileError when the file ends
-/// inside a message.
+/// other. Cells behind the end of the file read as blanks: the last block of a file ends with the
+/// last message that was saved into it, or wherever a save of it was interrupted.
 DisplayCodes MesCells(const MessageSet& set, std::string_view content, int language);
 
 /// The same as texts of a set.
 MessageTexts MesTexts(const MessageSet& set, std::string_view content, int language);
-
-/// The same of `CurrentFileName`. Throws FileError when it cannot be read, too.
-MessageTexts ReadMesTexts(const MessageSet& set, int language);
 
 }  // namespace vendlingua
 

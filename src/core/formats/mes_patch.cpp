@@ -28,13 +28,6 @@ std::string OriginMessages(const MessageSet& set) {
   return messages;
 }
 
-// A file that was cut by another program: with a patch alone it would be no message file any more.
-void RequireHeader(const MessageSet& set, std::uintmax_t file_size) {
-  if (file_size < kMesHeaderBytes) {
-    throw FileError(set.CurrentFileName, UiTextId::kHeaderIsLost, file_size);
-  }
-}
-
 // A block that does not hold `LastMsg` + 1 messages would be written over the next language.
 void RefuseToOverwriteNextBlock(const MessageSet& set, int language, std::uintmax_t file_size) {
   const std::int64_t end = MesMessageOffset(set, language, set.MessageCount());
@@ -53,7 +46,6 @@ FilePatch HeaderPatch(const MesField& field, std::uint64_t value) {
 
 std::vector<FilePatch> BuildMesPatch(const MessageSet& set, int language, const NameField& name,
                                      std::uint8_t flags, std::uintmax_t file_size) {
-  RequireHeader(set, file_size);
   RefuseToOverwriteNextBlock(set, language, file_size);
   std::string block = name.Bytes();
   for (std::size_t i = 0; i < set.MessageCount(); ++i) {
@@ -64,10 +56,7 @@ std::vector<FilePatch> BuildMesPatch(const MessageSet& set, int language, const 
           {MesBlockOffset(set, language), std::move(block)}};
 }
 
-FilePatch BuildFlagsPatch(const MessageSet& set, std::uint8_t flags, std::uintmax_t file_size) {
-  RequireHeader(set, file_size);
-  return HeaderPatch(kMesFlags, flags);
-}
+FilePatch BuildFlagsPatch(std::uint8_t flags) { return HeaderPatch(kMesFlags, flags); }
 
 std::string BuildNewMes(const MessageSet& set, const std::optional<NameField>& name,
                         std::uint8_t flags) {

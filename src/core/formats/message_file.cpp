@@ -9,6 +9,7 @@
 #include "core/formats/msx_file.h"
 #include "core/platform/errors.h"
 #include "core/platform/files.h"
+#include "core/platform/in_place_change.h"
 #include "core/texts/ascii_case.h"
 
 namespace vendlingua {
@@ -79,7 +80,7 @@ MessageSet ReadMessageFile(const std::filesystem::path& path) {
   if (!IsMessageFileType(set.CurrentFileType)) {
     throw FileError(path, UiTextId::kNoMessageFile);
   }
-  std::string content = ReadFile(path);
+  std::string content = ReadSharedFile(path);
   if (set.IsMes() && BeginsLikeASource(path, content)) {
     throw FileError(path, UiTextId::kIsASource);
   }

@@ -2,21 +2,17 @@
 
 #include "core/formats/mes_file.h"
 #include "core/formats/msx_file.h"
-#include "core/platform/files.h"
+#include "core/platform/in_place_change.h"
 
 namespace vendlingua {
-namespace {
 
-// Whether a language is read from the file at all.
 bool IsInFile(const MessageSet& set, int language) {
   return language != kNewLanguage && (set.IsMes() || language != 0);
 }
 
-}  // namespace
-
 MessageTexts TextsOf(const MessageSet& set, int language) {
   const std::string content =
-      IsInFile(set, language) ? ReadFile(set.CurrentFileName) : std::string();
+      IsInFile(set, language) ? ReadSharedFile(set.CurrentFileName) : std::string();
   return TextsOf(set, content, language);
 }
 

@@ -7,6 +7,10 @@
 
 namespace vendlingua {
 
+/// Whether the texts of a language stand in the file: not so those of a new language, and language
+/// 0 of a ".MSX" file, which is the built-in table.
+bool IsInFile(const MessageSet& set, int language);
+
 /// Messages 0 to `LastMsg` of language `language` of the open file, whichever its type. Language 0
 /// of a ".MSX" file is the built-in table; a new language (`kNewLanguage`) reads as blanks. Throws
 /// Error when the file cannot be read.

@@ -9,7 +9,6 @@
 #include "core/formats/srecord.h"
 #include "core/formats/text_lines.h"
 #include "core/platform/errors.h"
-#include "core/platform/files.h"
 
 namespace vendlingua {
 namespace {
@@ -95,10 +94,6 @@ MessageTexts MsxTexts(const MessageSet& set, std::string_view content, int langu
     texts[message] = DisplayText(DecodeMessage(set, line->text, lines.count()));
   }
   return texts;
-}
-
-MessageTexts ReadMsxTexts(const MessageSet& set, int language) {
-  return MsxTexts(set, ReadFile(set.CurrentFileName), language);
 }
 
 }  // namespace vendlingua

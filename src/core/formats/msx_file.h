@@ -34,9 +34,6 @@ std::optional<std::vector<std::string>> ReadMsxNames(const MessageSet& set,
 /// given. Throws FileError when a line is missing or holds no message.
 MessageTexts MsxTexts(const MessageSet& set, std::string_view content, int language);
 
-/// The same of `CurrentFileName`. Throws FileError when it cannot be read, too.
-MessageTexts ReadMsxTexts(const MessageSet& set, int language);
-
 /// The number of lines before the first message line of `language`; language 0, which a ".MSX" file
 /// does not have, counts as the first.
 std::size_t MsxLinesBefore(const MessageSet& set, int language);

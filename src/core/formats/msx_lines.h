@@ -4,7 +4,7 @@
 #include <string_view>
 
 #include "core/document/message_set.h"
-#include "core/platform/files.h"
+#include "core/platform/file_patch.h"
 
 namespace vendlingua {
 

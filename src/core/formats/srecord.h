@@ -16,6 +16,9 @@ namespace vendlingua {
 /// The line end of every S-record file.
 inline constexpr std::string_view kCrLf = "\r\n";
 
+/// What a file of S-records may at most hold to be checked: one of a 16 MiB image has 48 MiB.
+inline constexpr std::uint64_t kSRecordFileLimit = 1U << 30U;
+
 /// Data records of the flash files.
 enum class SRecordType : char { kS1 = '1', kS2 = '2' };
 

@@ -1,26 +1,26 @@
 #include "core/operations/display_type.h"
 
-#include <filesystem>
+#include <vector>
 
 #include "core/formats/mes_file.h"
 #include "core/formats/mes_patch.h"
+#include "core/operations/message_file_change.h"
 #include "core/platform/errors.h"
-#include "core/platform/files.h"
 
 namespace vendlingua {
 
-void StoreDisplayType(MessageSet& set, std::size_t type) {
+void StoreDisplayType(Workspace& workspace, Dialogs& dialogs, std::size_t type) {
+  MessageSet& set = workspace.set;
   if (!set.IsMes()) {
     throw FileError(set.CurrentFileName, UiTextId::kNoDisplayTypeInMsx);
   }
   if (type >= kStoredDisplayTypes) {
     throw FileError(set.CurrentFileName, UiTextId::kHebrewNotStored);
   }
-  std::error_code not_told;  // a file that is gone is found when it is opened
-  const std::uintmax_t file_size = std::filesystem::file_size(set.CurrentFileName, not_told);
-  ApplyPatches(set.CurrentFileName, {BuildFlagsPatch(set, MesFlags(set, type), file_size)});
+  ChangeMessageFile(workspace, dialogs, [&set, type](const std::string& /*content*/) {
+    return std::vector{BuildFlagsPatch(MesFlags(set, type))};
+  });
   set.LoadDisplayType(type);
-  set.file_content = ReadFile(set.CurrentFileName);
 }
 
 }  // namespace vendlingua

@@ -3,13 +3,14 @@
 
 #include <cstddef>
 
-#include "core/document/message_set.h"
+#include "core/document/workspace.h"
+#include "core/platform/dialogs.h"
 
 namespace vendlingua {
 
 /// Gives the open file display type `type` (0 to 3) at once, as choosing it in `mnuLCD` and saving
 /// would. Throws FileError when files of its kind do not hold that type or it cannot be written.
-void StoreDisplayType(MessageSet& set, std::size_t type);
+void StoreDisplayType(Workspace& workspace, Dialogs& dialogs, std::size_t type);
 
 }  // namespace vendlingua
 

@@ -1,9 +1,13 @@
 #include "core/operations/languages.h"
 
 #include <algorithm>
+#include <utility>
 
+#include "core/formats/file_merge.h"
+#include "core/formats/held_messages.h"
 #include "core/formats/message_texts.h"
 #include "core/platform/errors.h"
+#include "core/platform/in_place_change.h"
 
 namespace vendlingua {
 
@@ -15,7 +19,11 @@ void Languages::ChooseOrigin(int language) {
   if (set.IsMsx()) {
     set.LoadDefaultMessages();
   }
-  const MessageTexts texts = TextsOf(set, language);
+  if (IsInFile(set, language)) {
+    // What both changed is asked about by the next save.
+    TakeOverChanges(set, ReadSharedFile(set.CurrentFileName), {});
+  }
+  const MessageTexts texts = TextsOf(set, set.file_content, language);
   std::copy(texts.begin(), texts.end(), set.OriginText.begin());
   set.origin_language = language;
   set.phase = std::max(set.phase, Phase::kOriginChosen);
@@ -43,9 +51,19 @@ DestinationOutcome Languages::Open(int language, bool as_new) {
                          ui_text[UiTextId::kFileFullTitle]});
     return DestinationOutcome::kFileIsFull;
   }
-  set.TakeDestination(TextsOf(set, language), as_new ? 0 : language);
+  MessageSet with_language = set;
+  if (IsInFile(set, language)) {
+    TakeOverFile(with_language, ReadSharedFile(set.CurrentFileName));
+  }
+  with_language.TakeDestination(TextsOf(with_language, with_language.file_content, language),
+                                as_new ? 0 : language);
+  set = std::move(with_language);
   if (as_new) {
     set.Modified = kTrue;
+  }
+  if (EndsEarly(set, language)) {
+    workspace_.window.status =
+        UiSentence(UiTextId::kLanguageEndsEarly, language).In(workspace_.ui_text);
   }
   workspace_.window.typed.reset();
   return DestinationOutcome::kOpened;

@@ -1,7 +1,10 @@
 #include "core/operations/message_file_opener.h"
 
 #include "core/formats/message_file.h"
+#include "core/operations/recovery.h"
 #include "core/platform/errors.h"
+#include "core/platform/folder_of.h"
+#include "core/platform/temporary_name.h"
 
 namespace vendlingua {
 
@@ -36,6 +39,10 @@ OpenOutcome MessageFileOpener::OpenPath(const std::filesystem::path& path,
   MessageSet& set = workspace_.set;
   set.CurrentFileName = path;
   set.CurrentFileType = type;
+  if (set.IsMes() || set.IsMsx()) {
+    RemoveStaleFiles(FolderOf(path));
+    OfferRecovery(workspace_.ui_text, dialogs_, path);
+  }
   bool opened = false;
   if (set.IsMsx()) {
     opened = reader_.OpenMsxFile();

@@ -1,8 +1,10 @@
 #include "core/operations/message_file_reader.h"
 
+#include <utility>
+
 #include "core/formats/message_file.h"
 #include "core/platform/errors.h"
-#include "core/platform/files.h"
+#include "core/platform/in_place_change.h"
 
 namespace vendlingua {
 
@@ -27,12 +29,14 @@ bool MessageFileReader::OpenMsxFile() {
 }
 
 bool MessageFileReader::Reload() {
+  const MessageSet& set = workspace_.set;
+  return (!set.IsMes() && !set.IsMsx()) || Load(ReadSharedFile(set.CurrentFileName));
+}
+
+bool MessageFileReader::Load(std::string content) {
   MessageSet& set = workspace_.set;
-  if (!set.IsMes() && !set.IsMsx()) {
-    return true;
-  }
-  const bool taken = NamingFile(
-      set.CurrentFileName, [&] { return TakeMessageFile(set, ReadFile(set.CurrentFileName)); });
+  const bool taken =
+      NamingFile(set.CurrentFileName, [&] { return TakeMessageFile(set, std::move(content)); });
   workspace_.window.file_names_entry_0 = set.IsMes();
   if (!taken) {
     dialogs_.MessageBox({MessageIcon::kCritical, " File not managed ! ", "ERROR"});

@@ -1,6 +1,8 @@
 #ifndef VENDLINGUA_CORE_OPERATIONS_MESSAGE_FILE_READER_H_
 #define VENDLINGUA_CORE_OPERATIONS_MESSAGE_FILE_READER_H_
 
+#include <string>
+
 #include "core/document/workspace.h"
 #include "core/platform/dialogs.h"
 
@@ -23,6 +25,9 @@ class MessageFileReader {
   /// the languages. Returns as OpenMsxFile. Throws Error when the file cannot be taken; the set is
   /// then partly changed, and the caller puts it back.
   bool Reload();
+
+  /// The same of a file whose content is given.
+  bool Load(std::string content);
 
  private:
   void Reset();

@@ -3,13 +3,19 @@
 #include <algorithm>
 #include <string_view>
 #include <system_error>
+#include <utility>
+#include <vector>
 
+#include "core/formats/file_merge.h"
 #include "core/formats/mes_file.h"
 #include "core/formats/mes_layout.h"
 #include "core/formats/mes_patch.h"
 #include "core/formats/msx_lines.h"
+#include "core/operations/new_language.h"
 #include "core/platform/errors.h"
 #include "core/platform/files.h"
+#include "core/platform/in_place_change.h"
+#include "core/platform/staged_file.h"
 
 namespace vendlingua {
 namespace {
@@ -34,16 +40,19 @@ MessageFileWriter::MessageFileWriter(Workspace& workspace, Dialogs& dialogs, Edi
 
 SaveOutcome MessageFileWriter::Save() {
   SaveOutcome outcome = SaveUnderTrap();
-  const UiText& ui_text = workspace_.ui_text;
-  std::string& status = workspace_.window.status;
   if (outcome.result == SaveOutcome::kSaved) {
-    status = ui_text[UiTextId::kSaved] + " " + PathText(workspace_.set.CurrentFileName);
+    TellSaved();
   } else if (outcome.result == SaveOutcome::kFailed) {
-    status = ui_text[UiTextId::kNotSaved] + " " + outcome.reason;
+    workspace_.window.status = workspace_.ui_text[UiTextId::kNotSaved] + " " + outcome.reason;
     workspace_.set.Modified = kFalse;
     workspace_.set.save_failed = true;
   }
   return outcome;
+}
+
+void MessageFileWriter::TellSaved() {
+  workspace_.window.status =
+      workspace_.ui_text[UiTextId::kSaved] + " " + PathText(workspace_.set.CurrentFileName);
 }
 
 // One trap for the whole save: only a folder that is not there gets a box.
@@ -51,16 +60,7 @@ SaveOutcome MessageFileWriter::SaveUnderTrap() {
   Rollback rollback(workspace_);
   SaveOutcome outcome;
   try {
-    MessageSet& set = workspace_.set;
-    std::optional<NameField> new_name;
-    if (set.DestLang == 0) {
-      new_name = AskNewLanguageName();
-    }
-    outcome = Write(new_name);
-    if (outcome.result == SaveOutcome::kSaved) {
-      set.file_content = ReadFile(set.CurrentFileName);
-      set.NoteSaved();
-    }
+    outcome = Write(std::nullopt);
     rollback.Keep();
   } catch (const FolderNotReadyError& error) {
     dialogs_.MessageBox({MessageIcon::kCritical, " Directory not ready", ""});
@@ -71,49 +71,26 @@ SaveOutcome MessageFileWriter::SaveUnderTrap() {
   return outcome;
 }
 
-SaveOutcome MessageFileWriter::Write(const std::optional<NameField>& new_name) {
-  const MessageSet& set = workspace_.set;
+SaveOutcome MessageFileWriter::Write(const CopyPath& copy) {
+  MessageSet& set = workspace_.set;
+  std::optional<NameField> new_name;
+  if (set.DestLang == 0) {
+    new_name = AskNewLanguageName(workspace_, dialogs_);
+  }
+  SaveOutcome outcome;
   if (set.IsMes() && !set.FileIsThere()) {
-    return WriteNewMes(new_name);
+    outcome = WriteNewMes(new_name, copy);
+  } else if (set.IsMes()) {
+    PatchMes(new_name, copy);
+  } else if (set.IsMsx()) {
+    PatchMsx(copy);
+  } else {
+    outcome.result = SaveOutcome::kNothingWritten;
   }
-  if (set.IsMes()) {
-    PatchMes(new_name);
-    return {};
+  if (outcome.result == SaveOutcome::kSaved) {
+    set.NoteSaved();
   }
-  if (set.IsMsx()) {
-    PatchMsx();
-    return {};
-  }
-  return {SaveOutcome::kNothingWritten, ""};
-}
-
-NameField MessageFileWriter::AskNewLanguageName() {
-  const UiText& ui_text = workspace_.ui_text;
-  for (;;) {
-    const std::string answer =
-        dialogs_.InputBox({InputPurpose::kNewLanguageName, ui_text[UiTextId::kNewLanguagePrompt],
-                           ui_text[UiTextId::kNewLanguageTitle], ""});
-    try {
-      NameField name = NameField::FromAnswer(answer);
-      if (name.IsBlank()) {
-        dialogs_.MessageBox({MessageIcon::kCritical, ui_text[UiTextId::kNameIsBlank], ""});
-      } else if (NameIsTaken(name)) {
-        dialogs_.MessageBox({MessageIcon::kExclamation,
-                             ui_text[UiTextId::kNameTakenBefore] + "\n" + name.PaddedText() + "\n" +
-                                 ui_text[UiTextId::kNameTakenAfter],
-                             ""});
-      } else {
-        return name;
-      }
-    } catch (const Error& error) {
-      dialogs_.MessageBox({MessageIcon::kCritical, error.In(ui_text), "ERROR"});
-    }
-  }
-}
-
-bool MessageFileWriter::NameIsTaken(const NameField& name) const {
-  const auto& names = workspace_.set.language_names;
-  return !names.empty() && std::find(names.begin() + 1, names.end(), name.Caption()) != names.end();
+  return outcome;
 }
 
 // Any display type is stored as 0 while no destination is open.
@@ -141,89 +118,126 @@ fs::path MessageFileWriter::AskSavePath() {
   return *path;
 }
 
-SaveOutcome MessageFileWriter::WriteNewMes(const std::optional<NameField>& new_name) {
-  MessageSet& set = workspace_.set;
-  const fs::path path = AskSavePath();
+SaveOutcome MessageFileWriter::WriteNewMes(const std::optional<NameField>& new_name,
+                                           const CopyPath& copy) {
+  const fs::path path = copy ? *copy : AskSavePath();
   if (path.empty()) {
     return {SaveOutcome::kNothingWritten, ""};
   }
+  BeginNewMes(path, new_name);
+  WriteFile(path, workspace_.set.file_content);
+  return {};
+}
+
+// The open file is a new one from now on, which is not written yet.
+void MessageFileWriter::BeginNewMes(const fs::path& path,
+                                    const std::optional<NameField>& new_name) {
+  MessageSet& set = workspace_.set;
+  RequireReplaceable(path);
   set.CurrentFileName = path;
   set.Modified = kFalse;
-
-  const std::string content = BuildNewMes(set, new_name, HeaderFlags());
-  WriteFile(path, {content, TailOf(path, content.size())});
+  set.file_content = BuildNewMes(set, new_name, HeaderFlags());
+  set.file_content += TailOf(path, set.file_content.size());
   set.language_names = {std::string(kReferenceName)};
   if (new_name) {
     set.language_names.push_back(new_name->Caption());
   }
+}
+
+SaveOutcome MessageFileWriter::AddImportedLanguage() {
+  MessageSet& set = workspace_.set;
+  const NameField name = AskNewLanguageName(workspace_, dialogs_);
+  if (set.file_was_imported) {
+    AddLanguage(set, name);
+    set.file_content =
+        Patched(set.file_content,
+                BuildMesPatch(set, set.DestLang, name, HeaderFlags(), set.file_content.size()));
+    return {};
+  }
+  const fs::path path = AskSavePath();
+  if (path.empty()) {
+    return {SaveOutcome::kNothingWritten, ""};
+  }
+  BeginNewMes(path, name);
+  set.file_was_imported = true;
   return {};
 }
 
-void MessageFileWriter::PatchMes(const std::optional<NameField>& new_name) {
+void MessageFileWriter::WriteImported() {
+  WriteFile(workspace_.set.CurrentFileName, workspace_.set.file_content);
+  workspace_.set.NoteSaved();
+  TellSaved();
+}
+
+void MessageFileWriter::PatchMes(const std::optional<NameField>& new_name, const CopyPath& copy) {
   MessageSet& set = workspace_.set;
   editing_.StoreCurrentMessage();
-  if (new_name) {
-    if (set.IsFull()) {
-      throw FileError(set.CurrentFileName, UiTextId::kFileHolds100Languages);
+  set.BlockLength = MesBlockLength(set.LastCol, set.LangStride);
+  Patch(copy, [&](const std::string& content) {
+    if (new_name) {
+      AddLanguage(set, *new_name);
     }
-    set.DestLang = static_cast<std::uint8_t>(set.language_names.size());
-    set.language_names.push_back(new_name->Caption());
-  }
-  WriteMesBlock(new_name ? *new_name : NameField::FromCaption(set.language_names.at(set.DestLang)));
+    const std::string& caption = set.language_names.at(set.DestLang);
+    return BuildMesPatch(set, set.DestLang, new_name ? *new_name : NameField::FromCaption(caption),
+                         HeaderFlags(), content.size());
+  });
   if (new_name && set.phase == Phase::kDestinationUnnamed) {
     set.phase = Phase::kDestinationOpen;
   }
   if (new_name && set.phase >= Phase::kOriginChosen) {
-    reader_.Reload();
+    reader_.Load(set.file_content);
   }
 }
 
-void MessageFileWriter::WriteMesBlock(const NameField& name) {
-  MessageSet& set = workspace_.set;
-  set.Modified = kFalse;
-  set.BlockLength = MesBlockLength(set.LastCol, set.LangStride);
-  std::error_code not_told;  // a file that is gone is found when it is opened
-  const std::uintmax_t file_size = fs::file_size(set.CurrentFileName, not_told);
-  ApplyPatches(set.CurrentFileName,
-               BuildMesPatch(set, set.DestLang, name, HeaderFlags(), file_size));
+void MessageFileWriter::PatchMsx(const CopyPath& copy) {
+  const MessageSet& set = workspace_.set;
+  editing_.StoreCurrentMessage();
+  Patch(copy, [&](const std::string& content) {
+    return std::vector<FilePatch>{BuildMsxLines(set, content)};
+  });
 }
 
-void MessageFileWriter::PatchMsx() {
+void MessageFileWriter::Patch(const CopyPath& copy, const PatchBuilder& build) {
+  if (copy) {
+    WriteCopy(*copy, build);
+  } else {
+    ChangeMessageFile(workspace_, dialogs_, build);
+  }
+  workspace_.set.Modified = kFalse;
+}
+
+void MessageFileWriter::WriteCopy(const fs::path& copy, const PatchBuilder& build) {
   MessageSet& set = workspace_.set;
-  editing_.StoreCurrentMessage();
-  set.Modified = kFalse;
-  ApplyPatches(set.CurrentFileName, {BuildMsxLines(set, ReadFile(set.CurrentFileName))});
+  try {
+    TakeOverChanges(set, ReadSharedFile(set.CurrentFileName), {});
+  } catch (const FileError&) {
+    // The copy rescues what was read.
+  }
+  std::string content = Patched(set.file_content, build(set.file_content));
+  WriteFile(copy, content);
+  set.CurrentFileName = copy;
+  set.file_content = std::move(content);
 }
 
 SaveOutcome MessageFileWriter::SaveAs() {
-  MessageSet& set = workspace_.set;
+  const MessageSet& set = workspace_.set;
   if (!set.IsMes() && !set.IsMsx()) {
     throw Error(UiTextId::kNoFileToSaveAs);
   }
-  const fs::path old_path = set.CurrentFileName;
   const fs::path path = AskSavePath();
   if (path.empty()) {
     return {SaveOutcome::kNothingWritten, ""};
   }
   std::error_code not_there;
-  if (!fs::equivalent(old_path, path, not_there)) {
-    WriteFile(path, ContentToCopy());
+  if (fs::equivalent(set.CurrentFileName, path, not_there)) {
+    return Save();
   }
-  set.CurrentFileName = path;
-  return Save();
-}
-
-// A file that is gone or shorter than it was is not what the user opened: the copy then begins as
-// the file was.
-std::string MessageFileWriter::ContentToCopy() const {
-  try {
-    std::string content = ReadFile(workspace_.set.CurrentFileName);
-    if (content.size() >= workspace_.set.file_content.size()) {
-      return content;
-    }
-  } catch (const FileError&) {
-  }
-  return workspace_.set.file_content;
+  RequireReplaceable(path);
+  Rollback rollback(workspace_);
+  SaveOutcome outcome = Write(path);
+  rollback.Keep();
+  TellSaved();
+  return outcome;
 }
 
 bool MessageFileWriter::NonSave() {

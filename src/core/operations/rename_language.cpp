@@ -2,11 +2,13 @@
 
 #include <cstddef>
 #include <optional>
+#include <vector>
 
 #include "core/document/name_field.h"
-#include "core/formats/mes_file.h"
+#include "core/formats/mes_layout.h"
+#include "core/operations/message_file_change.h"
+#include "core/operations/taken_names.h"
 #include "core/platform/errors.h"
-#include "core/platform/files.h"
 
 namespace vendlingua {
 namespace {
@@ -37,32 +39,24 @@ std::optional<NameField> AskName(const Workspace& workspace, Dialogs& dialogs, i
   }
 }
 
-void WriteNames(MessageSet& set) {
-  PatchFile file(set.CurrentFileName, PatchFile::IfMissing::kFail);
+std::vector<FilePatch> NamePatches(const MessageSet& set) {
+  std::vector<FilePatch> patches;
   for (std::size_t i = 1; i < set.language_names.size(); ++i) {
-    file.WriteAt(MesBlockOffset(set, static_cast<int>(i)),
-                 NameField::FromCaption(set.language_names[i]).Bytes());
+    patches.push_back({MesBlockOffset(set, static_cast<int>(i)),
+                       NameField::FromCaption(set.language_names[i]).Bytes()});
   }
-  file.Close();
-  set.file_content = ReadFile(set.CurrentFileName);
+  return patches;
 }
 
 }  // namespace
 
-bool NameIsTaken(const MessageSet& set, int language, const NameField& name) {
-  for (std::size_t i = 1; i < set.language_names.size(); ++i) {
-    if (i != static_cast<std::size_t>(language) && set.language_names[i] == name.Caption()) {
-      return true;
-    }
-  }
-  return false;
-}
-
-void RenameLanguage(MessageSet& set, int language, const NameField& name) {
+void RenameLanguage(Workspace& workspace, Dialogs& dialogs, int language, const NameField& name) {
+  MessageSet& set = workspace.set;
   set.language_names.at(static_cast<std::size_t>(language)) = name.Caption();
   set.LangStride = MesLangStride(set.MemLength, set.LangCount, set.Width());
   set.BlockLength = MesBlockLength(set.LastCol, set.LangStride);
-  WriteNames(set);
+  ChangeMessageFile(workspace, dialogs,
+                    [&set](const std::string& /*content*/) { return NamePatches(set); });
 }
 
 void RenameLanguage(Workspace& workspace, Dialogs& dialogs, int language) {
@@ -74,7 +68,9 @@ void RenameLanguage(Workspace& workspace, Dialogs& dialogs, int language) {
     return;
   }
   try {
-    RenameLanguage(workspace.set, language, *name);
+    RenameLanguage(workspace, dialogs, language, *name);
+  } catch (const FileChangedError& error) {
+    dialogs.MessageBox({MessageIcon::kCritical, error.In(ui_text), "ERROR"});
   } catch (const FileError&) {
     dialogs.MessageBox({MessageIcon::kCritical,
                         "File Error: This file is only reading!\nPlease change the property File",

@@ -7,12 +7,10 @@
 
 namespace vendlingua {
 
-/// Whether another language than `language` has the name.
-bool NameIsTaken(const MessageSet& set, int language, const NameField& name);
-
 /// Puts a new name of language `language` into the set and the message file. Throws FileError when
-/// the file cannot be written; the set keeps the new name.
-void RenameLanguage(MessageSet& set, int language, const NameField& name);
+/// the file cannot be written, FileChangedError when it is another one by now; the set keeps the
+/// new name.
+void RenameLanguage(Workspace& workspace, Dialogs& dialogs, int language, const NameField& name);
 
 /// Asks for a new name of language `language` and, after a confirmation, puts it into the set and
 /// the message file. A blank name ends the question, the name of another language repeats it. When

@@ -66,17 +66,22 @@ bool SourceImport::ImportSource() {
   });
   TellOfCutTexts(sections);
   for (const SourceSection& section : sections) {
-    if (!NamingFile(source, [&] { return TakeSection(section); }) || !SaveSection()) {
+    if (!NamingFile(source, [&] { return TakeSection(section); }) || !AddSection()) {
+      // A stop keeps the languages that were taken before it.
+      if (set.file_was_imported) {
+        writer_.WriteImported();
+      }
       // The source must never be taken for the binary file that was to be made of it.
       set.CloseFile();
       workspace_.window.status = workspace_.ui_text[UiTextId::kImportCancelled];
       return false;
     }
   }
+  writer_.WriteImported();
   std::fill_n(set.DestText.begin(), set.MessageCount(), DisplayText());
   // No destination is open: a save now starts a new language instead of emptying the last one.
   set.DestLang = 0;
-  return reader_.Reload();
+  return reader_.Load(set.file_content);
 }
 
 // The width of the set grows with such a text all the same.
@@ -113,17 +118,10 @@ bool SourceImport::TakeSection(const SourceSection& section) {
   return true;
 }
 
-bool SourceImport::SaveSection() {
+// False when no file was chosen.
+bool SourceImport::AddSection() {
   workspace_.set.DestLang = 0;
-  const SaveOutcome outcome = writer_.Save();
-  if (outcome.result == SaveOutcome::kFailed) {
-    throw Error(UiSentence::Verbatim(outcome.reason));
-  }
-  if (outcome.result == SaveOutcome::kNothingWritten) {
-    return false;
-  }
-  workspace_.set.file_was_imported = true;
-  return true;
+  return writer_.AddImportedLanguage().result == SaveOutcome::kSaved;
 }
 
 // While a section is read `LastMsg` and `LastCol` count texts and width; they become last indices

@@ -17,8 +17,8 @@ namespace vendlingua {
 std::uint32_t UsedMemory(std::size_t width, std::size_t texts, std::uint32_t languages);
 
 /// Makes a ".MES" file of the message texts of a firmware assembler source: asks for the memory
-/// layout of the board, checks that the messages fit, and saves. Each further section of the source
-/// becomes one more language of the file.
+/// layout of the board, checks that the messages fit, and writes the file when all is taken. Each
+/// further section of the source becomes one more language of it.
 class SourceImport {
  public:
   SourceImport(Workspace& workspace, Dialogs& dialogs, MessageFileReader& reader,
@@ -32,7 +32,7 @@ class SourceImport {
  private:
   void TellOfCutTexts(const std::vector<SourceSection>& sections);
   bool TakeSection(const SourceSection& section);
-  bool SaveSection();
+  bool AddSection();
   void TakeTexts(const SourceSection& section);
   bool AskMemoryLayout();
   bool MessagesFit();

@@ -1,6 +1,8 @@
 #ifndef VENDLINGUA_CORE_PLATFORM_DIALOGS_H_
 #define VENDLINGUA_CORE_PLATFORM_DIALOGS_H_
 
+#include <cstddef>
+#include <cstdint>
 #include <filesystem>
 #include <optional>
 #include <string>
@@ -60,6 +62,31 @@ struct FileRequest {
   std::filesystem::path folder;  ///< where the dialog starts
 };
 
+/// A message, or the name of a language, that was changed here and by another program since the
+/// file was read.
+struct EditConflict {
+  int language;
+  std::string language_name;           ///< UTF-8, as it is here
+  std::optional<std::size_t> message;  ///< nothing: the language's name
+  std::vector<std::uint8_t> mine;      ///< display codes
+  std::vector<std::uint8_t> theirs;    ///< the same, as they stand in the file
+
+  bool operator==(const EditConflict&) const = default;
+};
+
+enum class ConflictAnswer { kKeepMine, kTakeTheirs };
+
+/// Asks which of two changes counts. `questions` has a sentence for each conflict; the texts are in
+/// the display's own alphabet `display`.
+struct ConflictRequest {
+  std::vector<EditConflict> conflicts;
+  std::vector<std::string> questions;
+  std::string title;
+  std::string keep_mine;    ///< caption of the button
+  std::string take_theirs;  ///< the same
+  std::size_t display = 0;
+};
+
 /// What the operations ask the user on their way. The windows answer with real dialogs, the command
 /// line with its options, a test with a script. All texts are UTF-8.
 class Dialogs {
@@ -77,6 +104,9 @@ class Dialogs {
   /// The chosen path; nothing when it was cancelled.
   virtual std::optional<std::filesystem::path> OpenFile(const FileRequest& request) = 0;
   virtual std::optional<std::filesystem::path> SaveFile(const FileRequest& request) = 0;
+
+  /// An answer for each conflict; none at all when they are left undecided.
+  virtual std::vector<ConflictAnswer> ResolveConflicts(const ConflictRequest& request) = 0;
 
   /// Lets waiting window events run once, so that a long operation does not freeze the screen.
   virtual void LetPendingEventsRun() = 0;

@@ -60,6 +60,12 @@ class FolderNotReadyError : public FileError {
   using FileError::FileError;
 };
 
+/// An open file that is no longer what was read, so that nothing can be saved into it.
+class FileChangedError : public FileError {
+ public:
+  using FileError::FileError;
+};
+
 /// What an exception says, in the language of `texts` if it can.
 std::string MessageOf(const std::exception& exception, const UiText& texts);
 

@@ -1,5 +1,7 @@
 #include "core/platform/file_access.h"
 
+#include "core/platform/folder_of.h"
+
 #ifdef _WIN32
 #include <windows.h>
 #else
@@ -12,10 +14,13 @@ namespace {
 
 namespace fs = std::filesystem;
 
+enum class Right { kWriteFile, kAddFiles };
+
 #ifdef _WIN32
 
-bool MayOpen(const fs::path& path, DWORD access) {
+bool Has(Right right, const fs::path& path) {
   constexpr DWORD kShareAll = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
+  const DWORD access = right == Right::kWriteFile ? FILE_WRITE_DATA : FILE_ADD_FILE;
   // The flag lets folders be opened.
   const HANDLE handle = CreateFileW(path.c_str(), access, kShareAll, nullptr, OPEN_EXISTING,
                                     FILE_FLAG_BACKUP_SEMANTICS, nullptr);
@@ -26,24 +31,21 @@ bool MayOpen(const fs::path& path, DWORD access) {
   return true;
 }
 
-bool MayWrite(const fs::path& file) { return MayOpen(file, FILE_WRITE_DATA); }
-bool MayAddTo(const fs::path& folder) { return MayOpen(folder, FILE_ADD_FILE); }
-
 #else
 
-bool MayAccess(const fs::path& path, int mode) {
+bool Has(Right right, const fs::path& path) {
+  const int mode = right == Right::kWriteFile ? W_OK : W_OK | X_OK;
   return faccessat(AT_FDCWD, path.c_str(), mode, AT_EACCESS) == 0;
 }
-
-bool MayWrite(const fs::path& file) { return MayAccess(file, W_OK); }
-bool MayAddTo(const fs::path& folder) { return MayAccess(folder, W_OK | X_OK); }
 
 #endif
 
 }  // namespace
 
+bool MayWrite(const fs::path& file) { return Has(Right::kWriteFile, file); }
+
 bool MayReplace(const fs::path& file) {
-  return MayWrite(file) && MayAddTo(file.has_parent_path() ? file.parent_path() : ".");
+  return MayWrite(file) && Has(Right::kAddFiles, FolderOf(file));
 }
 
 }  // namespace vendlingua

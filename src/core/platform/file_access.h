@@ -5,6 +5,9 @@
 
 namespace vendlingua {
 
+/// Whether this user may write `file`, which is there. Opens nothing.
+bool MayWrite(const std::filesystem::path& file);
+
 /// Whether this user may replace `file`, which is there: the file may be written and its folder
 /// takes new files. Tries nothing that could be seen.
 bool MayReplace(const std::filesystem::path& file);

@@ -1,14 +1,13 @@
 #ifndef VENDLINGUA_CORE_PLATFORM_FILES_H_
 #define VENDLINGUA_CORE_PLATFORM_FILES_H_
 
-#include <cstddef>
 #include <cstdint>
 #include <filesystem>
-#include <fstream>
 #include <initializer_list>
 #include <string>
 #include <string_view>
-#include <vector>
+
+#include "core/platform/file_handle.h"
 
 namespace vendlingua {
 
@@ -20,6 +19,14 @@ inline constexpr std::uint64_t kMessageFileLimit = 16U << 20U;
 /// is no regular file, cannot be read or is longer than `limit` bytes.
 std::string ReadFile(const std::filesystem::path& path, std::uint64_t limit = kMessageFileLimit);
 
+/// The same of a file that is open, and whose path errors name.
+std::string ReadWhole(FileHandle& file, const std::filesystem::path& path, std::uint64_t limit);
+
+/// Opens the file that `path` leads to. Throws FileError when it is missing or may not be opened;
+/// pipes, devices and folders are refused unopened.
+void OpenRegularFile(FileHandle& file, const std::filesystem::path& path,
+                     FileHandle::Access access);
+
 /// Creates or replaces the file `path` with `pieces`, one behind the other. It takes its name, or
 /// the place of an older one, when it is complete and on the disk; otherwise all stays as it was.
 /// Throws FileError.
@@ -29,39 +36,6 @@ void WriteFile(const std::filesystem::path& path, std::initializer_list<std::str
 inline void WriteFile(const std::filesystem::path& path, std::string_view content) {
   WriteFile(path, {content});
 }
-
-/// Bytes that take the place of those at `position`, counted from 0.
-struct FilePatch {
-  std::int64_t position;
-  std::string bytes;
-
-  bool operator==(const FilePatch&) const = default;
-};
-
-/// Changes the file `path` in place: bytes that no patch covers keep their values. Throws FileError
-/// when it is not there or cannot be written.
-void ApplyPatches(const std::filesystem::path& path, const std::vector<FilePatch>& patches);
-
-/// A file that is changed in place: opened without truncation, bytes that are not written keep
-/// their values. Every operation throws FileError when it fails, FolderNotReadyError when the
-/// folder is gone.
-class PatchFile {
- public:
-  enum class IfMissing { kFail, kCreate };
-
-  PatchFile(std::filesystem::path path, IfMissing if_missing);
-
-  /// Writes `bytes` from `position` on, counted from 0. A gap behind the old end is filled with 0.
-  /// Errors name the position as users count it, from 1.
-  void WriteAt(std::int64_t position, std::string_view bytes);
-
-  /// Hands everything to the system; only then has the patch succeeded.
-  void Close();
-
- private:
-  std::filesystem::path path_;
-  std::fstream stream_;
-};
 
 }  // namespace vendlingua
 

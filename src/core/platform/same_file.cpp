@@ -2,19 +2,16 @@
 
 #include <system_error>
 
+#include "core/platform/links.h"
+
 namespace vendlingua {
 namespace {
 
 namespace fs = std::filesystem;
 
-// Where a path leads behind its links. The last of them may lead to a file that is not there yet,
-// which the canonical path of the library does not follow.
-fs::path Destination(fs::path path) {
-  constexpr int kMostLinks = 40;  // more are a circle
+fs::path Destination(const fs::path& file) {
   std::error_code error;
-  for (int links = 0; links < kMostLinks && fs::is_symlink(path, error); ++links) {
-    path = path.parent_path() / fs::read_symlink(path, error);
-  }
+  const fs::path path = FollowLinks(file);
   fs::path canonical = fs::weakly_canonical(fs::absolute(path, error), error);
   return error ? path : canonical;
 }

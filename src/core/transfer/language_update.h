@@ -5,7 +5,7 @@
 #include <vector>
 
 #include "core/document/message_set.h"
-#include "core/platform/files.h"
+#include "core/platform/file_patch.h"
 #include "core/transfer/carry_over.h"
 
 namespace vendlingua {

@@ -8,7 +8,6 @@
 
 #include "core/compare/most_differences.h"
 #include "core/formats/message_file.h"
-#include "core/platform/errors.h"
 #include "support/message_files.h"
 #include "support/temporary_folder.h"
 
@@ -217,9 +216,11 @@ TEST_F(CompareMessageFilesTest, CountsWhatItDoesNotList) {
   EXPECT_EQ(comparison.unlisted, 101 * 1000 - kMostDifferences);
 }
 
-TEST_F(CompareMessageFilesTest, RefusesAFileThatEndsInsideAMessage) {
+TEST_F(CompareMessageFilesTest, ReadsBlanksBehindTheEndOfAFile) {
   const std::string content = b_.Bytes();
-  EXPECT_THROW(Compare(a_.Bytes(), content.substr(0, content.size() - 4 - 1)), FileError);
+  const MessageFileComparison comparison =
+      Compare(a_.Bytes(), content.substr(0, content.size() - 4 - 1));
+  EXPECT_THAT(Messages(comparison), ElementsAre("2/2 2222 222 "));
 }
 
 }  // namespace

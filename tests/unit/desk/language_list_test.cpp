@@ -2,6 +2,8 @@
 
 #include <gmock/gmock.h>
 
+#include <filesystem>
+
 #include "support/engine_test.h"
 #include "support/message_files.h"
 
@@ -56,9 +58,16 @@ TEST_F(LanguageListTest, CountsTheDestinationAsItIsEdited) {
   EXPECT_EQ(languages[1].progress, (Progress{.done = 2, .messages = 3}));
 }
 
-TEST_F(LanguageListTest, ALanguageThatTheFileCutsHasNoProgress) {
+TEST_F(LanguageListTest, CountsWhatIsThereOfALanguageThatTheFileCuts) {
   Open("TEST.MES", content_.substr(0, content_.size() - 5));
   engine_.languages.ChooseOrigin(1);
+  EXPECT_EQ(Languages()[2].progress, (Progress{.done = 2, .messages = 3}));
+}
+
+TEST_F(LanguageListTest, HasNoProgressWhereTheFileIsGone) {
+  Open("TEST.MES", content_);
+  engine_.languages.ChooseOrigin(1);
+  std::filesystem::remove(folder_ / "TEST.MES");
   EXPECT_EQ(Languages()[2].progress, std::nullopt);
 }
 

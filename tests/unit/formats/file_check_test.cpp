@@ -2,6 +2,7 @@
 
 #include <gmock/gmock.h>
 
+#include "core/platform/change_record.h"
 #include "core/platform/errors.h"
 #include "support/message_files.h"
 #include "support/temporary_folder.h"
@@ -45,6 +46,35 @@ TEST(CheckFile, FindsNothingInAFileOf100Languages) {
 }
 
 TEST(CheckFile, ReportsAnEmptyFile) { EXPECT_THAT(Check(""), ElementsAre("the file is empty")); }
+
+TEST(CheckFile, ReportsMessagesOfNulBytes) {
+  std::string bytes = MesFile().Bytes();
+  EXPECT_THAT(Check(bytes.replace(84, 8, std::string(8, '\0'))),
+              ElementsAre("language 1: 2 of its messages are NUL bytes, the first is message 1"));
+}
+
+// A block that was given room, but never its bytes.
+TEST(CheckFile, ReportsALanguageOfNulBytes) {
+  EXPECT_THAT(Check(MesFile().Bytes() + std::string(36, '\0')),
+              ElementsAre("language 2 has no name",
+                          "language 2: 3 of its messages are NUL bytes, the first is message 0"));
+}
+
+TEST(CheckFile, MindsNoNulBytesBehindTheLastMessage) {
+  std::string bytes = MesFile().Bytes();
+  EXPECT_THAT(Check(bytes.replace(92, 4, std::string(4, '\0'))), IsEmpty());
+}
+
+TEST(CheckFile, ReportsASaveThatWasInterrupted) {
+  const test::TemporaryFolder folder;
+  const std::string before = MesFile().Bytes();
+  std::string after = before;
+  after.replace(80, 4, "ABCD");
+  folder.Write("~FILE.MES.undo", ComposeRecord(RecordOf(before, after)));
+  EXPECT_THAT(CheckFile(folder.Write("FILE.MES", std::string(after).replace(80, 2, "10"))),
+              ElementsAre(HasSubstr("interrupted")));
+  EXPECT_THAT(CheckFile(folder.Write("FILE.MES", after)), IsEmpty());
+}
 
 TEST(CheckFile, ReportsAHeaderThatIsCut) {
   EXPECT_THAT(Check(MesFile().Bytes().substr(0, 23)), ElementsAre(HasSubstr("23 bytes")));

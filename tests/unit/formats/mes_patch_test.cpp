@@ -72,12 +72,6 @@ TEST_F(MesPatchTest, HasBlanksBehindTheTextOfAMessageThatIsWiderThanFortyCells) 
   EXPECT_EQ(Patch(1, 60).back().bytes, "ENGLISH             " + std::string(40, 'x') + "  ");
 }
 
-TEST_F(MesPatchTest, IsRefusedForAFileThatLostItsHeader) {
-  EXPECT_THAT(ReasonAgainst(1, 23),
-              testing::AllOf(HasSubstr("FILE.MES: "), HasSubstr("only 23 bytes")));
-  EXPECT_EQ(ReasonAgainst(1, 24), "none");
-}
-
 // Five messages of four bytes do not fit a block of four slots.
 TEST_F(MesPatchTest, IsRefusedWhenItWouldRunIntoTheNextLanguage) {
   set_.LastMsg = 4;

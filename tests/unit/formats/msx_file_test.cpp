@@ -9,7 +9,6 @@
 #include "core/formats/srecord.h"
 #include "core/platform/errors.h"
 #include "support/message_files.h"
-#include "support/temporary_folder.h"
 
 namespace vendlingua {
 namespace {
@@ -20,7 +19,6 @@ using test::kMsxLine;
 using test::MsxFile;
 using test::MsxMessage;
 using test::S2Line;
-using test::TemporaryFolder;
 using test::Text;
 using ::testing::ElementsAre;
 using ::testing::HasSubstr;
@@ -67,8 +65,8 @@ class MsxFileTest : public ::testing::Test {
   }
 
   void Read(std::string_view content, int language) {
-    set_.CurrentFileName = folder_.Write("FILE.MSX", content);
-    texts_ = ReadMsxTexts(set_, language);
+    set_.CurrentFileName = "FILE.MSX";
+    texts_ = MsxTexts(set_, content, language);
   }
 
   std::string ReasonAgainstReading(std::string_view content, int language) {
@@ -82,7 +80,6 @@ class MsxFileTest : public ::testing::Test {
 
   std::string Message(std::size_t message) const { return Text(texts_.at(message).First(16)); }
 
-  TemporaryFolder folder_;
   MessageSet set_;
   MessageTexts texts_;
 };

@@ -23,20 +23,20 @@ class StoreDisplayTypeTest : public test::EngineTest {
 };
 
 TEST_F(StoreDisplayTypeTest, WritesTheFlagsAndNoOtherByte) {
-  StoreDisplayType(set_, 1);
+  StoreDisplayType(engine_.workspace, dialogs_, 1);
   std::string expected = mes_.Bytes();
   expected.replace(2, 2, "07");
   EXPECT_EQ(test::Slurp(file_), expected);
   EXPECT_EQ(set_.file_content, expected);
   EXPECT_EQ(set_.DisplayType, 1U);
-  StoreDisplayType(set_, 2);
+  StoreDisplayType(engine_.workspace, dialogs_, 2);
   EXPECT_EQ(test::Slurp(file_).substr(2, 2), "0B");
-  StoreDisplayType(set_, 0);
+  StoreDisplayType(engine_.workspace, dialogs_, 0);
   EXPECT_EQ(test::Slurp(file_), mes_.Bytes());
 }
 
 TEST_F(StoreDisplayTypeTest, LeavesWhatSavingWithAnOpenDestinationWould) {
-  StoreDisplayType(set_, 2);
+  StoreDisplayType(engine_.workspace, dialogs_, 2);
   const std::string stored = test::Slurp(file_);
   Open("B.MES", mes_.Bytes());
   engine_.languages.ChooseOrigin(0);
@@ -47,23 +47,23 @@ TEST_F(StoreDisplayTypeTest, LeavesWhatSavingWithAnOpenDestinationWould) {
 }
 
 TEST_F(StoreDisplayTypeTest, RefusesTheHebrewOne) {
-  EXPECT_THROW(StoreDisplayType(set_, 3), FileError);
+  EXPECT_THROW(StoreDisplayType(engine_.workspace, dialogs_, 3), FileError);
   EXPECT_EQ(test::Slurp(file_), mes_.Bytes());
   EXPECT_EQ(set_.DisplayType, 0U);
 }
 
 TEST_F(StoreDisplayTypeTest, RefusesAnMsxFile) {
   Open("A.MSX", test::MsxFile(1));
-  EXPECT_THROW(StoreDisplayType(set_, 1), FileError);
+  EXPECT_THROW(StoreDisplayType(engine_.workspace, dialogs_, 1), FileError);
   EXPECT_EQ(test::Slurp(folder_ / "A.MSX"), test::MsxFile(1));
 }
 
 TEST_F(StoreDisplayTypeTest, RefusesAFileThatLostItsHeader) {
   folder_.Write("A.MES", "short");
-  EXPECT_THROW(StoreDisplayType(set_, 1), FileError);
+  EXPECT_THROW(StoreDisplayType(engine_.workspace, dialogs_, 1), FileError);
   EXPECT_EQ(test::Slurp(file_), "short");
   std::filesystem::remove(file_);
-  EXPECT_THROW(StoreDisplayType(set_, 1), FileError);
+  EXPECT_THROW(StoreDisplayType(engine_.workspace, dialogs_, 1), FileError);
 }
 
 }  // namespace

@@ -2,6 +2,7 @@
 
 #include <gmock/gmock.h>
 
+#include <chrono>
 #include <filesystem>
 #include <random>
 #include <string>
@@ -294,6 +295,13 @@ TEST_F(MessageFileOpenerTest, TakesOrRefusesRandomBytes) {
     }
     ExpectNoAccident("FILE.MES", mes + bytes);
   }
+}
+
+TEST_F(MessageFileOpenerTest, RemovesWhatAProgramThatWasEndedLeftBesideTheFile) {
+  const fs::path piece = folder_.Write(".vendlingua-17.tmp", "half of a file");
+  fs::last_write_time(piece, fs::file_time_type::clock::now() - std::chrono::hours(1));
+  Open("FILE.MES", MesFile().Bytes());
+  EXPECT_EQ(folder_.Names(), "FILE.MES");
 }
 
 }  // namespace

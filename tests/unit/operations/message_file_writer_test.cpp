@@ -8,6 +8,7 @@
 
 #include "core/platform/errors.h"
 #include "support/engine_test.h"
+#include "support/full_disk.h"
 #include "support/same_bytes.h"
 
 namespace vendlingua {
@@ -389,13 +390,22 @@ TEST_F(MesPatch, FailsWithoutABoxWhenTheFileIsGone) {
 }
 
 TEST_F(MesPatch, FailsOnAFullDisk) {
-  if (!fs::exists("/dev/full")) {
-    GTEST_SKIP() << "needs the device file that is always full";
+  Edit(MesFile());
+  Type("XY");
+  const test::FullDisk disk(10);
+  EXPECT_THAT(ReasonOfFailure(), HasSubstr("FILE.MES: cannot be written"));
+  EXPECT_EQ(Slurp(folder_ / "FILE.MES"), bytes_);
+  EXPECT_EQ(folder_.Names(), "FILE.MES");
+}
+
+TEST_F(MesPatch, IsNotWrittenIntoWhatIsNoFile) {
+  if (!fs::exists("/dev/null")) {
+    GTEST_SKIP() << "needs the device file";
   }
   Edit(MesFile());
   fs::remove(folder_ / "FILE.MES");
-  fs::create_symlink("/dev/full", folder_ / "FILE.MES");
-  EXPECT_THAT(ReasonOfFailure(), HasSubstr("FILE.MES: cannot be written"));
+  fs::create_symlink("/dev/null", folder_ / "FILE.MES");
+  EXPECT_THAT(ReasonOfFailure(), HasSubstr("FILE.MES: is not a file that can be written"));
 }
 
 TEST_F(MesPatch, KeepsModifiedClearedWhenItFails) {
@@ -619,7 +629,8 @@ TEST_F(MsxPatch, ShiftsTheLinesThatFollowADifferentLength) {
   const std::string old_line = S2Line(0xFF0000, MsxMessage(1, 0));
   const std::string short_line = "S213FF0000" + HexOf(MsxMessage(1, 0).substr(0, 15)) + "AA";
   std::string bytes = bytes_;
-  folder_.Write("FILE.MSX", bytes.replace(44, old_line.size(), short_line));
+  Open("FILE.MSX", bytes.replace(44, old_line.size(), short_line));
+  engine_.languages.ChooseOrigin(0);
   engine_.languages.ChooseDestination(1);
   SetDestination(0, std::string(16, 'A'));
   Type(std::string(16, 'A'));
@@ -633,7 +644,7 @@ TEST_F(MsxPatch, ShiftsTheLinesThatFollowADifferentLength) {
 TEST_F(MsxPatch, LeavesAFileThatEndsInsideTheLanguageAsItWas) {
   const std::string cut = bytes_.substr(0, bytes_.size() - 46);
   folder_.Write("FILE.MSX", cut);
-  EXPECT_THAT(ReasonOfFailure(), HasSubstr("ends after line 910"));
+  EXPECT_THAT(ReasonOfFailure(), HasSubstr("is not the file any more"));
   EXPECT_TRUE(SameBytes(Slurp(folder_ / "FILE.MSX"), cut));
   EXPECT_THAT(dialogs_.messages, IsEmpty());
 }
@@ -649,7 +660,7 @@ TEST_F(MsxPatch, LeavesAFileWhoseLinesDoNotEndInCrLfAsItWas) {
   std::string bytes = bytes_;
   bytes.erase(44 + 500 * 46 - 2, 1);
   folder_.Write("FILE.MSX", bytes);
-  EXPECT_THAT(ReasonOfFailure(), HasSubstr("line 501 does not end in CR LF"));
+  EXPECT_THAT(ReasonOfFailure(), HasSubstr("is not the file any more"));
   EXPECT_TRUE(SameBytes(Slurp(folder_ / "FILE.MSX"), bytes));
 }
 

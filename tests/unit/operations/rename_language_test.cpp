@@ -127,7 +127,7 @@ TEST_F(RenameLanguageTest, AFileThatCannotBeWrittenKeepsTheNewNameOnTheScreen) {
 }
 
 TEST_F(RenameLanguageTest, IsDoneWithoutAQuestion) {
-  RenameLanguage(set_, 2, NameField::FromAnswer("polski"));
+  RenameLanguage(engine_.workspace, dialogs_, 2, NameField::FromAnswer("polski"));
   std::string expected = mes_.Bytes();
   expected.replace(24 + 2 * mes_.BlockLength(), 20, "POLSKI              ");
   EXPECT_EQ(test::Slurp(file_), expected);
@@ -137,13 +137,8 @@ TEST_F(RenameLanguageTest, IsDoneWithoutAQuestion) {
 
 TEST_F(RenameLanguageTest, FailsWhereTheFileIsGone) {
   std::filesystem::remove(file_);
-  EXPECT_THROW(RenameLanguage(set_, 2, NameField::FromAnswer("polski")), FileError);
-}
-
-TEST_F(RenameLanguageTest, KnowsTheNamesOfTheOthers) {
-  EXPECT_TRUE(NameIsTaken(set_, 1, NameField::FromAnswer("english")));
-  EXPECT_FALSE(NameIsTaken(set_, 2, NameField::FromAnswer("english")));
-  EXPECT_FALSE(NameIsTaken(set_, 1, NameField::FromCaption("Default")));
+  EXPECT_THROW(RenameLanguage(engine_.workspace, dialogs_, 2, NameField::FromAnswer("polski")),
+               FileError);
 }
 
 }  // namespace

@@ -1,8 +1,10 @@
+#include "support/full_disk.h"
 #include "unit/operations/source_import_test.h"
 
 namespace vendlingua {
 namespace {
 
+using test::FullDisk;
 using test::Slurp;
 using test::SourceImportTest;
 using test::SourceLine;
@@ -92,7 +94,19 @@ TEST_F(SectionImportTest, KeepsTheLanguageMessageOfTheFirstSection) {
   EXPECT_EQ(set_.HeaderBit0, kFalse);
 }
 
-TEST_F(SectionImportTest, KeepsTheLanguagesThatWereSavedBeforeAWidthError) {
+// What fails leaves no file with a part of the languages.
+TEST_F(SectionImportTest, WritesTheFileOfAllSectionsAtOnce) {
+  folder_.Write("NEW.MES", "an older file");
+  answers_ = {"2", "1", "&H6000", "24", "uno", "2", "&H6000", "24", "due"};
+  {
+    const FullDisk disk(100);
+    EXPECT_THAT(ReasonOfRefusal(two_sections_), HasSubstr("NEW.MES: cannot be written"));
+  }
+  EXPECT_EQ(Slurp(folder_ / "NEW.MES"), "an older file");
+  EXPECT_EQ(folder_.Names(), "NEW.MES SOURCE.MES");
+}
+
+TEST_F(SectionImportTest, KeepsTheLanguagesThatWereTakenBeforeAWidthError) {
   answers_ = {"2", "1", "&H6000", "24", "uno"};
   EXPECT_EQ(Import(" ORG 1\r\n" + SourceLine("ABCD") + " ORG 2\r\n" + SourceLine("EFGH") +
                    SourceLine("IJK")),
@@ -133,7 +147,7 @@ TEST_F(SectionImportTest, RefusesAnswersThatGiveALaterSectionAnotherStride) {
   answers_ = {"2", "1", "&H6000", "24", "uno", "2", "&H6000", "40"};
   EXPECT_THAT(ReasonOfRefusal(two_sections_),
               testing::AllOf(HasSubstr("5 messages"), HasSubstr("gave 3")));
-  EXPECT_EQ(Slurp(folder_ / "NEW.MES").size(), 24 + 2 * (20 + 4 * 4)) << "the first section";
+  ExpectNothingWrittenAndNoFileOpen();
 }
 
 TEST_F(SectionImportTest, WritesNothingWhenALaterSectionCannotBeRead) {

@@ -1,11 +1,11 @@
 #include "core/platform/files.h"
 
 #include <gmock/gmock.h>
+#include <sys/stat.h>
 
 #include <filesystem>
 #include <functional>
 #include <string>
-#include <vector>
 
 #include "core/platform/errors.h"
 #include "support/full_disk.h"
@@ -98,12 +98,32 @@ TEST_F(Files, ThatAreLinksInACircleAreRefused) {
   EXPECT_EQ(folder.Names(), "a.bin b.bin");
 }
 
-TEST_F(Files, ThatAreDevicesTakeTheirBytesWhereTheyAre) {
-  if (!fs::exists("/dev/null")) {
-    GTEST_SKIP() << "needs the device file";
+TEST_F(Files, ThatAreDevicesAreNotWritten) {
+  for (const char* device : {"/dev/null", "/dev/full"}) {
+    if (fs::exists(device)) {
+      EXPECT_THAT(FailureOf([&] { WriteFile(device, "bytes"); }),
+                  HasSubstr("is not a file that can be written"));
+      EXPECT_TRUE(fs::is_character_file(device));
+    }
   }
-  WriteFile("/dev/null", "bytes");
-  EXPECT_TRUE(fs::is_character_file("/dev/null"));
+}
+
+// Opened for writing, a pipe waits for somebody who reads it.
+TEST_F(Files, ThatArePipesAreRefusedUnopened) {
+  const fs::path pipe = folder / "pipe.MES";
+  ASSERT_EQ(mkfifo(pipe.c_str(), 0600), 0);
+  EXPECT_THROW(WriteFile(pipe, "bytes"), FileError);
+  EXPECT_THROW(ReadFile(pipe), FileError);
+  FileHandle file;
+  EXPECT_THROW(OpenRegularFile(file, pipe, FileHandle::Access::kChange), FileError);
+  EXPECT_EQ(folder.Names(), "pipe.MES");
+}
+
+TEST_F(Files, ThatCannotBeCreatedLeaveALinkToNothingAsItIs) {
+  fs::create_symlink("none/new.bin", folder / "link.bin");
+  EXPECT_THROW(WriteFile(folder / "link.bin", "x"), FileError);
+  EXPECT_TRUE(fs::is_symlink(folder / "link.bin"));
+  EXPECT_EQ(fs::read_symlink(folder / "link.bin"), "none/new.bin");
 }
 
 TEST_F(Files, ThatAreMissingAreNamed) {
@@ -115,8 +135,6 @@ TEST_F(Files, ThatAreMissingAreNamed) {
 TEST_F(Files, WithoutTheirFolderAreAFolderThatIsNotReady) {
   EXPECT_THROW(ReadFile(folder / "gone/X.MES"), FolderNotReadyError);
   EXPECT_THROW(WriteFile(folder / "gone/X.MES", "x"), FolderNotReadyError);
-  EXPECT_THROW(PatchFile(folder / "gone/X.MES", PatchFile::IfMissing::kCreate),
-               FolderNotReadyError);
 }
 
 TEST_F(Files, ThatAreMissingInAFolderThatIsThereAreNotAFolderThatIsNotReady) {
@@ -129,7 +147,8 @@ TEST_F(Files, ThatAreMissingInAFolderThatIsThereAreNotAFolderThatIsNotReady) {
 TEST_F(Files, ThatAreFoldersAreRefused) {
   EXPECT_THROW(ReadFile(folder.path()), FileError);
   EXPECT_THROW(WriteFile(folder.path(), "x"), FileError);
-  EXPECT_THROW(PatchFile(folder.path(), PatchFile::IfMissing::kFail), FileError);
+  FileHandle file;
+  EXPECT_THROW(OpenRegularFile(file, folder.path(), FileHandle::Access::kChange), FileError);
 }
 
 TEST_F(Files, ThatCannotBeReadAreRefused) {
@@ -151,7 +170,8 @@ TEST_F(Files, ThatMayOnlyBeReadAreNotWritten) {
     GTEST_SKIP() << "this user may read and write every file";
   }
   EXPECT_THROW(WriteFile(file, "new"), FileError);
-  EXPECT_THROW(PatchFile(file, PatchFile::IfMissing::kFail), FileError);
+  FileHandle handle;
+  EXPECT_THROW(OpenRegularFile(handle, file, FileHandle::Access::kChange), FileError);
   EXPECT_EQ(Slurp(file), "content");
 }
 
@@ -172,111 +192,6 @@ TEST_F(Files, OfGigabytesAreRefusedUnread) {
   const fs::path file = folder.Write("huge.MES", "");
   fs::resize_file(file, std::uintmax_t{1} << 31U);
   EXPECT_THROW(ReadFile(file), FileError);
-}
-
-TEST_F(Files, OnAFullDiskFailToBeWritten) {
-  if (!fs::exists("/dev/full")) {
-    GTEST_SKIP() << "needs the device file that is always full";
-  }
-  EXPECT_THAT(FailureOf([] { WriteFile("/dev/full", "x"); }), HasSubstr("cannot be written"));
-}
-
-TEST_F(Files, OnAFullDiskFailToBePatched) {
-  if (!fs::exists("/dev/full")) {
-    GTEST_SKIP() << "needs the device file that is always full";
-  }
-  EXPECT_THAT(FailureOf([] {
-                PatchFile file("/dev/full", PatchFile::IfMissing::kFail);
-                file.WriteAt(0, "x");
-                file.Close();
-              }),
-              HasSubstr("cannot be written"));
-}
-
-using PatchFileTest = Files;
-
-TEST_F(PatchFileTest, ChangesOnlyTheBytesThatAreWritten) {
-  const fs::path path = folder.Write("a.bin", "0123456789");
-  PatchFile file(path, PatchFile::IfMissing::kFail);
-  file.WriteAt(0, "A");
-  file.WriteAt(3, "BC");
-  file.Close();
-  EXPECT_EQ(Slurp(path), "A12BC56789");
-}
-
-TEST_F(PatchFileTest, LengthensTheFileFromItsEnd) {
-  const fs::path path = folder.Write("a.bin", "0123");
-  PatchFile file(path, PatchFile::IfMissing::kFail);
-  file.WriteAt(3, "XYZ");
-  file.Close();
-  EXPECT_EQ(Slurp(path), "012XYZ");
-}
-
-TEST_F(PatchFileTest, FillsAGapBehindTheOldEndWithZeros) {
-  const fs::path path = folder.Write("a.bin", "01");
-  PatchFile file(path, PatchFile::IfMissing::kFail);
-  file.WriteAt(5, "X");
-  file.Close();
-  EXPECT_EQ(Slurp(path), std::string("01\0\0\0X", 6));
-}
-
-TEST_F(PatchFileTest, WritesEveryByteAsItIs) {
-  const fs::path path = folder.Write("a.bin", "");
-  PatchFile file(path, PatchFile::IfMissing::kFail);
-  file.WriteAt(0, AllBytes());
-  file.Close();
-  EXPECT_EQ(Slurp(path), AllBytes());
-}
-
-TEST_F(PatchFileTest, TruncatesNothingWhenItMayCreate) {
-  const fs::path path = folder.Write("a.bin", "0123456789");
-  PatchFile file(path, PatchFile::IfMissing::kCreate);
-  file.WriteAt(0, "AB");
-  file.Close();
-  EXPECT_EQ(Slurp(path), "AB23456789");
-}
-
-TEST_F(PatchFileTest, CreatesAMissingFileWhenItMay) {
-  PatchFile file(folder / "new.bin", PatchFile::IfMissing::kCreate);
-  file.WriteAt(0, "AB");
-  file.Close();
-  EXPECT_EQ(Slurp(folder / "new.bin"), "AB");
-}
-
-TEST_F(PatchFileTest, CreatesNoMissingFileOtherwise) {
-  EXPECT_THROW(PatchFile(folder / "none.bin", PatchFile::IfMissing::kFail), FileError);
-  EXPECT_EQ(folder.Names(), "");
-}
-
-// Users know the positions of the file's layout from 1 on.
-TEST_F(PatchFileTest, NamesThePositionThatCannotBeWrittenFromOne) {
-  const fs::path path = folder.Write("a.bin", "0123");
-  const test::FullDisk disk(4);
-  EXPECT_THAT(FailureOf([&path] {
-                PatchFile file(path, PatchFile::IfMissing::kFail);
-                file.WriteAt(4, std::string(100000, 'x'));
-                file.Close();
-              }),
-              HasSubstr("cannot be written at position 5"));
-}
-
-TEST_F(PatchFileTest, RefusesAPositionBeforeTheFirst) {
-  const fs::path path = folder.Write("a.bin", "0123");
-  PatchFile file(path, PatchFile::IfMissing::kFail);
-  EXPECT_THROW(file.WriteAt(-1, "X"), FileError);
-  EXPECT_EQ(Slurp(path), "0123");
-}
-
-TEST_F(Files, ArePatchedInSeveralPlaces) {
-  const fs::path path = folder.Write("a.bin", "0123456789");
-  const std::vector<FilePatch> patches = {{8, "IJK"}, {0, "A"}, {3, ""}, {5, "F"}};
-  ApplyPatches(path, patches);
-  EXPECT_EQ(Slurp(path), "A1234F67IJK");
-}
-
-TEST_F(Files, ThatAreMissingAreNotPatched) {
-  EXPECT_THROW(ApplyPatches(folder / "none.bin", {}), FileError);
-  EXPECT_EQ(folder.Names(), "");
 }
 
 }  // namespace

@@ -65,14 +65,15 @@ TEST_F(StagedFileTest, GoesAwayWhenItIsNotCommitted) {
 // Nobody can put a file or a link there between the choice of the name and the first byte.
 TEST_F(StagedFileTest, LiesBesideItsTargetFromTheStart) {
   const StagedFile staged(target_);
-  EXPECT_THAT(folder_.Names(), MatchesRegex("~[0-9]+\\.MES"));
+  EXPECT_THAT(folder_.Names(), MatchesRegex("\\.vendlingua-[0-9]+\\.tmp"));
 }
 
 TEST_F(StagedFileTest, HasATemporaryNameOfItsOwn) {
   const StagedFile staged(target_);
   const std::string name = folder_.Names();
   const StagedFile other(target_);
-  EXPECT_THAT(folder_.Names(), MatchesRegex("~[0-9]+\\.MES ~[0-9]+\\.MES"));
+  EXPECT_THAT(folder_.Names(),
+              MatchesRegex("\\.vendlingua-[0-9]+\\.tmp \\.vendlingua-[0-9]+\\.tmp"));
   EXPECT_THAT(folder_.Names(), HasSubstr(name));
 }
 
@@ -83,10 +84,10 @@ TEST_F(StagedFileTest, IsCreatedWithTheModeOfAnyNewFile) {
   EXPECT_EQ(fs::status(target_).permissions(), static_cast<fs::perms>(0640));
 }
 
-TEST_F(StagedFileTest, TakesTheModeThatItIsGiven) {
-  StagedFile staged(target_);
-  staged.SetPermissions(fs::perms::owner_read | fs::perms::owner_write);
-  staged.Commit();
+TEST_F(StagedFileTest, TakesTheModeOfTheFileThatItReplaces) {
+  folder_.Write("NEW.MES", "old");
+  fs::permissions(target_, fs::perms::owner_read | fs::perms::owner_write);
+  StagedFile(target_).Commit();
   EXPECT_EQ(fs::status(target_).permissions(), fs::perms::owner_read | fs::perms::owner_write);
 }
 
@@ -94,9 +95,9 @@ TEST_F(StagedFileTest, MayBeWrittenBySomebodyElse) {
   StagedFile staged(target_);
   const fs::path& place = staged.HandOver();
   EXPECT_EQ(place.parent_path(), folder_.path());
-  PatchFile file(place, PatchFile::IfMissing::kFail);
-  file.WriteAt(0, "by path");
-  file.Close();
+  FileHandle file;
+  ASSERT_EQ(file.Open(place, FileHandle::Access::kChange), std::error_code());
+  ASSERT_EQ(file.WriteAt(0, "by path"), std::error_code());
   staged.Commit();
   EXPECT_EQ(folder_.Names(), "NEW.MES");
   EXPECT_EQ(Slurp(target_), "by path");

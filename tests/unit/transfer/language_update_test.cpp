@@ -6,6 +6,7 @@
 
 #include "core/formats/message_file.h"
 #include "core/platform/errors.h"
+#include "core/platform/files.h"
 #include "support/message_files.h"
 #include "support/temporary_folder.h"
 
@@ -76,7 +77,7 @@ TEST_F(LanguageUpdate, PutsTheLanguagesBehindTheFile) {
   const MessageSet file = ReadFile();
   const auto path = folder_ / "NEW.MES";
   // The file's own messages read as the older ones do: "1000", "1111", "1222".
-  ApplyPatches(path, PatchesFor(file, CarryLanguages(file, ReadOlder())));
+  WriteFile(path, Patched(file.file_content, PatchesFor(file, CarryLanguages(file, ReadOlder()))));
   EXPECT_EQ(test::Slurp(path), file_.Bytes() + "ENGLISH             200021112222" +
                                    std::string(4, '\0') + "DEUTSCH             300031113222");
 }
@@ -85,7 +86,7 @@ TEST_F(LanguageUpdate, PutsTheDisplayTypeIntoTheHeader) {
   MessageSet file = ReadFile();
   file.LoadDisplayType(1);
   const auto path = folder_ / "NEW.MES";
-  ApplyPatches(path, PatchesFor(file, CarryLanguages(file, ReadOlder())));
+  WriteFile(path, Patched(file.file_content, PatchesFor(file, CarryLanguages(file, ReadOlder()))));
   EXPECT_EQ(test::Slurp(path).substr(2, 2), "04");
 }
 
