@@ -164,7 +164,8 @@ RC_GTEST_PROP(SectionFilesProperty, HoldTheMemoryThatTheRecordsFill, ()) {
   for (std::size_t run = AnyOf(1, 3); run > 0; --run) {
     const RandomFlashFile file = *RandomFlashFiles();
     const auto path = folder.Write("FLASH.MHX", file.Content());
-    RC_ASSERT(section_files.ReadBack(path, dialogs, UiText()) == !file.ends_in_bad_line);
+    RC_ASSERT(section_files.ReadBack(path, file.Content(), dialogs, UiText()) ==
+              !file.ends_in_bad_line);
     section_files.WriteSections(SectionBase(path));
     memory.Read(file);
     for (std::size_t s = 0; s < 5; ++s) {

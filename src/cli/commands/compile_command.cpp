@@ -1,18 +1,12 @@
 #include <fmt/format.h>
 
-#include <algorithm>
 #include <iostream>
 #include <memory>
 #include <string>
-#include <system_error>
 
 #include "cli/commands.h"
 #include "cli/options.h"
-#include "core/formats/copy_header.h"
-#include "core/formats/srecord.h"
-#include "core/formats/text_lines.h"
 #include "core/platform/errors.h"
-#include "core/platform/files.h"
 
 namespace vendlingua::cli {
 namespace {
@@ -23,8 +17,6 @@ struct CompileOptions {
   std::string output;
   std::string copy;
 };
-
-namespace fs = std::filesystem;
 
 void TickLanguages(Session& session, const std::vector<std::string>& languages) {
   MessageSet& set = session.set();
@@ -47,54 +39,19 @@ void TickLanguages(Session& session, const std::vector<std::string>& languages) 
   }
 }
 
-// The copy is asked for when the flash file is written already; what cannot be is refused before.
+// The copy is asked for late; what cannot be written is refused before.
 void CheckCopy(const Session& session, const CompileOptions& options) {
-  const fs::path copy = WithDefaultExtension(options.copy, "MSX");
   session.engine.compiler.CheckOutputs(
-      {WithDefaultExtension(options.output, FlashExtension(session.engine.workspace.set)), copy});
-  std::error_code not_there;
-  const fs::path folder = copy.has_parent_path() ? copy.parent_path() : fs::path(".");
-  if (!fs::is_directory(folder, not_there) || fs::is_directory(copy, not_there)) {
-    throw CommandFailed(PathText(copy) + ": cannot be created there");
-  }
-}
-
-// What is wrong with a line of a .MSX file; empty when nothing is.
-std::string Damage(std::string_view line) {
-  if (line.empty() || line == kLastCopyLine) {
-    return "";
-  }
-  SRecord record;
-  try {
-    ParseSRecord(line, record);
-  } catch (const SRecordSyntaxError& error) {
-    return error.what();
-  }
-  return record.ChecksumIsRight() ? ""
-                                  : fmt::format("the checksum is {:02X} instead of {:02X}",
-                                                record.checksum, SRecordChecksum(record.sum));
+      {WithDefaultExtension(options.output, FlashExtension(session.set())),
+       WithDefaultExtension(options.copy, "MSX")});
 }
 
 // Lines of a .MSX file reach the board as they are, damaged ones too.
-std::vector<std::string> DamagedRecords(const std::string& file) {
+std::vector<std::string> WarningsOf(const std::string& file, const CompileOutcome& outcome) {
   std::vector<std::string> warnings;
-  const std::string content = ReadFile(file);
-  TextLines lines(content);
-  lines.Next();
-  while (const auto line = lines.Next()) {
-    if (lines.count() > 1 + kMsxLinesCompiled) {
-      break;
-    }
-    const std::string damage = Damage(line->text);
-    if (!damage.empty()) {
-      warnings.push_back(fmt::format("{}: line {}: {}", file, lines.count(), damage));
-    }
+  for (const auto& [line, damage] : outcome.damaged_records) {
+    warnings.push_back(fmt::format("{}: line {}: {}", file, line, damage));
   }
-  return warnings;
-}
-
-std::vector<std::string> ShortLanguages(const std::string& file, const CompileOutcome& outcome) {
-  std::vector<std::string> warnings;
   for (const auto& [number, name] : outcome.short_languages) {
     warnings.push_back(
         fmt::format("{}: language {} ({}) ends before its last message; 0 stands for the rest",
@@ -146,8 +103,7 @@ void RunCompile(Session& session, const CompileOptions& options) {
   session.dialogs.files[FilePurpose::kFlashFile] = options.output;
   session.dialogs.files[FilePurpose::kIdentifiedCopy] = options.copy;
   const CompileOutcome outcome = session.engine.compiler.Compile();
-  const std::vector<std::string> warnings =
-      session.set().IsMsx() ? DamagedRecords(options.file) : ShortLanguages(options.file, outcome);
+  const std::vector<std::string> warnings = WarningsOf(options.file, outcome);
   for (const std::string& warning : warnings) {
     std::cerr << "vendlingua-cli: warning: " << warning << '\n';
   }

@@ -6,6 +6,7 @@
 #include "cli/options.h"
 #include "core/flash/kept_files.h"
 #include "core/platform/errors.h"
+#include "core/platform/files.h"
 
 namespace vendlingua::cli {
 namespace {
@@ -25,9 +26,9 @@ void RefuseToReplaceInput(const fs::path& input, const fs::path& base) {
 }
 
 // An empty flash file has empty sections; any other without a byte for them is the wrong file.
-bool IsWrongFile(const fs::path& input, const SectionFiles& sections) {
+bool IsWrongFile(const std::string& content, const SectionFiles& sections) {
   const auto& used = sections.SectionUsed();
-  return !fs::is_empty(input) &&
+  return !content.empty() &&
          std::all_of(used.begin(), used.end(), [](std::int32_t length) { return length == 0; });
 }
 
@@ -36,10 +37,12 @@ void RunSections(Session& session, const SectionsOptions& options) {
       options.output.empty() ? SectionBase(options.file) : fs::path(options.output);
   RefuseToReplaceInput(options.file, base);
   SectionFiles& sections = session.engine.section_files;
-  if (!sections.ReadBack(options.file, session.dialogs, session.engine.workspace.ui_text)) {
+  const std::string content = ReadFile(options.file);
+  if (!sections.ReadBack(options.file, content, session.dialogs,
+                         session.engine.workspace.ui_text)) {
     throw CommandFailed(options.file + ": was not read to its end, no section file was written");
   }
-  if (IsWrongFile(options.file, sections)) {
+  if (IsWrongFile(content, sections)) {
     throw CommandFailed(options.file + ": holds no byte of the board's sections in S2 records");
   }
   Json written = Json::array();

@@ -3,6 +3,7 @@
 
 #include "cli/commands.h"
 #include "cli/options.h"
+#include "core/flash/companion_check.h"
 #include "core/formats/file_check.h"
 #include "core/platform/errors.h"
 
@@ -11,7 +12,11 @@ namespace {
 
 Findings Check(const std::string& file) {
   try {
-    return CheckFile(file);
+    Findings findings = CheckFile(file);
+    if (findings.empty() && IsFlashFile(file)) {
+      findings = CheckCompanions(file);
+    }
+    return findings;
   } catch (const FileError& error) {
     return {error.reason()};
   }
@@ -46,7 +51,9 @@ void AddVerify(CLI::App& app, Session& session) {
   CLI::App* command = app.add_subcommand("verify", "Say whether files are sound.");
   command->footer(
       "Files of S-records: syntax, count, checksum, gaps and overlaps, line by line.\n"
-      ".MES files: header, sizes, block count, names.\n"
+      ".MES files: header, sizes, block count, names, blocks that were never written whole.\n"
+      "Flash files: whether the section files, the copy and the message file beside them belong to "
+      "them.\n"
       "Example: vendlingua-cli verify FW0417AB.MES FW0417AB.MHX MP0417AA.MSX");
   command->add_option("FILE", *files, "files to check")->required();
   command->callback([&session, files] { RunVerify(session, *files); });

@@ -2,25 +2,24 @@
 
 #include <fmt/format.h>
 
+#include <utility>
+
 #include "core/flash/identified_copy.h"
 #include "core/flash/kept_files.h"
 #include "core/formats/copy_header.h"
+#include "core/formats/file_merge.h"
 #include "core/formats/mes_file.h"
 #include "core/formats/srecord.h"
+#include "core/formats/srecord_check.h"
 #include "core/formats/text_lines.h"
 #include "core/platform/errors.h"
 #include "core/platform/files.h"
+#include "core/platform/in_place_change.h"
 
 namespace vendlingua {
 namespace {
 
 namespace fs = std::filesystem;
-
-void Write(const fs::path& path, std::initializer_list<std::string_view> pieces,
-           CompileOutcome& outcome) {
-  WriteFile(path, pieces);
-  outcome.written.push_back(path);
-}
 
 std::string FirstLine(const std::string& records) {
   const auto line = TextLines(records).Next();
@@ -48,7 +47,7 @@ FlashCompiler::FlashCompiler(Workspace& workspace, Dialogs& dialogs, CompilerSta
       section_files_(section_files) {}
 
 CompileOutcome FlashCompiler::Compile() {
-  CompileOutcome outcome;
+  Work work;
   workspace_.folders.current = workspace_.folders.program;
   SetBusy(true);
   try {
@@ -56,31 +55,37 @@ CompileOutcome FlashCompiler::Compile() {
                                         FlashExtension(workspace_.set), true);
     if (flash_file.empty()) {
       SetBusy(false);
-      return outcome;
+      return work.outcome;
     }
     compiler_.hourglass = true;
-    Run({flash_file, NamedCopy(flash_file)}, outcome);
+    work.outputs = {flash_file, NamedCopy(flash_file)};
+    Run(work);
   } catch (...) {
     SetBusy(false);
     throw;
   }
-  if (outcome.completed) {
+  if (work.outcome.completed) {
     SetBusy(false);
   }
-  return outcome;
+  return work.outcome;
 }
 
-void FlashCompiler::Run(CompileOutputs outputs, CompileOutcome& outcome) {
-  CheckOutputs(outputs);
+void FlashCompiler::Run(Work& work) {
+  CheckOutputs(work.outputs);
+  bool goes_on = true;
   if (workspace_.set.IsMsx()) {
-    CompileMsx(outputs, outcome);
-  } else if (workspace_.set.IsMes() && !CompileMes(outputs, outcome)) {
-    return;
+    CompileMsx(work);
+  } else if (workspace_.set.IsMes()) {
+    goes_on = CompileMes(work);
+  } else if (IsMhxFamily()) {
+    // Nothing is compiled; the sections are those of the flash file that is there.
+    work.records = ReadFile(work.outputs.flash_file, kSRecordFileLimit);
   }
-  if (IsMhxFamily()) {
-    WriteSectionFiles(outputs, outcome);
+  if (goes_on && IsMhxFamily()) {
+    AddSectionFiles(work);
   }
-  outcome.completed = true;
+  work.files.Commit();
+  work.outcome.completed = goes_on;
 }
 
 // Empty when nothing was chosen.
@@ -105,13 +110,16 @@ void FlashCompiler::CheckOutputs(const CompileOutputs& outputs) const {
   std::vector<KeptFile> kept = {{workspace_.set.CurrentFileName, UiTextId::kIsMessageFile}};
   RefuseToReplace(kept, outputs.flash_file);
   kept.push_back({outputs.flash_file, UiTextId::kIsFlashFile});
+  RequireReplaceable(outputs.flash_file);
   if (outputs.copy) {
     RefuseToReplace(kept, *outputs.copy);
+    RequireReplaceable(*outputs.copy);
     kept.push_back({*outputs.copy, UiTextId::kIsIdentifiedCopy});
   }
   if (IsMhxFamily()) {
     for (const fs::path& path : SectionFiles::Paths(SectionBase(outputs.flash_file))) {
       RefuseToReplace(kept, path);
+      RequireReplaceable(path);
     }
   }
 }
@@ -130,21 +138,21 @@ std::optional<fs::path> FlashCompiler::NamedCopy(const fs::path& flash_file) con
 }
 
 // False when the run stops here.
-bool FlashCompiler::CompileMes(CompileOutputs& outputs, CompileOutcome& outcome) {
+bool FlashCompiler::CompileMes(Work& work) {
   const MessageSet& set = workspace_.set;
   dialogs_.LetPendingEventsRun();
-  flash_image_ = NamingFile(set.CurrentFileName, [&] { return PackedImage(outcome); });
-  const std::string records =
-      FormatSRecords(flash_image_.Bytes(), set.MemStart, SRecordTypeFor(set.MemStart));
-  Write(outputs.flash_file, {records}, outcome);
-  return set.LangCount == kMsxLanguages ? WriteNineLanguageCopy(outputs, records, outcome)
-                                        : WriteNamedCopy(outputs, records, outcome);
+  flash_image_ =
+      NamingFile(set.CurrentFileName, [this, &work] { return PackedImage(work.outcome); });
+  work.records = FormatSRecords(flash_image_.Bytes(), set.MemStart, SRecordTypeFor(set.MemStart));
+  work.Add(work.outputs.flash_file, {work.records});
+  return set.LangCount == kMsxLanguages ? AddNineLanguageCopy(work) : AddNamedCopy(work);
 }
 
 // The image of this run; that of the last one stays if an error comes up.
 FlashImage FlashCompiler::PackedImage(CompileOutcome& outcome) const {
-  const MessageSet& set = workspace_.set;
-  const std::string content = ReadFile(set.CurrentFileName);
+  const std::string content = ReadSharedFile(workspace_.set.CurrentFileName);
+  MessageSet set = workspace_.set;
+  TakeOverFile(set, content);
   FlashImage image = flash_image_;
   image.MatchTo(set);
   for (const int language : image.Pack(set, content, compiler_.TickedLanguages())) {
@@ -159,70 +167,71 @@ FlashImage FlashCompiler::PackedImage(CompileOutcome& outcome) const {
 
 // The records of a ".MSX" file without its own header: always 4095 lines, empty ones behind its
 // end.
-void FlashCompiler::CompileMsx(const CompileOutputs& outputs, CompileOutcome& outcome) {
+void FlashCompiler::CompileMsx(Work& work) {
   constexpr std::size_t kMostLines = 4099;
-  const std::string content = ReadFile(workspace_.set.CurrentFileName);
+  const std::string content = ReadSharedFile(workspace_.set.CurrentFileName);
   TextLines lines(content);
   lines.Next();
-  std::string records;
   std::size_t written = 0;
   while (const auto line = lines.Next()) {
     if (lines.count() > kMostLines) {
       throw FileError(workspace_.set.CurrentFileName, UiTextId::kTooManyLines, kMostLines);
     }
     if (written < kMsxLinesCompiled) {
-      records.append(line->text).append(kCrLf);
+      if (std::string damage = DamageOf(line->text); !damage.empty()) {
+        work.outcome.damaged_records.push_back({lines.count(), std::move(damage)});
+      }
+      work.records.append(line->text).append(kCrLf);
       ++written;
     }
   }
   for (; written < kMsxLinesCompiled; ++written) {
-    records += kCrLf;
+    work.records += kCrLf;
   }
-  Write(outputs.flash_file, {records}, outcome);
+  work.Add(work.outputs.flash_file, {work.records});
 }
 
 // False when the run stops here.
-bool FlashCompiler::WriteNineLanguageCopy(CompileOutputs& outputs, const std::string& records,
-                                          CompileOutcome& outcome) {
+bool FlashCompiler::AddNineLanguageCopy(Work& work) {
   const fs::path copy =
       AskPath(FilePurpose::kIdentifiedCopy, UiTextId::kIdentifiedCopyTitle, "MSX", false);
   if (copy.empty()) {
     return false;
   }
-  outputs.copy = copy;
-  CheckOutputs(outputs);
-  const std::string header = HeaderFromFirstRecord(FirstLine(records));
-  Write(copy, {header, kCrLf, records, kLastCopyLine, kCrLf}, outcome);
+  work.outputs.copy = copy;
+  CheckOutputs(work.outputs);
+  const std::string header = HeaderFromFirstRecord(FirstLine(work.records));
+  work.Add(copy, {header, kCrLf, work.records, kLastCopyLine, kCrLf});
   return true;
 }
 
 // False when the run stops here.
-bool FlashCompiler::WriteNamedCopy(const CompileOutputs& outputs, const std::string& records,
-                                   CompileOutcome& outcome) {
-  const auto name = CopyNameFor(outputs.flash_file);
+bool FlashCompiler::AddNamedCopy(Work& work) {
+  const auto name = CopyNameFor(work.outputs.flash_file);
   if (!name) {
     dialogs_.MessageBox(
         {MessageIcon::kCritical, "Impossibile creare il file MSX o il file HSX", "Errore"});
     return false;
   }
   const auto header = HeaderFromBaseName(name->base_name);
-  if (!header || !outputs.copy) {
+  if (!header || !work.outputs.copy) {
     constexpr const char* kText =
         "                     The file .MSX/.HSX will not created \n\n"
         " Name File : {}.MHX .HSX not correct (Es:FW0000AA)";
     dialogs_.MessageBox({MessageIcon::kInformation, fmt::format(kText, name->base_name), "Info"});
     return true;
   }
-  CheckOutputs(outputs);
-  Write(*outputs.copy, {*header, kCrLf, records}, outcome);
+  CheckOutputs(work.outputs);
+  work.Add(*work.outputs.copy, {*header, kCrLf, work.records});
   return true;
 }
 
-void FlashCompiler::WriteSectionFiles(const CompileOutputs& outputs, CompileOutcome& outcome) {
-  section_files_.ReadBack(outputs.flash_file, dialogs_, workspace_.ui_text);
-  CheckOutputs(outputs);
-  for (const fs::path& path : section_files_.WriteSections(SectionBase(outputs.flash_file))) {
-    outcome.written.push_back(path);
+void FlashCompiler::AddSectionFiles(Work& work) {
+  const fs::path& flash_file = work.outputs.flash_file;
+  section_files_.ReadBack(flash_file, work.records, dialogs_, workspace_.ui_text);
+  CheckOutputs(work.outputs);
+  for (const fs::path& path : section_files_.AddSections(SectionBase(flash_file), work.files)) {
+    work.outcome.written.push_back(path);
   }
 }
 

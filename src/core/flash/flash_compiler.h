@@ -3,8 +3,10 @@
 
 #include <cstddef>
 #include <filesystem>
+#include <initializer_list>
 #include <optional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "core/document/workspace.h"
@@ -12,6 +14,7 @@
 #include "core/flash/flash_image.h"
 #include "core/flash/section_files.h"
 #include "core/platform/dialogs.h"
+#include "core/platform/staged_files.h"
 
 namespace vendlingua {
 
@@ -34,8 +37,15 @@ struct CompileOutcome {
     std::string name;  ///< UTF-8
   };
 
+  /// A line of a ".MSX" file that is no sound record.
+  struct DamagedRecord {
+    std::size_t line;    ///< from 1, the header line
+    std::string damage;  ///< English
+  };
+
   std::vector<std::filesystem::path> written;
   std::vector<ShortLanguage> short_languages;  ///< compiled with 0 for what is not there
+  std::vector<DamagedRecord> damaged_records;  ///< compiled as they are
   bool completed = false;                      ///< the last step was reached
 };
 
@@ -46,30 +56,44 @@ class FlashCompiler {
   FlashCompiler(Workspace& workspace, Dialogs& dialogs, CompilerState& compiler,
                 FlashImage& flash_image, SectionFiles& section_files);
 
-  /// The compile button. Two stops (the name of the flash file gives no name for the copy; the file
-  /// question for the copy of nine languages is cancelled) leave both buttons disabled and the
-  /// hourglass on. Throws Error, with both buttons enabled again, when the message file cannot be
-  /// compiled, when CheckOutputs() does, or when a file cannot be written.
+  /// The compile button. All files of a run take their names together, at its end. Two stops (the
+  /// name of the flash file gives no name for the copy; the file question for the copy of nine
+  /// languages is cancelled) end it with the flash file alone, and leave both buttons disabled and
+  /// the hourglass on. Throws Error, with both buttons enabled again and the files of the run
+  /// before as they were, when the message file cannot be compiled, when CheckOutputs() does, or
+  /// when a file cannot be written.
   CompileOutcome Compile();
 
-  /// Throws FileError when an output would take the place of the message file or of another output.
-  /// Compile() looks before it writes the first byte, and again as more becomes known.
+  /// Throws FileError when an output would take the place of the message file or of another output,
+  /// or when no file can be written there. Compile() looks before it writes the first byte, and
+  /// again as more becomes known.
   void CheckOutputs(const CompileOutputs& outputs) const;
 
  private:
+  /// What one run makes.
+  struct Work {
+    CompileOutputs outputs;
+    std::string records;  ///< of the flash file
+    StagedFiles files;
+    CompileOutcome outcome;
+
+    void Add(const std::filesystem::path& path, std::initializer_list<std::string_view> pieces) {
+      files.Add(path, pieces);
+      outcome.written.push_back(path);
+    }
+  };
+
   bool IsMhxFamily() const { return workspace_.set.HeaderBit1 != kFalse; }
   std::filesystem::path AskPath(FilePurpose purpose, UiTextId title, const std::string& extension,
                                 bool overwrite_prompt);
   std::optional<std::filesystem::path> NamedCopy(const std::filesystem::path& flash_file) const;
-  void Run(CompileOutputs outputs, CompileOutcome& outcome);
-  bool CompileMes(CompileOutputs& outputs, CompileOutcome& outcome);
+  void Run(Work& work);
+  bool CompileMes(Work& work);
   FlashImage PackedImage(CompileOutcome& outcome) const;
-  void CompileMsx(const CompileOutputs& outputs, CompileOutcome& outcome);
-  bool WriteNineLanguageCopy(CompileOutputs& outputs, const std::string& records,
-                             CompileOutcome& outcome);
-  bool WriteNamedCopy(const CompileOutputs& outputs, const std::string& records,
-                      CompileOutcome& outcome);
-  void WriteSectionFiles(const CompileOutputs& outputs, CompileOutcome& outcome);
+  void CompileMsx(Work& work);
+  bool AddNineLanguageCopy(Work& work);
+  bool AddNamedCopy(Work& work);
+  void AddSectionFiles(Work& work);
   void SetBusy(bool busy);
 
   Workspace& workspace_;

@@ -8,7 +8,6 @@
 #include "core/formats/srecord.h"
 #include "core/formats/text_lines.h"
 #include "core/platform/errors.h"
-#include "core/platform/files.h"
 
 namespace vendlingua {
 namespace {
@@ -47,26 +46,39 @@ std::array<fs::path, 1 + SectionFiles::kSections> SectionFiles::Paths(const fs::
   return paths;
 }
 
-bool SectionFiles::ReadBack(const fs::path& flash_file, Dialogs& dialogs, const UiText& ui_text) {
-  const std::string content = ReadFile(flash_file);
+bool SectionFiles::ReadBack(const fs::path& flash_file, std::string_view content, Dialogs& dialogs,
+                            const UiText& ui_text) {
   TextLines lines(content);
   while (const auto line = lines.Next()) {
     dialogs.LetPendingEventsRun();
-    if (!line->text.starts_with('S')) {
+    if (!TakeLine(line->text)) {
       dialogs.MessageBox(
           {MessageIcon::kExclamation,
            fmt::format("{}\r{}", PathText(flash_file), ui_text[UiTextId::kBadFlashLine]),
            ui_text[UiTextId::kErrorTitle]});
       return false;
     }
-    if (line->text.starts_with("S2")) {
-      StoreRecord(line->text);
-    }
   }
+  TakeOverTexts();
+  return true;
+}
+
+bool SectionFiles::TakeLine(std::string_view line) {
+  if (line.starts_with("S2")) {
+    StoreRecord(line);
+  }
+  return line.starts_with('S');
+}
+
+void SectionFiles::TakeOverTexts() {
   for (std::size_t s = 0; s < kSections; ++s) {
     section_text_[s].assign(memory_picture_.data() + kBounds[s], kBounds[s + 1] - kBounds[s]);
   }
-  return true;
+}
+
+std::string_view SectionFiles::Text(std::size_t section) const {
+  const auto used = static_cast<std::size_t>(section_used_.at(section));
+  return std::string_view(section_text_.at(section)).substr(0, used);
 }
 
 void SectionFiles::StoreRecord(std::string_view line) {
@@ -103,21 +115,27 @@ void SectionFiles::NoteSectionUse(std::int16_t count, std::int32_t address) {
   }
 }
 
-std::vector<fs::path> SectionFiles::WriteSections(const fs::path& base) const {
+std::vector<fs::path> SectionFiles::AddSections(const fs::path& base, StagedFiles& files) const {
   const auto paths = Paths(base);
-  WriteFile(paths.front(), "");
-  std::vector<fs::path> written = {paths.front()};
+  files.Add(paths.front(), {});
+  std::vector<fs::path> added = {paths.front()};
   for (std::size_t s = 0; s < kSections; ++s) {
     const fs::path& path = paths.at(1 + s);
-    const std::string used = section_text_[s].substr(0, static_cast<std::size_t>(section_used_[s]));
-    // Created before it is removed, so that a path that cannot be written is an error either way.
-    WriteFile(path, used);
-    if (used.empty()) {
-      fs::remove(path);
+    const std::string_view text = Text(s);
+    if (text.empty()) {
+      files.Remove(path);
     } else {
-      written.push_back(path);
+      files.Add(path, {text});
+      added.push_back(path);
     }
   }
+  return added;
+}
+
+std::vector<fs::path> SectionFiles::WriteSections(const fs::path& base) const {
+  StagedFiles files;
+  std::vector<fs::path> written = AddSections(base, files);
+  files.Commit();
   return written;
 }
 

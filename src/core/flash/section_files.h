@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "core/platform/dialogs.h"
+#include "core/platform/staged_files.h"
 #include "core/texts/ui_text.h"
 
 namespace vendlingua {
@@ -30,15 +31,28 @@ class SectionFiles {
   /// The files that belong to `base`: `base`.mtx, and `base`.SA0 to .SA4.
   static std::array<std::filesystem::path, 1 + kSections> Paths(const std::filesystem::path& base);
 
-  /// Parses the S2 records of a flash file and takes over the section texts. Records at address
+  /// Parses the S2 records of the flash file whose content is given and takes over the section
+  /// texts. Records at address
   /// 0xC000 or above (of the low 16 bits) and all other types are passed over, checksums are not
   /// looked at, and what is not hexadecimal counts as 0. False when a line does not begin with "S":
-  /// the user is told, and the section texts stay those of the run before. Throws FileError when
-  /// the file cannot be read.
-  bool ReadBack(const std::filesystem::path& flash_file, Dialogs& dialogs, const UiText& ui_text);
+  /// the user is told by the name of the file, and the section texts stay those of the run before.
+  bool ReadBack(const std::filesystem::path& flash_file, std::string_view content, Dialogs& dialogs,
+                const UiText& ui_text);
 
-  /// Writes the files of `base`: .mtx, empty, and .SA0 to .SA4 with the used bytes of each section;
-  /// a section without any leaves no file. Returns the files written. Throws FileError.
+  /// The steps of ReadBack(): takes one line, which is false when it does not begin with "S"; takes
+  /// the section texts over.
+  bool TakeLine(std::string_view line);
+  void TakeOverTexts();
+
+  /// The used bytes of section `section`.
+  std::string_view Text(std::size_t section) const;
+
+  /// Adds the files of `base`: .mtx, empty, and .SA0 to .SA4 with the used bytes of each section; a
+  /// section without any leaves no file. Returns the files added. Throws FileError.
+  std::vector<std::filesystem::path> AddSections(const std::filesystem::path& base,
+                                                 StagedFiles& files) const;
+
+  /// Writes them by themselves. Returns the files written. Throws FileError.
   std::vector<std::filesystem::path> WriteSections(const std::filesystem::path& base) const;
 
   /// Notes that a record puts `count` bytes at `address` (below 0xC000). Of a section whose end a

@@ -23,6 +23,11 @@ constexpr std::size_t kMostFindings = 10000;
 using AddressRange = boost::icl::right_open_interval<std::uint64_t>;
 using AddressRanges = boost::icl::interval_set<std::uint64_t, std::less, AddressRange>;
 
+std::string WrongChecksum(const SRecord& record) {
+  return fmt::format("the checksum is {:02X} instead of {:02X}", record.checksum,
+                     SRecordChecksum(record.sum));
+}
+
 class SRecordChecker {
  public:
   Findings Check(std::string_view content) {
@@ -77,8 +82,7 @@ class SRecordChecker {
       Report("lower-case hexadecimal digits");
     }
     if (!record_.ChecksumIsRight()) {
-      Report(fmt::format("the checksum is {:02X} instead of {:02X}", record_.checksum,
-                         SRecordChecksum(record_.sum)));
+      Report(WrongChecksum(record_));
     }
     if (record_.type >= '1' && record_.type <= '3') {
       CheckAddress();
@@ -113,5 +117,18 @@ class SRecordChecker {
 }  // namespace
 
 Findings CheckSRecords(std::string_view content) { return SRecordChecker().Check(content); }
+
+std::string DamageOf(std::string_view line) {
+  if (line.empty() || line == kLastCopyLine) {
+    return {};
+  }
+  SRecord record;
+  try {
+    ParseSRecord(line, record);
+  } catch (const SRecordSyntaxError& error) {
+    return error.what();
+  }
+  return record.ChecksumIsRight() ? std::string() : WrongChecksum(record);
+}
 
 }  // namespace vendlingua

@@ -5,6 +5,7 @@
 #include "core/platform/errors.h"
 
 namespace vendlingua {
+
 std::string SelectionStatus(const CompilerState& compiler, int lang_count, const UiText& ui_text) {
   return fmt::format("{} {}, {} {}", ui_text[UiTextId::kLanguagesToChoose], lang_count,
                      ui_text[UiTextId::kLanguagesChosen], compiler.TickedLanguages().size());
@@ -26,6 +27,11 @@ std::string WrittenStatus(const CompileOutcome& outcome, const UiText& ui_text) 
   if (!languages.empty()) {
     status +=
         fmt::format("\n{} {}", ui_text[UiTextId::kShortLanguages], fmt::join(languages, ", "));
+  }
+  if (!outcome.damaged_records.empty()) {
+    const UiSentence damage(UiTextId::kDamagedRecords, outcome.damaged_records.size(),
+                            outcome.damaged_records.front().line);
+    status += "\n" + damage.In(ui_text);
   }
   return status;
 }

@@ -12,8 +12,9 @@ namespace vendlingua {
 /// How many languages have to be ticked and how many are, for the status line.
 std::string SelectionStatus(const CompilerState& compiler, int lang_count, const UiText& ui_text);
 
-/// The names of the files that a run wrote and, on a line of their own, the languages that end
-/// before their last message, for the status line; empty when it wrote none.
+/// The names of the files that a run wrote and, on lines of their own, the languages that end
+/// before their last message and the damaged records, for the status line; empty when it wrote
+/// none.
 std::string WrittenStatus(const CompileOutcome& outcome, const UiText& ui_text);
 
 }  // namespace vendlingua

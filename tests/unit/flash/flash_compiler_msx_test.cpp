@@ -106,5 +106,18 @@ TEST_F(MsxSourceTest, CutsNineLanguagesIntoSections) {
   EXPECT_EQ(Slurp(folder_ / "F.SA1").substr(0, 16), test::MsxMessage(5, 228));  // 0x8000 / 16
 }
 
+TEST_F(MsxSourceTest, TellsOfDamagedRecordsAndCompilesThem) {
+  std::string content = test::MsxFile(1);
+  // The last digit of the checksum of message 1, in the third line.
+  char& digit = content[test::kMsxHeaderLine + 2 * test::kMsxLine - 3];
+  digit = digit == '0' ? '1' : '0';
+  OpenMsxSource(content);
+  const CompileOutcome outcome = Compile({}, folder_ / "F.MHX");
+  ASSERT_THAT(outcome.damaged_records, SizeIs(1));
+  EXPECT_EQ(outcome.damaged_records[0].line, 3U);
+  EXPECT_THAT(outcome.damaged_records[0].damage, HasSubstr("the checksum is "));
+  EXPECT_THAT(Slurp(folder_ / "F.MHX"), testing::StartsWith(content.substr(test::kMsxHeaderLine)));
+}
+
 }  // namespace
 }  // namespace vendlingua

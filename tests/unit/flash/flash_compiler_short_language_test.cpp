@@ -45,7 +45,7 @@ TEST_F(ShortLanguageTest, TakesWhatIsThereOfAMessageThatIsCut) {
   const std::string bytes = file_.Bytes();
   constexpr std::size_t kLanguage2 = 24 + 2 * 36 + 20;
   for (std::size_t there = 0; there <= 12; ++there) {
-    folder_.Write("SET.MES", bytes.substr(0, kLanguage2 + there));
+    Open("SET.MES", bytes.substr(0, kLanguage2 + there));
     const CompileOutcome outcome = Compile({1, 2}, folder_ / "F.hex");
     EXPECT_THAT(outcome.short_languages, SizeIs(there < 12 ? 1 : 0)) << there;
     const std::string second = bytes.substr(kLanguage2, there) + std::string(12 - there, '\0');

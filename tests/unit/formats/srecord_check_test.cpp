@@ -207,5 +207,17 @@ TEST(CheckSRecords, TakesRandomBytesWithoutHarm) {
   }
 }
 
+TEST(DamageOf, IsNoneForWhatAMsxFileMayHold) {
+  EXPECT_EQ(DamageOf(kFirst), "");
+  EXPECT_EQ(DamageOf(""), "");
+  EXPECT_EQ(DamageOf(kLastLine), "");
+}
+
+TEST(DamageOf, SaysWhatIsWrongWithARecord) {
+  EXPECT_THAT(DamageOf("no record"), testing::Not(IsEmpty()));
+  // 07 + 60 + 00 + 01 + 02 + 03 + 04 = 71, whose complement is 8E.
+  EXPECT_EQ(DamageOf("S1076000010203048D"), "the checksum is 8D instead of 8E");
+}
+
 }  // namespace
 }  // namespace vendlingua

@@ -12,6 +12,7 @@ class CompilerStatusTest : public testing::Test {
     ui_text_.Set(58, "To choose:");
     ui_text_.Set(59, "chosen:");
     ui_text_.Set(74, "Short:");
+    ui_text_.Set(static_cast<std::size_t>(UiTextId::kDamagedRecords), "{0} damaged, first {1}");
   }
 
   UiText ui_text_;
@@ -36,6 +37,13 @@ TEST_F(CompilerStatusTest, NamesTheLanguagesThatEndEarlyBehindTheFiles) {
   outcome.written = {"/flash/FW0417AB.MHX"};
   outcome.short_languages = {{2, "ENGLISH"}, {7, "ČEŠTINA"}};
   EXPECT_EQ(WrittenStatus(outcome, ui_text_), "Files: FW0417AB.MHX\nShort: ENGLISH, ČEŠTINA");
+}
+
+TEST_F(CompilerStatusTest, CountsTheDamagedRecordsBehindTheFiles) {
+  CompileOutcome outcome;
+  outcome.written = {"/flash/FW0417AB.MHX"};
+  outcome.damaged_records = {{4, "the checksum is wrong"}, {17, "no record"}};
+  EXPECT_EQ(WrittenStatus(outcome, ui_text_), "Files: FW0417AB.MHX\n2 damaged, first 4");
 }
 
 TEST_F(CompilerStatusTest, SaysNothingOfARunThatWroteNothing) {
