@@ -16,6 +16,8 @@ class PostponedClose {
   /// Runs `command`, and then closes the window if it was to be closed meanwhile.
   void During(const std::function<void()>& command);
 
+  bool IsRunning() const { return running_ > 0; }
+
   /// Whether the window has to stay for now; `event` is ignored then.
   bool Postpones(QCloseEvent& event);
 

@@ -102,24 +102,23 @@ class FailedSavesTest : public DeskTest {
     QCOMPARE(Slurp(path), MesFile().Bytes() + "POLSKI              EDIT11111222");
   }
 
-  void TheNextSaveHealsAMsxFileThatWasWrittenInPart() {
+  void PutsAMsxFileBackThatCouldBeWrittenInPartOnly() {
     const fs::path path = desk_->EditMsx();
     desk_->Type("EDIT");
     desk_->HScroll1().setValue(200);
     desk_->Type("EDIT");
-    std::string written_in_part = MsxFile(2);
-    ReplaceMessage(written_in_part, 0, "EDIT");
     {
-      const FullDisk disk(written_in_part.find(S2Line(0xFF0000 + 160, MsxMessage(1, 10))));
+      const FullDisk disk(MsxFile(2).find(S2Line(0xFF0000 + 160, MsxMessage(1, 10))));
       desk_->program.Choose("mnuSave");
     }
     ExpectNotSaved(SystemReason(EFBIG));
-    QCOMPARE(Slurp(path), written_in_part);
+    QCOMPARE(Slurp(path), MsxFile(2));
     desk_->program.Choose("mnuSave");
     QVERIFY(Status().startsWith(UiText(54)));
-    std::string healed = written_in_part;
-    ReplaceMessage(healed, 200, "EDIT");
-    QCOMPARE(Slurp(path), healed);
+    std::string saved = MsxFile(2);
+    ReplaceMessage(saved, 0, "EDIT");
+    ReplaceMessage(saved, 200, "EDIT");
+    QCOMPARE(Slurp(path), saved);
   }
 
   void ACopyThatFindsNoRoomOnTheDiskLeavesEveryFileAsItWas() {
@@ -233,7 +232,7 @@ class FailedSavesTest : public DeskTest {
         whole.substr(0, whole.find(S2Line(0xFF0000 + 100 * 16, MsxMessage(1, 100))));
     desk_->folder.Write("TEST.MSX", shortened);
     desk_->program.Choose("mnuSave");
-    ExpectNotSaved(Say(UiSentence(UiTextId::kLanguageBehindEnd, 101)));
+    ExpectNotSaved(Say(UiSentence(UiTextId::kFileWasReplaced)));
     QCOMPARE(Slurp(path), shortened);
     desk_->user.Choose(desk_->folder / "COPY.MSX");
     desk_->program.Choose("mnuSaas");
@@ -249,16 +248,18 @@ class FailedSavesTest : public DeskTest {
     content.erase(std::remove(content.begin(), content.end(), '\r'), content.end());
     desk_->folder.Write("TEST.MSX", content);
     desk_->program.Choose("mnuSave");
-    ExpectNotSaved(Say(UiSentence(UiTextId::kNotInCrLf, 2)));
+    ExpectNotSaved(Say(UiSentence(UiTextId::kFileWasReplaced)));
     QCOMPARE(Slurp(path), content);
   }
 
-  void RestoresTheEndOfItsLanguageInAMesFileThatWasShortened() {
+  void WritesNothingIntoAMesFileThatWasShortened() {
     const fs::path path = EditAMessage();
-    fs::resize_file(path, MesFile().Bytes().size() - 10);
+    const std::string shortened = MesFile().Bytes().substr(0, MesFile().Bytes().size() - 10);
+    fs::resize_file(path, shortened.size());
     desk_->program.Choose("mnuSave");
-    QVERIFY(Status().startsWith(UiText(54)));
-    QCOMPARE(Slurp(path), EditedMes().substr(0, 24 + MesFile().BlockLength() + 20 + 12));
+    ExpectNotSaved(Say(UiSentence(UiTextId::kFileWasReplaced)));
+    QCOMPARE(Slurp(path), shortened);
+    ExpectSavedElsewhere();
   }
 
   void SaysThatTheFolderIsGone() {

@@ -137,12 +137,21 @@ bool FrmMake::Load() {
   }
   SSTab1_->setVisible(set.IsMes());
   Mirror();
-  for (std::size_t page = 0; page < kPages; ++page) {
-    LayOutPage(page);
-  }
   QWidget* first = set.IsMes() ? static_cast<QWidget*>(Check1_.at(1)) : Command1_;
   first->setFocus();
   return true;
+}
+
+// Another program may add languages to the file while the window is open.
+void FrmMake::LayOutPages() {
+  const std::size_t languages = parts_.workspace.set.language_names.size();
+  if (languages_laid_out_ == languages) {
+    return;
+  }
+  languages_laid_out_ = languages;
+  for (std::size_t page = 0; page < kPages; ++page) {
+    LayOutPage(page);
+  }
 }
 
 // As many columns as the number of languages calls for; a page that is larger than the screen
@@ -158,6 +167,7 @@ void FrmMake::LayOutPage(std::size_t page) {
   const int entries = static_cast<int>(shown.size());
   const int columns = Columns(entries);
   const int rows = (entries + columns - 1) / columns;
+  delete pages_.at(page)->layout();
   auto* grid = new QGridLayout(pages_.at(page));
   for (int n = 0; n < entries; ++n) {
     const std::size_t i = shown[static_cast<std::size_t>(n)];
@@ -185,6 +195,7 @@ void FrmMake::Mirror() {
     Label1_.at(i)->setVisible(entry.visible);
     Label1_.at(i)->setText(FromUtf8(entry.caption));
   }
+  LayOutPages();
   const UiText& ui_text = parts_.workspace.ui_text;
   Command1_->setText(FromUtf8(ui_text[UiTextId::kCompile]));
   Command1_->setEnabled(view.Command1Enabled);

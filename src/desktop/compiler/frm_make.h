@@ -61,6 +61,7 @@ class FrmMake : public QWidget {
   void BuildEntries();
   void BuildButtons();
   void OrderTabStops();
+  void LayOutPages();
   void LayOutPage(std::size_t page);
   void RenameFocused();
   void Rename(int language);
@@ -76,6 +77,7 @@ class FrmMake : public QWidget {
   QPushButton* Command1_;
   QPushButton* Command2_;
   QLabel* status_;
+  std::size_t languages_laid_out_ = 0;
   std::array<QWidget*, kPages> pages_{};
   std::array<QCheckBox*, kLanguageEntries> Check1_{};
   std::array<QLabel*, kLanguageEntries> Label1_{};

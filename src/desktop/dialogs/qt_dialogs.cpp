@@ -4,10 +4,10 @@
 #include <QInputDialog>
 #include <QKeyEvent>
 #include <QMessageBox>
-#include <QPushButton>
 #include <utility>
 
 #include "core/presentation/view_state.h"
+#include "desktop/dialogs/conflict_box.h"
 #include "desktop/dialogs/file_dialog.h"
 #include "desktop/qt_text.h"
 
@@ -101,6 +101,20 @@ std::optional<std::filesystem::path> QtDialogs::OpenFile(const FileRequest& requ
 std::optional<std::filesystem::path> QtDialogs::SaveFile(const FileRequest& request) {
   BeforeDialog();
   return FileDialog(request, QFileDialog::AcceptSave, owner_).Ask();
+}
+
+// One after the other.
+std::vector<ConflictAnswer> QtDialogs::ResolveConflicts(const ConflictRequest& request) {
+  BeforeDialog();
+  std::vector<ConflictAnswer> answers;
+  for (std::size_t i = 0; i < request.conflicts.size(); ++i) {
+    const auto answer = ConflictBox(request, i, owner_).Ask();
+    if (!answer) {
+      return {};
+    }
+    answers.push_back(*answer);
+  }
+  return answers;
 }
 
 // Some operations ask for it at every line of a file; nobody sees more than one picture a frame.

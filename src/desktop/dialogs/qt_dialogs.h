@@ -42,6 +42,7 @@ class QtDialogs : public Dialogs {
   std::string InputBox(const InputRequest& request) override;
   std::optional<std::filesystem::path> OpenFile(const FileRequest& request) override;
   std::optional<std::filesystem::path> SaveFile(const FileRequest& request) override;
+  std::vector<ConflictAnswer> ResolveConflicts(const ConflictRequest& request) override;
   void LetPendingEventsRun() override;
 
  private:

@@ -11,6 +11,7 @@
 
 #include "core/operations/exit.h"
 #include "core/operations/interface_language.h"
+#include "core/operations/outside_changes.h"
 #include "core/platform/errors.h"
 #include "core/presentation/twips.h"
 #include "desktop/qt_text.h"
@@ -54,6 +55,7 @@ FrmMes::FrmMes(Engine& engine, QtDialogs& dialogs, ProgramStarter& starter)
   typing_pause_.setSingleShot(true);
   typing_pause_.setInterval(kTypingPause);
   connect(&typing_pause_, &QTimer::timeout, this, [this] { engine_.editing.EndTyping(); });
+  connect(&file_watch_, &FileWatch::Changed, this, &FrmMes::LookAtFile);
   dialogs_.Attach([this] { Mirror(); }, engine_.workspace.ui_text);
   Mirror();
 }
@@ -137,6 +139,7 @@ void FrmMes::Mirror() {
   const Workspace& workspace = engine_.workspace;
   const ViewState view = ViewOf(workspace);
   qt_texts_.Follow(workspace);
+  file_watch_.Follow(workspace.set.CurrentFileName);
   setWindowTitle(FromUtf8(view.caption));
   setFixedSize(PixelsFromTwips(kWindowWidth), PixelsFromTwips(view.height));
   menus_->Show(MenusOf(workspace));
@@ -155,6 +158,15 @@ void FrmMes::Mirror() {
   }
   if (frm_make_) {
     frm_make_->Mirror();
+  }
+}
+
+// Not while a command works with the document.
+void FrmMes::LookAtFile() {
+  if (closing_.IsRunning()) {
+    file_watch_.LookAgain();
+  } else if (NoticeOutsideChange(engine_.workspace) != OutsideChange::kNone) {
+    Mirror();
   }
 }
 

@@ -16,6 +16,7 @@
 #include "desktop/dialogs/qt_texts.h"
 #include "desktop/information/frm_info.h"
 #include "desktop/main_window/editor_panel.h"
+#include "desktop/main_window/file_watch.h"
 #include "desktop/main_window/main_menus.h"
 #include "desktop/postponed_close.h"
 
@@ -44,6 +45,8 @@ class FrmMes : public QMainWindow {
   void RunIn(QWidget& window, const std::function<void()>& command);
   /// Makes the windows show the state of the engine.
   void Mirror();
+  /// Another program may have changed the open file.
+  void LookAtFile();
 
   void Form_Activate();
   void ChooseLanguage(int index);
@@ -64,6 +67,7 @@ class FrmMes : public QMainWindow {
   QPointer<FrmInfo> frm_info_;
   QtTexts qt_texts_;
   PostponedClose closing_{*this};
+  FileWatch file_watch_;
   WindowTop window_top_;
   QTimer typing_pause_;
   int dialogs_seen_ = 0;

@@ -13,7 +13,7 @@
 namespace vendlingua::test {
 namespace {
 
-bool Click(QDialog& dialog, QMessageBox::StandardButton button) {
+bool ClickIn(QDialog& dialog, QMessageBox::StandardButton button) {
   auto* box = qobject_cast<QMessageBox*>(&dialog);
   if (box == nullptr || box->button(button) == nullptr) {
     return false;
@@ -42,6 +42,17 @@ DialogAnswerer::DialogAnswerer() {
   constexpr int kMilliseconds = 5;
   connect(&timer_, &QTimer::timeout, this, &DialogAnswerer::Poll);
   timer_.start(kMilliseconds);
+}
+
+void DialogAnswerer::Click(const QString& button) {
+  Expect([button](QDialog& dialog) {
+    auto* found = dialog.findChild<QAbstractButton*>(button);
+    if (found == nullptr) {
+      return false;
+    }
+    found->click();
+    return true;
+  });
 }
 
 void DialogAnswerer::Type(const QString& text) {
@@ -136,9 +147,9 @@ void DialogAnswerer::Note(QDialog& dialog) {
   }
 }
 
-bool DialogAnswerer::AnswerYes(QDialog& dialog) { return Click(dialog, QMessageBox::Yes); }
+bool DialogAnswerer::AnswerYes(QDialog& dialog) { return ClickIn(dialog, QMessageBox::Yes); }
 
-bool DialogAnswerer::AnswerNo(QDialog& dialog) { return Click(dialog, QMessageBox::No); }
+bool DialogAnswerer::AnswerNo(QDialog& dialog) { return ClickIn(dialog, QMessageBox::No); }
 
 bool DialogAnswerer::Reject(QDialog& dialog) {
   dialog.reject();

@@ -28,6 +28,8 @@ class DialogAnswerer : public QObject {
 
   void Yes() { Expect(&DialogAnswerer::AnswerYes); }
   void No() { Expect(&DialogAnswerer::AnswerNo); }
+  /// Clicks a button of a dialog by its name.
+  void Click(const QString& button);
   /// Types `text` into an input box and accepts it.
   void Type(const QString& text);
   /// Cancels an input box or a file dialog.
