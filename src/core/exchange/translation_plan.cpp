@@ -5,9 +5,10 @@
 #include <string>
 #include <utility>
 
-#include "core/exchange/cell_range.h"
-#include "core/exchange/text_layout.h"
 #include "core/formats/message_texts.h"
+#include "core/layout/cell_range.h"
+#include "core/layout/standing.h"
+#include "core/layout/text_layout.h"
 
 namespace vendlingua {
 namespace {
@@ -164,7 +165,7 @@ class Planner {
   // unless it is told otherwise.
   void Change(const Message& message, DisplayCodes cells) {
     for (const CellRange& range : message.board) {
-      for (std::size_t cell = range.first; cell < range.first + range.count; ++cell) {
+      for (std::size_t cell = range.first; cell < range.End(); ++cell) {
         if (set_.IsMes()) {
           cells[cell] = kPlaceholder;
         } else if (cells[cell] == kPlaceholder && message.present[cell] != kPlaceholder) {

@@ -7,8 +7,8 @@
 
 #include "core/document/alphabet.h"
 #include "core/document/message_set.h"
-#include "core/exchange/cell_range.h"
 #include "core/exchange/table_problem.h"
+#include "core/layout/cell_range.h"
 
 namespace vendlingua {
 

@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "core/transfer/layout.h"
+#include "core/layout/text_layout.h"
 #include "core/transfer/matching.h"
 #include "core/transfer/text_keys.h"
 #include "core/transfer/translation_memory.h"
@@ -71,7 +71,7 @@ class Carrier {
       }
     }
     if (const Translated* same = memory_.SameWords(reference)) {
-      const auto line = LayOut(same->translation.Cells(), reference.First(task_.width));
+      const auto line = LayOutLike(reference.First(task_.width), same->translation.Cells());
       if (const auto text = line ? InPlace(message, *line) : std::nullopt) {
         return {CarryResult::kAdapted, *text, same->message, {}, 0};
       }

@@ -4,7 +4,7 @@
 #include <string>
 #include <unordered_set>
 
-#include "core/transfer/layout.h"
+#include "core/layout/text_layout.h"
 #include "core/transfer/text_keys.h"
 
 namespace vendlingua {
@@ -42,7 +42,7 @@ std::vector<Suggestion> SuggestionsFor(const DisplayText& origin, std::size_t wi
     const Translated& translated = *similar.translated;
     if (known.insert(WithoutLayout(translated.translation.Cells())).second) {
       suggestions.push_back({memory, translated, similar.ratio,
-                             LayOut(translated.translation.Cells(), origin.First(width))});
+                             LayOutLike(origin.First(width), translated.translation.Cells())});
     }
   }
   return suggestions;

@@ -2,16 +2,9 @@
 
 #include <algorithm>
 
-#include "core/checks/standing.h"
+#include "core/layout/standing.h"
 
 namespace vendlingua {
-namespace {
-
-std::span<const DisplayCode> CellsOf(std::span<const DisplayCode> text, const WordField& field) {
-  return text.subspan(field.first, field.cells);
-}
-
-}  // namespace
 
 bool Alignment::IsBrokenBy(const CheckedMessage& message) const {
   const auto field = FieldOfWords(message.Origin());

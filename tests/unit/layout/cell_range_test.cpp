@@ -1,4 +1,4 @@
-#include "core/exchange/cell_range.h"
+#include "core/layout/cell_range.h"
 
 #include <gmock/gmock.h>
 
@@ -17,6 +17,15 @@ TEST(CellRange, PlaceholdersAreTakenTogetherWhereTheyAreNeighbours) {
               ElementsAre(CellRange{0, 1}, CellRange{2, 2}));
   EXPECT_THAT(PlaceholdersOf(Codes("abc")), IsEmpty());
   EXPECT_THAT(PlaceholdersOf({}), IsEmpty());
+}
+
+TEST(CellRange, FieldsAreWhatPlaceholdersLeave) {
+  const std::vector<CellRange> board = {{8, 1}, {10, 6}};
+  EXPECT_THAT(FieldsBetween(board, 20),
+              ElementsAre(CellRange{0, 8}, CellRange{9, 1}, CellRange{16, 4}));
+  EXPECT_THAT(FieldsBetween(board, 16),
+              ElementsAre(CellRange{0, 8}, CellRange{9, 1}, CellRange{16, 0}));
+  EXPECT_THAT(FieldsBetween({}, 16), ElementsAre(CellRange{0, 16}));
 }
 
 TEST(CellRange, IsSaidInWordsCountedFrom1) {

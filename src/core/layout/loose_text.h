@@ -1,13 +1,12 @@
-#ifndef VENDLINGUA_CORE_EXCHANGE_TEXT_LAYOUT_H_
-#define VENDLINGUA_CORE_EXCHANGE_TEXT_LAYOUT_H_
+#ifndef VENDLINGUA_CORE_LAYOUT_LOOSE_TEXT_H_
+#define VENDLINGUA_CORE_LAYOUT_LOOSE_TEXT_H_
 
 #include <cstddef>
-#include <optional>
 #include <span>
 #include <vector>
 
 #include "core/document/display_code.h"
-#include "core/exchange/cell_range.h"
+#include "core/layout/cell_range.h"
 
 namespace vendlingua {
 
@@ -42,29 +41,6 @@ class LooseText {
   std::vector<std::size_t> placeholders_;  // cells
 };
 
-/// A part of a text that has no room where it belongs.
-struct Overflow {
-  DisplayCodes part;
-  CellRange room;
-};
-
-/// A text in the cells of its message, or why it has no place there.
-struct Layout {
-  DisplayCodes cells;
-  std::optional<Overflow> overflow;
-};
-
-/// Lays a text out that matches `board`: its placeholders are in the cells that the board fills,
-/// and what stands before one is padded with blanks to its column. A message has `width` cells.
-Layout LayOut(const LooseText& text, std::span<const CellRange> board, std::size_t width);
-
-/// Whether a message stands in the middle of its cells: blanks before it, and as many, or one more
-/// or less, behind it.
-bool StandsCentred(std::span<const DisplayCode> cells);
-
-/// A text, without the blanks around it, in the middle of `width` cells; half a blank to the left.
-Layout Centred(std::span<const DisplayCode> text, std::size_t width);
-
 }  // namespace vendlingua
 
-#endif  // VENDLINGUA_CORE_EXCHANGE_TEXT_LAYOUT_H_
+#endif  // VENDLINGUA_CORE_LAYOUT_LOOSE_TEXT_H_

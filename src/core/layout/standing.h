@@ -1,13 +1,18 @@
-#ifndef VENDLINGUA_CORE_CHECKS_STANDING_H_
-#define VENDLINGUA_CORE_CHECKS_STANDING_H_
+#ifndef VENDLINGUA_CORE_LAYOUT_STANDING_H_
+#define VENDLINGUA_CORE_LAYOUT_STANDING_H_
 
 #include <cstddef>
 #include <optional>
 #include <span>
 
 #include "core/document/display_code.h"
+#include "core/layout/cell_range.h"
 
 namespace vendlingua {
+
+/// Blanks before the first word of a field, none where it has no word, and behind the last one.
+std::size_t BlanksBefore(std::span<const DisplayCode> field);
+std::size_t BlanksBehind(std::span<const DisplayCode> field);
 
 /// The ways in which words can stand in their field; none for words with an indent of their own,
 /// several for words that leave little room.
@@ -28,18 +33,13 @@ Standing StandingOf(std::span<const DisplayCode> field);
 /// The words of the field moved to stand in one of the ways, centred if that is one of them.
 DisplayCodes LaidOut(std::span<const DisplayCode> field, const Standing& standing);
 
-/// The cells from `first` on between two placeholders, or a placeholder and an end of the text.
-struct WordField {
-  std::size_t first;
-  std::size_t cells;
-
-  bool operator==(const WordField&) const = default;
-};
+/// Whether the words stand in the middle and not, too, at the start for want of room.
+bool StandsCentred(std::span<const DisplayCode> field);
 
 /// The field that holds the words of a text; nothing when it has none, or words in several fields
 /// ("Tube þþ Pod"), where each has its own place.
-std::optional<WordField> FieldOfWords(std::span<const DisplayCode> text);
+std::optional<CellRange> FieldOfWords(std::span<const DisplayCode> text);
 
 }  // namespace vendlingua
 
-#endif  // VENDLINGUA_CORE_CHECKS_STANDING_H_
+#endif  // VENDLINGUA_CORE_LAYOUT_STANDING_H_

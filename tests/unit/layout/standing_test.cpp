@@ -1,4 +1,4 @@
-#include "core/checks/standing.h"
+#include "core/layout/standing.h"
 
 #include <gmock/gmock.h>
 
@@ -41,11 +41,23 @@ TEST(StandingTest, LaysWordsOut) {
   EXPECT_EQ(laid_out("ab    ", {.centred = true, .left = true}), "  ab  ");
 }
 
+TEST(StandsCentred, AsksForBlanksOnBothSidesThatDifferByOneAtMost) {
+  EXPECT_TRUE(StandsCentred(Codes("  ab  ")));
+  EXPECT_TRUE(StandsCentred(Codes(" ab  ")));
+  EXPECT_TRUE(StandsCentred(Codes("  ab ")));
+  EXPECT_TRUE(StandsCentred(Codes(" ab")));
+  EXPECT_FALSE(StandsCentred(Codes("ab ")));
+  EXPECT_FALSE(StandsCentred(Codes("abcd")));
+  EXPECT_FALSE(StandsCentred(Codes("   ab ")));
+  EXPECT_FALSE(StandsCentred(Codes(" ab   ")));
+  EXPECT_FALSE(StandsCentred(Codes("    ")));
+}
+
 TEST(FieldOfWordsTest, IsWhatPlaceholdersLeave) {
-  EXPECT_EQ(FieldOfWords(Codes("ab  \xFE\xFE")), (WordField{0, 4}));
-  EXPECT_EQ(FieldOfWords(Codes("\xFE\xFE\xFE ab")), (WordField{3, 3}));
-  EXPECT_EQ(FieldOfWords(Codes("\xFE ab \xFE  ")), (WordField{1, 4}));
-  EXPECT_EQ(FieldOfWords(Codes("ab cd")), (WordField{0, 5}));
+  EXPECT_EQ(FieldOfWords(Codes("ab  \xFE\xFE")), (CellRange{0, 4}));
+  EXPECT_EQ(FieldOfWords(Codes("\xFE\xFE\xFE ab")), (CellRange{3, 3}));
+  EXPECT_EQ(FieldOfWords(Codes("\xFE ab \xFE  ")), (CellRange{1, 4}));
+  EXPECT_EQ(FieldOfWords(Codes("ab cd")), (CellRange{0, 5}));
 }
 
 TEST(FieldOfWordsTest, IsNoneWithoutWordsOrWithSeveral) {

@@ -1,4 +1,4 @@
-#include "core/exchange/text_layout.h"
+#include "core/layout/text_layout.h"
 
 #include <gmock/gmock.h>
 
@@ -9,7 +9,6 @@ namespace {
 
 using test::Codes;
 using test::Text;
-using ::testing::ElementsAre;
 
 constexpr std::size_t kWidth = 16;
 
@@ -17,49 +16,6 @@ constexpr std::size_t kWidth = 16;
 const std::vector<CellRange> kBoard = {{8, 1}, {10, 6}};
 
 LooseText Loose(std::string_view text) { return LooseText(Codes(text)); }
-
-TEST(LooseText, IsDividedAtItsPlaceholders) {
-  EXPECT_THAT(Loose("a \xFE"
-                    "b\xFE\xFE")
-                  .parts(),
-              ElementsAre(Codes("a "), Codes("b"), Codes("")));
-  EXPECT_THAT(Loose("").parts(), ElementsAre(Codes("")));
-}
-
-TEST(LooseText, MatchesABoardWithPlaceholdersOfTheSameNumberAndSize) {
-  EXPECT_TRUE(Loose("Kredit \xFE \xFE\xFE\xFE\xFE\xFE\xFE").Matches(kBoard));
-  EXPECT_TRUE(Loose("Kredit").Matches({}));
-  EXPECT_FALSE(Loose("Kredit \xFE \xFE\xFE\xFE\xFE\xFE").Matches(kBoard));
-  EXPECT_FALSE(Loose("Kredit \xFE").Matches(kBoard));
-  EXPECT_FALSE(Loose("Kredit").Matches(kBoard));
-  EXPECT_FALSE(Loose("Kredit \xFE").Matches({}));
-}
-
-TEST(LooseText, KeepsPlaceholdersApartBetweenWhichNothingStands) {
-  LooseText text = Loose("Kredit");
-  text.AppendPlaceholder(1);
-  text.AppendPlaceholder(6);
-  EXPECT_TRUE(text.Matches(kBoard));
-}
-
-TEST(LooseText, TakesTheSizeOfAPlaceholderFromTheBoardWhereItIsNotKnown) {
-  LooseText text = Loose("Kredit");
-  text.AppendPlaceholder(0);
-  text.AppendPlaceholder(6);
-  EXPECT_TRUE(text.Matches(kBoard));
-}
-
-TEST(LooseText, StandsCellByCell) {
-  EXPECT_EQ(Text(Loose(" a \xFE"
-                       "b\xFE\xFE  ")
-                     .AsItStands()),
-            " a \xFE"
-            "b\xFE\xFE");
-  EXPECT_EQ(Text(Loose(" a \xFE"
-                       "b\xFE\xFE")
-                     .WithoutPlaceholders()),
-            " a b");
-}
 
 TEST(LayOut, PadsWhatStandsBeforeAPlaceholderToItsColumn) {
   const Layout layout = LayOut(Loose("Kredit \xFE \xFE\xFE\xFE\xFE\xFE\xFE"), kBoard, kWidth);
@@ -103,18 +59,6 @@ TEST(LayOut, RefusesWhatHasNoRoomBehindTheLastPlaceholder) {
                                std::vector<CellRange>{{1, 1}}, 4);
   ASSERT_TRUE(layout.overflow);
   EXPECT_EQ(layout.overflow->room, (CellRange{2, 2}));
-}
-
-TEST(StandsCentred, AsksForBlanksOnBothSidesThatDifferByOneAtMost) {
-  EXPECT_TRUE(StandsCentred(Codes("  ab  ")));
-  EXPECT_TRUE(StandsCentred(Codes(" ab  ")));
-  EXPECT_TRUE(StandsCentred(Codes("  ab ")));
-  EXPECT_TRUE(StandsCentred(Codes(" ab")));
-  EXPECT_FALSE(StandsCentred(Codes("ab ")));
-  EXPECT_FALSE(StandsCentred(Codes("abcd")));
-  EXPECT_FALSE(StandsCentred(Codes("   ab ")));
-  EXPECT_FALSE(StandsCentred(Codes(" ab   ")));
-  EXPECT_FALSE(StandsCentred(Codes("    ")));
 }
 
 TEST(Centred, PutsATextInTheMiddleAndHalfABlankToTheLeft) {

@@ -1,19 +1,20 @@
-#include "core/checks/standing.h"
+#include "core/layout/standing.h"
 
 #include <algorithm>
 
 namespace vendlingua {
-namespace {
 
 std::size_t BlanksBefore(std::span<const DisplayCode> field) {
   return TrimRight(field).size() - Trim(field).size();
 }
 
-}  // namespace
+std::size_t BlanksBehind(std::span<const DisplayCode> field) {
+  return field.size() - TrimRight(field).size();
+}
 
 Standing StandingOf(std::span<const DisplayCode> field) {
   const std::size_t before = BlanksBefore(field);
-  const std::size_t behind = field.size() - TrimRight(field).size();
+  const std::size_t behind = BlanksBehind(field);
   const std::size_t difference = std::max(before, behind) - std::min(before, behind);
   return {.centred = difference <= 1, .left = before == 0, .right = behind == 0};
 }
@@ -31,18 +32,21 @@ DisplayCodes LaidOut(std::span<const DisplayCode> field, const Standing& standin
   return laid_out;
 }
 
-std::optional<WordField> FieldOfWords(std::span<const DisplayCode> text) {
-  std::optional<WordField> found;
-  for (auto begin = text.begin(); begin != text.end();) {
-    const auto end = std::find(begin, text.end(), kPlaceholder);
-    if (!Trim({begin, end}).empty()) {
-      if (found) {
-        return std::nullopt;
-      }
-      found = {static_cast<std::size_t>(begin - text.begin()),
-               static_cast<std::size_t>(end - begin)};
+bool StandsCentred(std::span<const DisplayCode> field) {
+  const Standing standing = StandingOf(field);
+  return standing.centred && !standing.left;
+}
+
+std::optional<CellRange> FieldOfWords(std::span<const DisplayCode> text) {
+  std::optional<CellRange> found;
+  for (const CellRange& field : FieldsBetween(PlaceholdersOf(text), text.size())) {
+    if (Trim(CellsOf(text, field)).empty()) {
+      continue;
     }
-    begin = std::find_if(end, text.end(), [](DisplayCode code) { return code != kPlaceholder; });
+    if (found) {
+      return std::nullopt;
+    }
+    found = field;
   }
   return found;
 }

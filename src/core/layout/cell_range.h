@@ -1,5 +1,5 @@
-#ifndef VENDLINGUA_CORE_EXCHANGE_CELL_RANGE_H_
-#define VENDLINGUA_CORE_EXCHANGE_CELL_RANGE_H_
+#ifndef VENDLINGUA_CORE_LAYOUT_CELL_RANGE_H_
+#define VENDLINGUA_CORE_LAYOUT_CELL_RANGE_H_
 
 #include <cstddef>
 #include <span>
@@ -15,6 +15,7 @@ struct CellRange {
   std::size_t first = 0;
   std::size_t count = 0;
 
+  std::size_t End() const { return first + count; }
   bool operator==(const CellRange&) const = default;
 };
 
@@ -41,10 +42,20 @@ inline std::vector<CellRange> PlaceholdersOf(std::span<const DisplayCode> cells)
   return CellsWhere(cells.size(), [&](std::size_t cell) { return cells[cell] == kPlaceholder; });
 }
 
+/// What `placeholders` leave of `width` cells: the fields before, between and behind them, one more
+/// than there are placeholders. A field may be empty.
+std::vector<CellRange> FieldsBetween(std::span<const CellRange> placeholders, std::size_t width);
+
+/// The cells of a field.
+inline std::span<const DisplayCode> CellsOf(std::span<const DisplayCode> text,
+                                            const CellRange& field) {
+  return text.subspan(field.first, field.count);
+}
+
 /// The cells in English words, counted from 1: "cell 9", "cells 9 and 11 to 16". There is at least
 /// one.
 std::string InWords(std::span<const CellRange> cells);
 
 }  // namespace vendlingua
 
-#endif  // VENDLINGUA_CORE_EXCHANGE_CELL_RANGE_H_
+#endif  // VENDLINGUA_CORE_LAYOUT_CELL_RANGE_H_
