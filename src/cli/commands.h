@@ -12,7 +12,7 @@ class App;
 
 namespace vendlingua::cli {
 
-/// Shows dimensions and languages of a message file.
+/// Shows what a message file or a flash file holds.
 void AddInfo(CLI::App& app, Session& session);
 
 /// Shows all messages of one language.

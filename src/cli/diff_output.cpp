@@ -2,6 +2,8 @@
 
 #include <fmt/format.h>
 
+#include "cli/address_text.h"
+
 namespace vendlingua::cli {
 namespace {
 
@@ -67,8 +69,7 @@ std::string LanguageLines(const MessageFileComparison& comparison) {
 }
 
 std::string RangeLine(const ByteDifference& bytes) {
-  std::string line =
-      fmt::format("0x{:X} to 0x{:X}", bytes.address, bytes.address + bytes.length - 1);
+  std::string line = RangeText({bytes.address, bytes.length});
   if (bytes.place.slot) {
     line += fmt::format(", slot {}", *bytes.place.slot);
   }
@@ -137,8 +138,8 @@ std::string DifferencesAsText(const MessageFileComparison& comparison, const Dif
                               const MessageSet& a) {
   std::string text;
   for (const FieldDifference& field : comparison.header) {
-    text += fmt::format("{}: {} is {}\n", field.field, ValueOf(field.a).dump(),
-                        ValueOf(field.b).dump());
+    text += fmt::format("{}: {} is {}\n", field.field, FieldText(field.field, ValueOf(field.a)),
+                        FieldText(field.field, ValueOf(field.b)));
   }
   text += LanguageLines(comparison);
   int language = -1;

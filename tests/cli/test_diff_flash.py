@@ -7,7 +7,7 @@ import random
 import unittest
 
 from diff_case import DIFFERENT, SAME, TROUBLE, DiffCase
-from support import SAMPLES, MesFile, s_records
+from support import SAMPLES, MesFile, msx_file, s_records
 
 
 class FlashFilesTest(DiffCase):
@@ -35,7 +35,8 @@ class FlashFilesTest(DiffCase):
     def test_bytes_are_told_by_their_addresses(self) -> None:
         self.write_other({1: b"xyz", 17: b"xy"})
         self.assertEqual(
-            self.different("A.hex", "B.hex").out, "0x6001 to 0x6003\n0x6011 to 0x6012\n"
+            self.different("A.hex", "B.hex").out,
+            "0x6001 (24577) to 0x6003 (24579)\n0x6011 (24593) to 0x6012 (24594)\n",
         )
         self.assertEqual(
             self.different("A.hex", "B.hex", "--json").json,
@@ -63,17 +64,17 @@ class FlashFilesTest(DiffCase):
         )
         self.assertEqual(
             self.different("A.hex", "B.hex", *options).out,
-            "0x6003 to 0x6003, slot 0, message 0\n-    0 |0000|\n+    0 |000x|\n"
-            "0x6004 to 0x6004, slot 0, message 1\n-    1 |0001|\n+    1 |x001|\n"
-            "0x6018 to 0x601B, slot 1, message 2\n-    2 |1002|\n+    2 |Wait|\n"
-            "0x601D to 0x601D, slot 1\n",
+            "0x6003 (24579), slot 0, message 0\n-    0 |0000|\n+    0 |000x|\n"
+            "0x6004 (24580), slot 0, message 1\n-    1 |0001|\n+    1 |x001|\n"
+            "0x6018 (24600) to 0x601B (24603), slot 1, message 2\n-    2 |1002|\n+    2 |Wait|\n"
+            "0x601D (24605), slot 1\n",
         )
 
     def test_a_message_with_two_changes_is_shown_once(self) -> None:
         self.write_other({0: b"x", 2: b"x"})
         self.assertEqual(
             self.different("A.hex", "B.hex", "--dimensions=A.MES").out,
-            "0x6000 to 0x6000, slot 0, message 0\n0x6002 to 0x6002, slot 0, message 0\n"
+            "0x6000 (24576), slot 0, message 0\n0x6002 (24578), slot 0, message 0\n"
             "-    0 |0000|\n+    0 |x0x0|\n",
         )
 
@@ -148,6 +149,15 @@ class FlashFilesTest(DiffCase):
         self.assertIn("A.MES", self.trouble("A.MES", "A.hex"))
         self.assertIn("A.MES", self.trouble("A.hex", "A.MES"))
         self.assertIn("A.MES", self.trouble("A.MES", "A.MES", "--dimensions=A.MES"))
+
+    def test_a_display_says_nothing_without_dimensions(self) -> None:
+        self.assertIn("--dimensions", self.trouble("A.hex", "A.hex", "--display=cyrillic"))
+
+    def test_what_a_short_message_file_is_compiled_to_is_compared(self) -> None:
+        self.write("A.MSX", msx_file(1))
+        self.done_with_message("compile", "A.MSX", "--output=C.MHX")
+        self.assertTrue(self.read("C.MHX").endswith(3640 * b"\r\n"))  # 4095 - 455
+        self.same("A.MSX", "C.MHX")
 
     def test_dimensions_come_from_a_message_file(self) -> None:
         self.trouble("A.hex", "A.hex", "--dimensions=missing.MES")

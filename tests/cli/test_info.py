@@ -58,7 +58,7 @@ class InfoOfMesFileTest(CliTest):
             "displayType: 0\n"
             "headerCount: 1\n"
             "lastMsg: 2\n"
-            "memStart: 24576\n"
+            "memStart: 0x6000 (24576)\n"
             "memLength: 24\n"
             "langStride: 3\n"
             "blockLength: 36\n"

@@ -4,6 +4,7 @@
 #include "cli/commands.h"
 #include "cli/diff_output.h"
 #include "cli/options.h"
+#include "core/formats/flash_file.h"
 #include "core/formats/message_file.h"
 #include "core/platform/errors.h"
 
@@ -31,13 +32,15 @@ FlashMemory ReadFlash(const std::string& file) {
                         ": is no flash file; compile it, or compare two message files without "
                         "--dimensions");
   }
-  return ReadFlashMemory(file);
+  return ReadFlashFile(file).memory;
 }
 
 void DiffFlashFiles(Session& session, const DiffOptions& options) {
   std::optional<MessageSet> dimensions;
   if (!options.dimensions.empty()) {
     dimensions = ReadMessageFile(options.dimensions);
+  } else if (session.display) {
+    throw WrongUsage("--display goes with --dimensions; without, no text of flash files is shown");
   }
   const FlashMemory a = ReadFlash(options.a);
   const FlashMemory b = ReadFlash(options.b);

@@ -1,16 +1,26 @@
 #include <memory>
+#include <optional>
 #include <sstream>
 #include <string>
 
+#include "cli/address_text.h"
 #include "cli/commands.h"
+#include "cli/flash_info.h"
 #include "cli/options.h"
-#include "core/platform/errors.h"
+#include "core/flash/flash_contents.h"
+#include "core/formats/copy_header.h"
+#include "core/formats/flash_file.h"
+#include "core/formats/message_file.h"
+#include "core/formats/msx_file.h"
+#include "core/formats/text_lines.h"
+#include "core/platform/files.h"
 
 namespace vendlingua::cli {
 namespace {
 
 struct InfoOptions {
   std::string file;
+  std::string dimensions;  ///< message file of the board of a flash file
 };
 
 Json LanguagesAsJson(const MessageSet& set) {
@@ -30,13 +40,20 @@ std::string AsText(const Json& info) {
              << '\n';
       }
     } else {
-      text << key << ": " << (value.is_string() ? value.get<std::string>() : value.dump()) << '\n';
+      text << key << ": " << (value.is_string() ? value.get<std::string>() : FieldText(key, value))
+           << '\n';
     }
   }
   return text.str();
 }
 
-void RunInfo(Session& session, const InfoOptions& options) {
+void PrintMessageFile(Session& session, const InfoOptions& options) {
+  if (!options.dimensions.empty()) {
+    throw WrongUsage("--dimensions is for flash files; a message file has its own");
+  }
+  if (session.display) {
+    throw WrongUsage("--display is for flash files; of a message file no text is shown");
+  }
   session.Open(options.file);
   const MessageSet& set = session.set();
   const Json info = {{"file", options.file},
@@ -56,14 +73,61 @@ void RunInfo(Session& session, const InfoOptions& options) {
   session.Print(info, AsText(info));
 }
 
+void PrintFlashFile(Session& session, const InfoOptions& options) {
+  const FlashFile file = ReadFlashFile(options.file);
+  const std::optional<MessageSet> dimensions =
+      options.dimensions.empty() ? KnownDimensions(file)
+                                 : std::optional(ReadMessageFile(options.dimensions));
+  if (session.display && !dimensions) {
+    throw WrongUsage("--display goes with --dimensions; the board of " + options.file +
+                     " is not known");
+  }
+  PrintFlashInfo(session, options.file, file, dimensions);
+}
+
+// The identified copy of a firmware whose .MSX files are no message files.
+bool IsForeignCopy(const std::string& path) {
+  const std::string content = ReadFile(path);
+  const auto first_line = TextLines(content).Next();
+  return first_line && IsCopyHeader(first_line->text) && !IsMsxHeader(first_line->text);
+}
+
+bool IsFlashFile(const InfoOptions& options) {
+  const std::string type = MessageFileType(options.file);
+  if (type == kMesType) {
+    return false;
+  }
+  if (type == kMsxType) {
+    return !options.dimensions.empty() || IsForeignCopy(options.file);
+  }
+  if (!BeginsWithRecord(options.file)) {
+    throw CommandFailed(options.file + ": is no message file and no file of S-records");
+  }
+  return true;
+}
+
+void RunInfo(Session& session, const InfoOptions& options) {
+  if (IsFlashFile(options)) {
+    PrintFlashFile(session, options);
+  } else {
+    PrintMessageFile(session, options);
+  }
+}
+
 }  // namespace
 
 void AddInfo(CLI::App& app, Session& session) {
   const auto options = std::make_shared<InfoOptions>();
-  CLI::App* command =
-      app.add_subcommand("info", "Show dimensions and languages of a message file.");
-  command->footer("Example: vendlingua-cli info FW0417AB.MES --json");
-  AddFile(*command, options->file);
+  CLI::App* command = app.add_subcommand("info", "Show what a message file or a flash file holds.");
+  command->footer(
+      "A .MSX file is a flash file where --dimensions is given, or where it is the identified copy "
+      "of\n"
+      "a firmware that has no .MSX message files.\n"
+      "Example: vendlingua-cli info FW0417AB.MES --json");
+  command->add_option("FILE", options->file, "message file or flash file")->required();
+  command->add_option("--dimensions", options->dimensions,
+                      "message file of the board, to tell slots and languages of a flash file");
+  AddDisplay(*command, session);
   command->callback([&session, options] { RunInfo(session, *options); });
 }
 

@@ -3,27 +3,13 @@
 
 #include <cstddef>
 #include <cstdint>
-#include <optional>
 #include <vector>
 
 #include "core/document/message_set.h"
+#include "core/formats/board_place.h"
 #include "core/formats/flash_memory.h"
 
 namespace vendlingua {
-
-/// Where an address lies in the message memory of a board.
-struct BoardPlace {
-  std::optional<std::size_t> slot;     ///< of a language, from 0; nothing outside the memory
-  std::optional<std::size_t> message;  ///< nothing behind the last message of a slot
-
-  bool operator==(const BoardPlace&) const = default;
-};
-
-/// The place of `address` on the board whose message file has the dimensions of `set`.
-BoardPlace PlaceOf(const MessageSet& set, std::uint32_t address);
-
-/// The address of the first cell of a message.
-std::uint32_t AddressOf(const MessageSet& set, std::size_t slot, std::size_t message);
 
 /// A run of bytes that differ, or that one of the files lacks.
 struct ByteDifference {

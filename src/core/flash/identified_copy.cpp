@@ -58,14 +58,17 @@ void StepVersionBack(DisplayCodes& identification) {
 
 }  // namespace
 
-std::string HeaderFromFirstRecord(std::string_view first_record) {
-  std::string_view identification;
+std::string_view IdentificationDigits(std::string_view first_record) {
   for (std::size_t i = 0; i < first_record.size(); i += 2) {
     if (first_record.substr(i, 2) == "50") {
-      identification = Columns(first_record, i + 3, kIdentificationDigits);
-      break;
+      return Columns(first_record, i + 3, kIdentificationDigits);
     }
   }
+  return {};
+}
+
+std::string HeaderFromFirstRecord(std::string_view first_record) {
+  const std::string_view identification = IdentificationDigits(first_record);
   return CopyHeader(identification, Hex(CopyHeaderChecksum(identification)));
 }
 

@@ -8,9 +8,13 @@
 
 namespace vendlingua {
 
-/// The header record of a nine-language copy: the identification characters are those behind the
-/// first byte 0x50 ("P") that stands on a pair boundary of the first record line; there may be
-/// none. The checksum is not padded to two digits.
+/// The hexadecimal digits of the identification characters of a nine-language copy, made of the
+/// first record line of its flash file: what follows the first byte 0x50 ("P") on a pair boundary.
+/// There may be fewer than six characters, or none.
+std::string_view IdentificationDigits(std::string_view first_record);
+
+/// The header record of a nine-language copy, with these identification characters. The checksum is
+/// not padded to two digits.
 std::string HeaderFromFirstRecord(std::string_view first_record);
 
 /// The header record of any other copy: the identification characters come from the name of the

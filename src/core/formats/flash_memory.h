@@ -5,13 +5,21 @@
 #include <bitset>
 #include <cstddef>
 #include <cstdint>
-#include <filesystem>
 #include <map>
 #include <optional>
 #include <span>
-#include <string_view>
+#include <vector>
 
 namespace vendlingua {
+
+/// Addresses that follow each other.
+struct AddressRange {
+  std::uint32_t first;
+  std::uint32_t length;  ///< bytes, at least one
+
+  std::uint32_t End() const { return first + length; }
+  bool operator==(const AddressRange&) const = default;
+};
 
 /// The bytes that a flash file puts into the memory of a board, by their addresses.
 class FlashMemory {
@@ -31,20 +39,15 @@ class FlashMemory {
   /// Nothing where the file holds none.
   std::optional<std::uint8_t> At(std::uint32_t address) const;
 
+  /// What the file holds, by address; between two ranges lies a gap.
+  std::vector<AddressRange> Ranges() const;
+
   /// By address / `kPageBytes`; only those with bytes are there.
   const std::map<std::uint32_t, Page>& pages() const { return pages_; }
 
  private:
   std::map<std::uint32_t, Page> pages_;
 };
-
-/// Decodes the data records of a file of S-records; those of other types are passed over, and so
-/// are the header of an identified copy and the line that ends one of nine languages. Throws Error,
-/// which names the line, when a line is no sound record or its address is beyond the board's.
-FlashMemory ParseFlashMemory(std::string_view content);
-
-/// The same of a file. Throws FileError when it cannot be read, too.
-FlashMemory ReadFlashMemory(const std::filesystem::path& path);
 
 }  // namespace vendlingua
 

@@ -61,6 +61,8 @@ std::string Hex(std::uint64_t value, std::size_t least_digits) {
   return fmt::format("{:0{}X}", value, least_digits);
 }
 
+std::string AddressText(std::uint64_t address) { return fmt::format("0x{0:X} ({0})", address); }
+
 char* PutHex(char* at, std::uint64_t value, std::size_t least_digits) {
   constexpr std::size_t kBitsPerDigit = 4;
   const auto bits = static_cast<std::size_t>(std::bit_width(value));

@@ -24,6 +24,9 @@ std::string HexField(std::uint64_t value, std::size_t width);
 /// Upper-case digits, as many as the value has but at least `least_digits`.
 std::string Hex(std::uint64_t value, std::size_t least_digits = 1);
 
+/// An address as people read it, both ways: "0x6000 (24576)".
+std::string AddressText(std::uint64_t address);
+
 /// Puts the digits of Hex() at `at`, where there is room for 16 or `least_digits`, and returns
 /// their end.
 char* PutHex(char* at, std::uint64_t value, std::size_t least_digits);

@@ -35,10 +35,7 @@ std::vector<std::string> TakeMes(MessageSet& set, const std::string& content) {
 
 // Nothing for a firmware that is not managed.
 std::optional<std::vector<std::string>> TakeMsx(MessageSet& set, const std::string& content) {
-  const MesHeader configuration = ParseMesHeader(kMsxConfiguration);
-  ApplyDimensions(configuration, set);
-  set.LangStride = MsxLangStride(set.MemLength);
-  set.LoadDisplayType(configuration.DisplayType());
+  TakeMsxDimensions(set);
   auto names = ReadMsxNames(set, content);
   if (names) {
     names->insert(names->begin(), std::string(kBuiltInLanguage));
@@ -58,6 +55,14 @@ bool IsMessageFileType(const std::string& type) { return type == kMesType || typ
 
 bool IsAssemblerSource(const std::filesystem::path& path) {
   return BeginsLikeASource(path, ReadFile(path));
+}
+
+void TakeMsxDimensions(MessageSet& set) {
+  const MesHeader configuration = ParseMesHeader(kMsxConfiguration);
+  ApplyDimensions(configuration, set);
+  set.CurrentFileType = kMsxType;
+  set.LangStride = MsxLangStride(set.MemLength);
+  set.LoadDisplayType(configuration.DisplayType());
 }
 
 bool TakeMessageFile(MessageSet& set, std::string content) {

@@ -20,6 +20,9 @@ bool IsMessageFileType(const std::string& type);
 /// is empty.
 bool IsAssemblerSource(const std::filesystem::path& path);
 
+/// Gives a set the dimensions of every ".MSX" file.
+void TakeMsxDimensions(MessageSet& set);
+
 /// Takes dimensions, display type and language names from the content of a file of the set's
 /// `CurrentFileType`, and keeps the content. False when it is a ".MSX" file of a firmware that is
 /// not managed: its names are not known. Throws Error when the file cannot be taken; the set is

@@ -17,8 +17,7 @@ bool IsHeaderRecord(std::string_view line) { return line.starts_with("S0"); }
 
 bool NamesManagedFirmware(std::string_view header_record) {
   const std::string_view digits = Columns(header_record, kIdentificationColumn, kModelHexDigits);
-  const std::string model = BytesFromCodes(DecodeHexPairs(digits).bytes);
-  return model == "0417" || model == "0405";
+  return IsManagedModel(BytesFromCodes(DecodeHexPairs(digits).bytes));
 }
 
 // The 16 data bytes of a message line; the checksum behind them is not part of the text.
@@ -45,6 +44,8 @@ void RequireNoLoneLf(const MessageSet& set, std::string_view content) {
 }
 
 }  // namespace
+
+bool IsManagedModel(std::string_view model) { return model == "0417" || model == "0405"; }
 
 bool IsMsxHeader(std::string_view first_line) {
   return IsHeaderRecord(first_line) && NamesManagedFirmware(first_line);

@@ -20,8 +20,11 @@ inline constexpr std::string_view kMsxConfiguration =
     " \x0F"
     "0300AB01C600FF0000FFF0";
 
-/// Whether the first line of a file is an S0 record that names a managed firmware model: "0417" or
+/// Whether a firmware model, four characters, has ".MSX" files that can be edited: "0417" or
 /// "0405".
+bool IsManagedModel(std::string_view model);
+
+/// Whether the first line of a file is an S0 record that names a managed firmware model.
 bool IsMsxHeader(std::string_view first_line);
 
 /// The names of languages 1, 2, ... as captions; nothing when the file does not begin with an S0

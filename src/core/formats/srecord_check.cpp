@@ -9,6 +9,7 @@
 #include <functional>
 
 #include "core/formats/copy_header.h"
+#include "core/formats/hex.h"
 #include "core/formats/msx_file.h"
 #include "core/formats/srecord.h"
 #include "core/formats/text_lines.h"
@@ -20,8 +21,8 @@ namespace {
 // A file of which so much is wrong is no file of S-records.
 constexpr std::size_t kMostFindings = 10000;
 
-using AddressRange = boost::icl::right_open_interval<std::uint64_t>;
-using AddressRanges = boost::icl::interval_set<std::uint64_t, std::less, AddressRange>;
+using CoveredRange = boost::icl::right_open_interval<std::uint64_t>;
+using CoveredRanges = boost::icl::interval_set<std::uint64_t, std::less, CoveredRange>;
 
 std::string WrongChecksum(const SRecord& record) {
   return fmt::format("the checksum is {:02X} instead of {:02X}", record.checksum,
@@ -90,14 +91,17 @@ class SRecordChecker {
   }
 
   void CheckAddress() {
-    const AddressRange range(record_.address, std::uint64_t{record_.address} + record_.size);
+    const CoveredRange range(record_.address, std::uint64_t{record_.address} + record_.size);
     if (has_data_ && range.lower() > next_address_) {
-      Report(fmt::format("gap: address {:X} follows {:X}", range.lower(), next_address_ - 1));
+      Report(fmt::format("gap: address {} follows {}", AddressText(range.lower()),
+                         AddressText(next_address_ - 1)));
     } else if (has_data_ && range.lower() < next_address_) {
-      Report(fmt::format("address {:X} goes back behind {:X}", range.lower(), next_address_ - 1));
+      Report(fmt::format("address {} goes back behind {}", AddressText(range.lower()),
+                         AddressText(next_address_ - 1)));
     }
     if (boost::icl::intersects(covered_, range)) {
-      Report(fmt::format("overlap: bytes from address {:X} on were given before", range.lower()));
+      Report(fmt::format("overlap: bytes from address {} on were given before",
+                         AddressText(range.lower())));
     }
     covered_ += range;
     has_data_ = true;
@@ -106,7 +110,7 @@ class SRecordChecker {
 
   Findings findings_;
   SRecord record_;
-  AddressRanges covered_;
+  CoveredRanges covered_;
   std::size_t line_number_ = 0;
   std::uint64_t next_address_ = 0;
   bool has_data_ = false;

@@ -91,33 +91,5 @@ TEST(CompareFlash, CountsWhatItDoesNotList) {
   EXPECT_EQ(comparison.unlisted, 3U);
 }
 
-TEST(PlaceOf, TellsSlotAndMessage) {
-  EXPECT_EQ(PlaceOf(SmallBoard(), 0x1000), (BoardPlace{0, 0}));
-  EXPECT_EQ(PlaceOf(SmallBoard(), 0x1007), (BoardPlace{0, 1}));
-  EXPECT_EQ(PlaceOf(SmallBoard(), 0x1008), (BoardPlace{0, std::nullopt}));
-  EXPECT_EQ(PlaceOf(SmallBoard(), 0x100C), (BoardPlace{1, 0}));
-}
-
-TEST(PlaceOf, IsNowhereOutsideTheMemory) {
-  EXPECT_EQ(PlaceOf(SmallBoard(), 0x0FFF), BoardPlace());
-  EXPECT_EQ(PlaceOf(SmallBoard(), 0x1018), BoardPlace());
-  MessageSet board = SmallBoard();
-  board.MemLength = 0;
-  EXPECT_EQ(PlaceOf(board, 0x1000), BoardPlace());
-}
-
-TEST(PlaceOf, KnowsTheNineSlotsOfAnMsxFile) {
-  MessageSet board = SmallBoard();
-  board.CurrentFileType = kMsxType;
-  board.LangCount = 0;
-  board.MemLength = 9 * 8;
-  EXPECT_EQ(PlaceOf(board, 0x1000 + 8 * 8 + 4), (BoardPlace{8, 1}));
-}
-
-TEST(AddressOf, IsTheFirstCellOfAMessage) {
-  EXPECT_EQ(AddressOf(SmallBoard(), 0, 0), 0x1000U);
-  EXPECT_EQ(AddressOf(SmallBoard(), 1, 1), 0x1010U);
-}
-
 }  // namespace
 }  // namespace vendlingua

@@ -124,5 +124,10 @@ TEST(Columns, EndWithTheText) {
   EXPECT_EQ(Columns("ABC", 99, 1), "");
 }
 
+TEST(AddressText, TellsAnAddressBothWays) {
+  EXPECT_EQ(AddressText(0), "0x0 (0)");
+  EXPECT_EQ(AddressText(0xFF0000), "0xFF0000 (16711680)");
+}
+
 }  // namespace
 }  // namespace vendlingua

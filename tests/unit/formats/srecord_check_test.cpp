@@ -124,13 +124,14 @@ TEST(CheckSRecords, ReportsALoneCarriageReturn) {
 
 TEST(CheckSRecords, ReportsAGapOnTheLineBehindIt) {
   EXPECT_THAT(CheckSRecords(File({kFirst, kThird})),
-              ElementsAre("line 2: gap: address FF0020 follows FF000F"));
+              ElementsAre("line 2: gap: address 0xFF0020 (16711712) follows 0xFF000F (16711695)"));
 }
 
 TEST(CheckSRecords, ReportsARecordThatIsGivenTwice) {
-  EXPECT_THAT(CheckSRecords(File({kFirst, kFirst})),
-              ElementsAre("line 2: address FF0000 goes back behind FF000F",
-                          "line 2: overlap: bytes from address FF0000 on were given before"));
+  EXPECT_THAT(
+      CheckSRecords(File({kFirst, kFirst})),
+      ElementsAre("line 2: address 0xFF0000 (16711680) goes back behind 0xFF000F (16711695)",
+                  "line 2: overlap: bytes from address 0xFF0000 (16711680) on were given before"));
 }
 
 TEST(CheckSRecords, ReportsAnOverlapOfOneByte) {
@@ -140,10 +141,12 @@ TEST(CheckSRecords, ReportsAnOverlapOfOneByte) {
 
 TEST(CheckSRecords, ReportsAnOverlapWithAnyEarlierRecord) {
   const auto findings = CheckSRecords(File({kSecond, kThird, kFirst, S2Line(0xFF001F, "x")}));
-  EXPECT_THAT(findings, ElementsAre("line 3: address FF0000 goes back behind FF002F",
-                                    "line 4: gap: address FF001F follows FF000F",
-                                    "line 4: overlap: bytes from address FF001F on were given "
-                                    "before"));
+  EXPECT_THAT(
+      findings,
+      ElementsAre("line 3: address 0xFF0000 (16711680) goes back behind 0xFF002F (16711727)",
+                  "line 4: gap: address 0xFF001F (16711711) follows 0xFF000F (16711695)",
+                  "line 4: overlap: bytes from address 0xFF001F (16711711) on were given "
+                  "before"));
 }
 
 TEST(CheckSRecords, TakesRecordsInAnyOrderForNoOverlap) {
