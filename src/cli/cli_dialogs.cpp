@@ -1,9 +1,9 @@
 #include "cli/cli_dialogs.h"
 
-#include <iostream>
+#include <fmt/format.h>
 
+#include "cli/standard_streams.h"
 #include "core/document/alphabet.h"
-#include "core/texts/valid_utf8.h"
 
 namespace vendlingua::cli {
 namespace {
@@ -37,7 +37,7 @@ std::filesystem::path WithDefaultExtension(std::filesystem::path path,
 
 MessageAnswer CliDialogs::MessageBox(const MessageRequest& request) {
   messages_.push_back(request);
-  std::cerr << ValidUtf8(request.title + ": " + request.text) << '\n';
+  TellOnStderr((request.title.empty() ? "" : request.title + ": ") + request.text);
   return request.buttons == MessageButtons::kYesNo ? MessageAnswer::kYes : MessageAnswer::kOk;
 }
 
@@ -68,9 +68,8 @@ std::vector<ConflictAnswer> CliDialogs::ResolveConflicts(const ConflictRequest& 
   const Alphabet& alphabet = Alphabet::Of(request.display);
   for (std::size_t i = 0; i < request.conflicts.size(); ++i) {
     const EditConflict& conflict = request.conflicts[i];
-    std::cerr << ValidUtf8(request.questions[i]) << " In the file: \""
-              << alphabet.TextOf(conflict.theirs) << "\", to be saved: \""
-              << alphabet.TextOf(conflict.mine) << "\"\n";
+    TellOnStderr(fmt::format(R"({} In the file: "{}", to be saved: "{}")", request.questions[i],
+                             alphabet.TextOf(conflict.theirs), alphabet.TextOf(conflict.mine)));
   }
   return {};
 }

@@ -25,7 +25,7 @@ std::filesystem::path WithDefaultExtension(std::filesystem::path path,
                                            const std::string& extension);
 
 /// Answers the questions of the operations with the options of the command line. Message boxes are
-/// printed to stderr as "title: text" and kept for the JSON output.
+/// told on stderr as "title: text" and kept for the JSON output.
 class CliDialogs : public Dialogs {
  public:
   /// The answers to one kind of question; the last one is given again and again, except that names

@@ -7,9 +7,11 @@
 #include <iostream>
 #include <system_error>
 
+#include "cli/standard_streams.h"
 #include "core/formats/held_messages.h"
 #include "core/formats/message_file.h"
 #include "core/operations/interface_language.h"
+#include "core/operations/rename_language.h"
 #include "core/platform/errors.h"
 #include "core/platform/executable_folder.h"
 #include "core/platform/in_place_change.h"
@@ -30,6 +32,10 @@ const char* IconName(MessageIcon icon) {
       return "question";
   }
   return "";
+}
+
+std::string AsText(const Json& json) {
+  return json.dump(2, ' ', false, Json::error_handler_t::replace) + "\n";
 }
 
 std::optional<int> NumberOf(const std::string& text) {
@@ -123,27 +129,40 @@ int Session::FindLanguage(const std::string& number_or_name) const {
 DisplayCodes Session::CodesOf(const std::string& utf8) const {
   DrawnText drawn = alphabet().CodesOf(utf8);
   if (!drawn.unknown.empty()) {
-    throw CommandFailed(NotDrawn(utf8, drawn.unknown));
+    throw CommandFailed(PathText(set().CurrentFileName) + ": " + NotDrawn(utf8, drawn.unknown));
   }
   return std::move(drawn.codes);
 }
 
-void Session::Print(const Json& json, const std::string& text) const {
-  std::cout << (json_output ? json.dump(2, ' ', false, Json::error_handler_t::replace) + "\n"
-                            : ValidUtf8(text))
-            << std::flush;
+void Session::Print(const Json& json, const std::string& text) {
+  has_printed_ = true;
+  std::cout << (json_output ? AsText(json) : ValidUtf8(text)) << std::flush;
   if (!std::cout) {
-    throw CommandFailed("the output cannot be written");
+    throw CommandFailed("standard output: cannot be written");
   }
 }
 
-Json Session::MessagesAsJson() const {
-  Json messages = Json::array();
+void Session::Warn(const std::string& warning) { TellOnStderr("warning: " + warning); }
+
+void Session::Refuse(const std::string& reason) {
+  TellOnStderr(reason);
+  if (!json_output || has_printed_) {
+    return;
+  }
+  Json json = {{"error", reason}};
+  if (!dialogs.messages().empty()) {
+    json["notices"] = Notices();
+  }
+  std::cout << AsText(json) << std::flush;
+}
+
+Json Session::Notices() const {
+  Json notices = Json::array();
   for (const MessageRequest& message : dialogs.messages()) {
-    messages.push_back(
+    notices.push_back(
         {{"icon", IconName(message.icon)}, {"title", message.title}, {"text", message.text}});
   }
-  return messages;
+  return notices;
 }
 
 int FindLanguage(const MessageSet& file, const std::string& number_or_name) {
@@ -170,9 +189,20 @@ int FindLanguage(const MessageSet& file, const std::string& number_or_name) {
 void WarnIfItEndsEarly(const MessageSet& file, int language) {
   if (EndsEarly(file, language)) {
     const UiSentence notice(UiTextId::kLanguageEndsEarly, language);
-    std::cerr << "vendlingua-cli: warning: " << PathText(file.CurrentFileName) << ": "
-              << notice.In(EnglishTexts()) << '\n';
+    Session::Warn(PathText(file.CurrentFileName) + ": " + notice.In(EnglishTexts()));
   }
+}
+
+NameField RequireName(const MessageSet& file, int language, const std::string& name) {
+  const std::string path = PathText(file.CurrentFileName);
+  NameField field = NamingFile(file.CurrentFileName, [&] { return NameField::FromAnswer(name); });
+  if (field.IsBlank()) {
+    throw CommandFailed(path + ": the name of a language cannot be blank");
+  }
+  if (NameIsTaken(file, language, field)) {
+    throw CommandFailed(path + ": another language is named \"" + field.Caption() + "\"");
+  }
+  return field;
 }
 
 void RefuseToOverwrite(const std::filesystem::path& input, const std::filesystem::path& output) {

@@ -4,41 +4,18 @@
 #include <filesystem>
 #include <nlohmann/json.hpp>
 #include <optional>
-#include <stdexcept>
 #include <string>
 #include <vector>
 
 #include "cli/cli_dialogs.h"
+#include "cli/refusal.h"
 #include "core/document/alphabet.h"
+#include "core/document/name_field.h"
 #include "core/engine.h"
 
 namespace vendlingua::cli {
 
 using Json = nlohmann::ordered_json;
-
-/// What the program tells its caller.
-enum class ExitStatus : int { kDone = 0, kFailed = 1, kWrongUsage = 2 };
-/// What a comparison tells: 0 when there is no difference, 2 when it could not be made.
-inline constexpr ExitStatus kDifferent = ExitStatus::kFailed;
-inline constexpr ExitStatus kTrouble = ExitStatus::kWrongUsage;
-
-/// Why a command was refused or failed: exit status 1, the reason on stderr.
-class CommandFailed : public std::runtime_error {
- public:
-  using std::runtime_error::runtime_error;
-};
-
-/// A command line that lacks what the given file asks for: exit status 2.
-class WrongUsage : public std::runtime_error {
- public:
-  using std::runtime_error::runtime_error;
-};
-
-/// Why a comparison could not be made: exit status 2, because 1 says that the files differ.
-class Trouble : public std::runtime_error {
- public:
-  using std::runtime_error::runtime_error;
-};
 
 /// One run of the program: the engine, the dialogs that answer it, and the output.
 class Session {
@@ -85,11 +62,22 @@ class Session {
   /// lacks characters.
   DisplayCodes CodesOf(const std::string& utf8) const;
 
-  /// Prints `json` with --json, otherwise `text`.
-  void Print(const Json& json, const std::string& text) const;
+  /// Prints `json` with --json, otherwise `text`. Throws CommandFailed when standard output cannot
+  /// be written.
+  void Print(const Json& json, const std::string& text);
+
+  /// Tells on stderr what went on all the same, and why somebody should look at it.
+  static void Warn(const std::string& warning);
+
+  /// Tells on stderr why the program did not do what it was told; with --json on standard output,
+  /// too, unless the command printed its report.
+  void Refuse(const std::string& reason);
 
   /// The message boxes so far, for the JSON output.
-  Json MessagesAsJson() const;
+  Json Notices() const;
+
+ private:
+  bool has_printed_ = false;
 };
 
 /// The same of any file.
@@ -97,6 +85,11 @@ int FindLanguage(const MessageSet& file, const std::string& number_or_name);
 
 /// Warns on stderr when the file ends before the last message of a language that is read from it.
 void WarnIfItEndsEarly(const MessageSet& file, int language);
+
+/// A name that language `language` of a ".MES" file may be given, `kNewLanguage` for one to come.
+/// Throws CommandFailed when it is blank or that of another language, Error when the display lacks
+/// characters.
+NameField RequireName(const MessageSet& file, int language, const std::string& name);
 
 /// Throws CommandFailed when `output` is the file `input`, which it would overwrite.
 void RefuseToOverwrite(const std::filesystem::path& input, const std::filesystem::path& output);

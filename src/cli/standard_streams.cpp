@@ -1,10 +1,12 @@
 #include "cli/standard_streams.h"
 
+#include <algorithm>
 #include <array>
 #include <iostream>
 
-#include "cli/session.h"
+#include "cli/refusal.h"
 #include "core/platform/files.h"
+#include "core/texts/valid_utf8.h"
 
 namespace vendlingua::cli {
 namespace {
@@ -36,7 +38,18 @@ void WriteOutput(const std::string& file, std::string_view content) {
   if (file != kStandardStream) {
     WriteFile(file, content);
   } else if (!(std::cout << content << std::flush)) {
-    throw CommandFailed("standard output cannot be written");
+    throw CommandFailed("standard output: cannot be written");
+  }
+}
+
+void TellOnStderr(std::string_view lines) {
+  constexpr std::string_view kLineEnds = "\r\n";
+  while (!lines.empty()) {
+    const std::string_view line = lines.substr(0, lines.find_first_of(kLineEnds));
+    if (!line.empty()) {
+      std::cerr << "vendlingua-cli: " << ValidUtf8(line) << '\n';
+    }
+    lines.remove_prefix(std::min(line.size() + 1, lines.size()));
   }
 }
 

@@ -19,6 +19,10 @@ std::string ReadInput(const std::string& file);
 /// Writes a file, or to standard output. Throws CommandFailed or FileError.
 void WriteOutput(const std::string& file, std::string_view content);
 
+/// Prints lines on standard error, each behind the name of the program. What of them is no UTF-8
+/// becomes U+FFFD.
+void TellOnStderr(std::string_view lines);
+
 }  // namespace vendlingua::cli
 
 #endif  // VENDLINGUA_CLI_STANDARD_STREAMS_H_

@@ -10,7 +10,7 @@ namespace {
 using Kind = TableProblem::Kind;
 
 std::string Place(const std::string& file, TableFormat format, std::size_t place) {
-  return fmt::format("{}, {} {}: ", file, format == TableFormat::kCsv ? "row" : "unit", place);
+  return fmt::format("{}: {} {}: ", file, format == TableFormat::kCsv ? "row" : "unit", place);
 }
 
 std::string OfTable(const TableProblem& problem) {

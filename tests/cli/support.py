@@ -136,8 +136,7 @@ class CliTest(unittest.TestCase):
         with self.unchanged(*arguments):
             result = self.cli.run(*arguments, given=given)
         self.assertEqual(result.status, REFUSED, (arguments, result))
-        self.assertEqual(result.out, "", arguments)
-        self.assertNotEqual(result.err, "", arguments)
+        self.assert_told(result, arguments)
         return result
 
     def wrong_usage(self, *arguments: str | bytes | Path) -> Result:
@@ -145,15 +144,32 @@ class CliTest(unittest.TestCase):
         with self.unchanged(*arguments):
             result = self.cli.run(*arguments)
         self.assertEqual(result.status, WRONG_USAGE, (arguments, result))
-        self.assertEqual(result.out, "", arguments)
-        self.assertNotEqual(result.err, "", arguments)
+        self.assert_told(result, arguments)
         return result
+
+    def assert_told(self, result: Result, arguments: tuple[str | bytes | Path, ...]) -> None:
+        """Why a command was refused stands on stderr, and with --json on standard output, too."""
+        self.assertNotEqual(result.err, "", arguments)
+        for line in result.err.splitlines():
+            self.assertTrue(line.startswith("vendlingua-cli: "), (arguments, line))
+        if "--json" not in arguments:
+            self.assertEqual(result.out, "", arguments)
+            return
+        reason = result.json["error"]
+        self.assertNotEqual(reason, "", arguments)
+        self.assertTrue(result.err.endswith(on_stderr(reason)), (arguments, result))
+        self.assertLessEqual(set(result.json), {"error", "notices"})
 
     @contextlib.contextmanager
     def unchanged(self, *about: object) -> Iterator[None]:
         before = snapshot(self.folder)
         yield
         self.assertEqual(snapshot(self.folder), before, about)
+
+
+def on_stderr(text: str) -> str:
+    """What is told on stderr: each line that is not empty behind the name of the program."""
+    return "".join(f"vendlingua-cli: {line}\n" for line in text.splitlines() if line)
 
 
 def snapshot(folder: Path) -> dict[str, object]:

@@ -16,6 +16,7 @@ from support import (
     msx_file,
     msx_header,
     msx_lines,
+    on_stderr,
     s_records,
 )
 
@@ -95,12 +96,17 @@ class FlashFileTest(CompileCase):
             decoded = decode_with_srec_cat(self.folder / "FW0417AB.HEX", 0x6000)
             self.assertEqual(decoded, file.messages(1) + file.messages(2))
 
-    def test_chosen_languages_stand_in_ascending_order(self) -> None:
+    def test_chosen_languages_stand_in_the_order_of_the_file(self) -> None:
         file = MesFile(flags=flags(NO_NAME_LIST), names=[b"Default", b"A", b"B", b"C"])
-        for chosen in ("1,3", "3,1"):
-            self.compile(file, "FW0417AB.HEX", languages=chosen)
-            image = file.messages(1) + file.messages(3)
+        self.write("A.MES", file.content())
+        image = file.messages(1) + file.messages(3)
+        told = "A.MES: the order in the file counts: the slots hold the languages 1, 3"
+        for chosen, warnings in (("1,3", []), ("3,1", [told]), ("c,a", [told])):
+            arguments = (f"--languages={chosen}", "--output=FW0417AB.HEX", "--json")
+            result = self.cli.run("compile", "A.MES", *arguments)
             self.assertEqual(self.read("FW0417AB.HEX"), s_records("1", 0x6000, image))
+            self.assertEqual(result.json["warnings"], warnings)
+            self.assertEqual(result.err, "".join(on_stderr(f"warning: {w}") for w in warnings))
 
     def test_messages_that_overrun_their_slot_run_into_the_next(self) -> None:
         # Slots of 11 bytes for messages of 12; the last slot has one byte more.
@@ -160,7 +166,7 @@ class FlashFileTest(CompileCase):
         file = MesFile(flags=b"03", mem_start=0xFF8000)
         printed = self.compile(file, "FW0417AB.MHX", "--json").json
         names = [f"FW0417AB.{extension}" for extension in ("MHX", "MSX", "mtx", "SA1")]
-        expected = {"written": names, "messages": [], "warnings": [], "completed": True}
+        expected = {"written": names, "notices": [], "warnings": [], "completed": True}
         self.assertEqual(printed, expected)
         self.assertEqual(self.names(), sorted(["A.MES", *names]))
 
@@ -303,11 +309,11 @@ class IdentifiedCopyTest(CompileCase):
                 result = self.done_with_message(
                     "compile", "A.MES", "--languages=1,2", f"--output={base}.MHX", "--json"
                 )
-                self.assertEqual(result.err, INFO_BOX.format(base))
+                self.assertEqual(result.err, on_stderr(INFO_BOX.format(base)))
                 title, text = INFO_BOX.format(base).rstrip("\n").split(": ", 1)
                 box = {"icon": "information", "title": title, "text": text}
                 written = [f"{base}.MHX", f"{base}.mtx", f"{base}.SA1"]
-                boxes = {"messages": [box], "warnings": []}
+                boxes = {"notices": [box], "warnings": []}
                 self.assertEqual(result.json, {"written": written, **boxes, "completed": True})
 
     def test_a_name_of_neither_family_gets_a_message_box_and_stops(self) -> None:
@@ -317,9 +323,9 @@ class IdentifiedCopyTest(CompileCase):
             result = self.cli.run("compile", "A.MES", *arguments)
             self.assertEqual(result.status, REFUSED)
             text = "Impossibile creare il file MSX o il file HSX"
-            self.assertTrue(result.err.startswith(f"Errore: {text}\n"), result.err)
+            self.assertTrue(result.err.startswith(f"vendlingua-cli: Errore: {text}\n"), result.err)
             box = {"icon": "critical", "title": "Errore", "text": text}
-            boxes = {"messages": [box], "warnings": []}
+            boxes = {"notices": [box], "warnings": []}
             self.assertEqual(result.json, {"written": [output], **boxes, "completed": False})
         # The flash files themselves stay; there are no copies and no section files.
         self.assertEqual(self.names(), ["A.MES", "FW0417AB.MH", "FW0417AB.bin"])
@@ -380,6 +386,11 @@ class NineLanguagesTest(CompileCase):
     def test_without_the_copy_nothing_is_written(self) -> None:
         self.write("A.MES", nine_languages(b"P" * 16).content())
         self.assertIn("--copy", self.wrong_usage("compile", "A.MES", *self.OPTIONS).err)
+
+    def test_a_board_with_another_number_of_slots_takes_no_name_for_its_copy(self) -> None:
+        self.write("A.MES", MesFile().content())
+        arguments = ("--languages=1,2", "--output=FW0417AB.hex", "--copy=A.HSX")
+        self.assertIn("--copy", self.wrong_usage("compile", "A.MES", *arguments).err)
 
     def test_eight_and_ten_languages_need_no_copy(self) -> None:
         for count in (8, 10):
@@ -609,9 +620,9 @@ class CompileMsxTest(CliTest):
         self.write("A.MSX", b"".join(lines))
         result = self.done_with_message("compile", "A.MSX", "--output=P.MHX", "--json")
         self.assertEqual(self.read("P.MHX"), b"".join(lines[1:]) + 4086 * b"\r\n")
-        self.assertEqual(result.err, f"Error: {self.BOX}\n")
+        self.assertEqual(result.err, on_stderr(f"Error: {self.BOX}"))
         box = {"icon": "exclamation", "title": "Error", "text": self.BOX}
-        boxes = {"messages": [box], "warnings": []}
+        boxes = {"notices": [box], "warnings": []}
         written = ["P.MHX", "P.mtx"]
         self.assertEqual(result.json, {"written": written, **boxes, "completed": True})
 
@@ -675,6 +686,12 @@ class CompileMsxTest(CliTest):
         self.write("A.MSX", msx_file(9))
         err = self.refused("compile", "A.MSX", "--output=P.mtx").err
         self.assertIn("P.mtx: is the flash file", err)
+
+    def test_options_of_mes_files_are_refused(self) -> None:
+        self.write("A.MSX", msx_file(9))
+        for option in ("--languages=1", "--copy=B.MSX"):
+            err = self.wrong_usage("compile", "A.MSX", "--output=P.MHX", option).err
+            self.assertIn(option.split("=")[0], err)
 
     def test_no_identified_copy_is_made(self) -> None:
         self.write("A.MSX", msx_file(9))

@@ -26,7 +26,7 @@ class AllLanguagesTest(CliTest):
     def test_xliff_is_written_on_demand(self) -> None:
         printed = self.done("export", "A.MES", "--all=out", "--format=xliff", "--json").json
         expected = ["out/it.xliff", "out/en.xliff", "out/en-x-lang3.xliff"]
-        self.assertEqual(printed, {"written": expected, "messages": []})
+        self.assertEqual(printed, {"written": expected, "notices": []})
 
     def test_a_folder_that_is_there_is_used(self) -> None:
         (self.folder / "out").mkdir()
@@ -66,14 +66,14 @@ class AllLanguagesTest(CliTest):
             {"table": "in/it.csv", "language": 1, "applied": 0},
             {"table": "in/en.csv", "language": 2, "applied": 1},
         ]
-        self.assertEqual(printed, {"file": "A.MES", "tables": tables, "messages": []})
+        self.assertEqual(printed, {"file": "A.MES", "tables": tables, "notices": []})
 
     def test_nothing_is_changed_unless_every_table_is_sound(self) -> None:
         self.write("in/en-x-lang3.csv", HEADER + b"1,,abcde\r\n")
         self.write("in/en.csv", HEADER + b"1,,good\r\n")
         self.write("in/it.csv", b"")
         err = self.refused("apply", "A.MES", "--all=in").err
-        self.assertIn("in/en-x-lang3.csv, row 2: message 1: ", err)
+        self.assertIn("in/en-x-lang3.csv: row 2: message 1: ", err)
         self.assertIn("in/it.csv: ", err)
 
     def test_a_table_of_no_language_is_refused(self) -> None:

@@ -61,7 +61,7 @@ class SpreadsheetTest(CliTest):
     def test_a_capped_list_of_problems_says_how_many_more_there_are(self) -> None:
         self.write("t.csv", HEADER + 508 * b"x\r\n")
         err = self.refused("apply", "A.MES", "t.csv", "--language=1").err
-        self.assertIn("t.csv, row 501: ", err)
+        self.assertIn("t.csv: row 501: ", err)
         self.assertNotIn("row 502", err)
         self.assertIn("t.csv: and 8 more\n", err)
 
@@ -91,8 +91,8 @@ class PlaceholderTest(CliTest):
         self.write("A.MES", MesFile(width=8, texts={(0, 1): b"abcd\xfef\xfe\xfe"}).content())
         self.write("t.csv", HEADER + "1,,vwxyzþyþþ\r\n0,,x\r\n2,,123456789\r\n".encode())
         err = self.refused("apply", "A.MES", "t.csv", "--language=1").err
-        self.assertIn('t.csv, row 2: message 1: "vwxyz" has 5 cells, at most 4 fit from cell 1', err)
-        self.assertIn('t.csv, row 4: message 2: "123456789" has 9 cells, at most 8 fit\n', err)
+        self.assertIn('t.csv: row 2: message 1: "vwxyz" has 5 cells, at most 4 fit from cell 1', err)
+        self.assertIn('t.csv: row 4: message 2: "123456789" has 9 cells, at most 8 fit\n', err)
 
     def test_an_overtyped_placeholder_is_told_and_stays(self) -> None:
         file = MesFile(width=8, texts={(0, 1): b"abcd\xfef\xfe\xfe"})
@@ -100,7 +100,7 @@ class PlaceholderTest(CliTest):
         self.assertEqual(stored, b"abcd\xfef\xfe\xfe")
         self.assertEqual(
             err,
-            "vendlingua-cli: warning: t.csv, row 2: message 1: the text covers cells 5 and 7 to 8, "
+            "vendlingua-cli: warning: t.csv: row 2: message 1: the text covers cells 5 and 7 to 8, "
             "which the board fills\n",
         )
 
@@ -118,7 +118,7 @@ class PlaceholderTest(CliTest):
         self.write("t.csv", HEADER + "1,,xþ\r\n".encode())
         printed = self.done_with_message("apply", "A.MES", "t.csv", "--language=1", "--json").json
         self.assertEqual(len(printed["warnings"]), 1)
-        self.assertIn("t.csv, row 2: message 1: ", printed["warnings"][0])
+        self.assertIn("t.csv: row 2: message 1: ", printed["warnings"][0])
 
     def test_the_cells_of_the_board_stay_blank_in_an_msx_file(self) -> None:
         content = msx_file(1)

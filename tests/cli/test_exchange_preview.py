@@ -42,7 +42,7 @@ class DryRunTest(CliTest):
                 "language": 1,
                 "applied": 0,
                 "changes": [{"message": 1, "old": "bþþ ", "new": "xþþ "}],
-                "messages": [],
+                "notices": [],
             },
         )
 
@@ -59,7 +59,7 @@ class DryRunTest(CliTest):
         self.write("t.csv", HEADER + b"1,,wxyz\r\n")
         with self.unchanged():
             result = self.done_with_message("apply", "A.MES", "t.csv", "--language=1", "--dry-run")
-        self.assertIn("warning: t.csv, row 2: ", result.err)
+        self.assertIn("warning: t.csv: row 2: ", result.err)
         self.write("t.csv", HEADER + b"1,,abcde\r\n")
         self.refused("apply", "A.MES", "t.csv", "--language=1", "--dry-run")
         self.write("t.csv", HEADER + b"1,,x\r\n")
@@ -95,7 +95,7 @@ class StandardStreamTest(CliTest):
 
     def test_problems_name_standard_input(self) -> None:
         err = self.refused("apply", "A.MES", "-", "--language=1", given=HEADER + b"9,,x\r\n").err
-        self.assertIn("standard input, row 2: ", err)
+        self.assertIn("standard input: row 2: ", err)
         err = self.refused("apply", "A.MES", "-", "--language=1").err
         self.assertIn("standard input: ", err)
 

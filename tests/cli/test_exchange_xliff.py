@@ -164,7 +164,7 @@ class XliffApplyTest(CliTest):
             + unit(3, "x")
         )
         self.assertIn(
-            't.xliff, unit 2: message 1: "Guthabenx" has 9 cells, at most 8 fit from cell 1 on', err
+            't.xliff: unit 2: message 1: "Guthabenx" has 9 cells, at most 8 fit from cell 1 on', err
         )
         self.assertIn('unit 3: message 2: "more than sixteen" has 17 cells, at most 16 fit', err)
         self.assertIn('unit 4: there is no message "3"', err)
@@ -177,7 +177,7 @@ class XliffApplyTest(CliTest):
 
     def test_placeholders_in_another_order_are_refused(self) -> None:
         err = self.refused_units(unit(1, '<x id="2"/><x id="1"/>', '<x id="1"/><x id="2"/>'))
-        self.assertIn("t.xliff, unit 1: message 1: the placeholders of the target are not", err)
+        self.assertIn("t.xliff: unit 1: message 1: the placeholders of the target are not", err)
 
     def test_what_is_not_translated_stays(self) -> None:
         for units in (

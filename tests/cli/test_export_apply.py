@@ -29,7 +29,7 @@ class ExportTest(CliTest):
     def test_json_names_the_table(self) -> None:
         self.write("A.MES", MesFile().content())
         printed = self.done("export", "A.MES", "--language=1", "--output=t.csv", "--json").json
-        self.assertEqual(printed, {"written": ["t.csv"], "messages": []})
+        self.assertEqual(printed, {"written": ["t.csv"], "notices": []})
 
     def test_another_language_can_be_the_origin(self) -> None:
         self.write("A.MES", MesFile().content())
@@ -113,7 +113,7 @@ class ApplyTest(CliTest):
     def test_json_counts_the_messages(self) -> None:
         self.write("t.csv", HEADER + b"1,,x\r\n")
         printed = self.done("apply", "A.MES", "t.csv", "--language=2", "--json").json
-        expected = {"file": "A.MES", "language": 2, "applied": 1, "messages": []}
+        expected = {"file": "A.MES", "language": 2, "applied": 1, "notices": []}
         self.assertEqual(printed, expected)
 
     def test_an_exported_table_changes_nothing(self) -> None:
@@ -163,7 +163,7 @@ class ApplyTest(CliTest):
         self.write("A.MES", self.file.content())
         self.write("t.csv", HEADER + b"1,,wxyz\r\n")
         err = self.done_with_message("apply", "A.MES", "t.csv", "--language=1").err
-        self.assertIn("t.csv, row 2: message 1: the text covers cells 2 to 3, which the board", err)
+        self.assertIn("t.csv: row 2: message 1: the text covers cells 2 to 3, which the board", err)
         self.file.texts[1, 1] = b"w\xfe\xfez"
         self.assertEqual(self.read("A.MES"), self.file.content())
 
@@ -202,21 +202,21 @@ class ApplyTest(CliTest):
     def test_every_row_that_cannot_be_taken_is_named_and_nothing_changed(self) -> None:
         rows = "0,,fits\r\n1,,abcde\r\n2,,Ж\r\n3,,x\r\n".encode()
         err = self.refused_table(rows)
-        self.assertRegex(err, r't\.csv, row 3: message 1: "abcde" has 5 cells, at most 4 fit')
-        self.assertRegex(err, r't\.csv, row 4: message 2: .* "Ж"')
-        self.assertRegex(err, r't\.csv, row 5: .* "3"')
+        self.assertRegex(err, r't\.csv: row 3: message 1: "abcde" has 5 cells, at most 4 fit')
+        self.assertRegex(err, r't\.csv: row 4: message 2: .* "Ж"')
+        self.assertRegex(err, r't\.csv: row 5: .* "3"')
         self.assertNotIn("row 2", err)
 
     def test_a_message_number_that_is_none_is_refused(self) -> None:
         for number in (b"", b"3", b"-1", b"x", b"1x", b"+1", b" 1", b"1 ", b"99999999999999999999"):
-            self.assertIn("t.csv, row 2: ", self.refused_table(number + b",,x\r\n"))
+            self.assertIn("t.csv: row 2: ", self.refused_table(number + b",,x\r\n"))
 
     def test_a_message_given_twice_is_refused(self) -> None:
-        self.assertIn("t.csv, row 3: ", self.refused_table(b"1,,x\r\n1,,x\r\n"))
+        self.assertIn("t.csv: row 3: ", self.refused_table(b"1,,x\r\n1,,x\r\n"))
 
     def test_a_row_of_other_than_three_fields_is_refused(self) -> None:
         for row in (b"1", b"1,x", b"1,,x,", b"1;;x"):
-            self.assertIn("t.csv, row 2: ", self.refused_table(row + b"\r\n"))
+            self.assertIn("t.csv: row 2: ", self.refused_table(row + b"\r\n"))
 
     def test_malformed_quotes_are_refused(self) -> None:
         for row in (b'1,,"x', b'1,,"x"y', b'1,,x"y', b'"1,,x\r\n2,,y'):
@@ -239,7 +239,7 @@ class ApplyTest(CliTest):
         self.assertIn("t.csv: ends inside", self.refused_table(b"1,,T\xc3"))
 
     def test_a_text_in_windows_1252_is_measured_as_such(self) -> None:
-        self.assertIn("t.csv, row 2: ", self.refused_table(b"1,,Caff\xe8\r\n"))
+        self.assertIn("t.csv: row 2: ", self.refused_table(b"1,,Caff\xe8\r\n"))
 
     def test_a_language_that_cannot_be_changed_is_refused(self) -> None:
         self.write("t.csv", HEADER + b"1,,x\r\n")

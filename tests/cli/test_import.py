@@ -4,7 +4,7 @@ from __future__ import annotations
 
 import unittest
 
-from support import CliTest, MesFile, Result, header
+from support import CliTest, MesFile, Result, header, on_stderr
 
 SOURCE = b"LABEL   DC.B 'ABCD'\r\n        DC.B 'EFGH'\r\n"
 
@@ -62,7 +62,7 @@ class ImportTest(ImportCase):
 
     def test_json_tells_what_was_written(self) -> None:
         printed = self.import_source(SOURCE, "--json").json
-        self.assertEqual(printed, {"written": ["OUT.MES"], "messageCount": 2, "messages": []})
+        self.assertEqual(printed, {"written": ["OUT.MES"], "messageCount": 2, "notices": []})
 
     def test_the_source_stays_and_nothing_else_is_left_behind(self) -> None:
         self.import_source(SOURCE)
@@ -223,7 +223,7 @@ class WidthTest(ImportCase):
 
     def test_a_shorter_text_is_refused_in_a_message_box(self) -> None:
         result = self.refused_source(SOURCE + b" DC.B 'IJK'\r\n")
-        self.assertTrue(result.err.startswith("ERRORE: Lughezza messaggi\nerrata\n"), result.err)
+        self.assertTrue(result.err.startswith(on_stderr("ERRORE: Lughezza messaggi\nerrata\n")), result.err)
         self.assertIn("source.asm", result.err)
 
     def test_a_longer_text_is_imported_by_its_first_40_cells_with_a_notice(self) -> None:
@@ -253,7 +253,7 @@ class MemoryTest(ImportCase):
         self.import_source(source_of(455, 16), "--languages=1", "--memory-length=&H2000")
         result = self.refused_source(source_of(455, 16), "--languages=2", "--memory-length=&H2000")
         box = "ERRORE: Memoria messaggi\ninsufficente\nMessaggi N° 455\nMemoria usata 14560\n"
-        self.assertTrue(result.err.startswith(box), result.err)
+        self.assertTrue(result.err.startswith(on_stderr(box)), result.err)
         self.assertIn("source.asm", result.err)
 
     def test_one_byte_too_few_is_refused(self) -> None:
@@ -364,9 +364,9 @@ class SectionTest(ImportCase):
         names = ("--name= ", "--name=ITALIANO")
         result = self.done_with_message("import", "source.asm", *answers(names), "--json")
         text = "The language name cannot be empty."
-        self.assertEqual(result.err, f": {text}\n")
+        self.assertEqual(result.err, f"vendlingua-cli: {text}\n")
         box = {"icon": "critical", "title": "", "text": text}
-        self.assertEqual(result.json["messages"], [box])
+        self.assertEqual(result.json["notices"], [box])
         self.assertIn("language 1: ITALIANO\n", self.done("info", "OUT.MES").out)
 
     def test_a_name_is_upper_case_and_at_most_20_characters(self) -> None:

@@ -101,6 +101,9 @@ class PictureTest(CliTest):
         self.write("A.MES", MesFile().content())
         self.wrong_usage("proof", "A.MES", "--png=0", "--output=m.png")
         self.wrong_usage("proof", "A.MES", "--png=0", "--languages=1,2", "--output=m.png")
+        self.wrong_usage(
+            *("proof", "A.MES", "--png=0", "--languages=1", "--origin=1", "--output=m.png")
+        )
 
 
 if __name__ == "__main__":

@@ -33,7 +33,7 @@ class PutIntoMesFileTest(CliTest):
         self.assertEqual(printed["language"], 2)
         self.assertEqual(printed["message"], 1)
         self.assertEqual(printed["text"], "Tè  ")
-        self.assertEqual(printed["messages"], [])
+        self.assertEqual(printed["notices"], [])
 
     def test_a_language_that_ends_early_is_completed(self) -> None:
         file = MesFile()
@@ -56,7 +56,8 @@ class PutIntoMesFileTest(CliTest):
         result = self.done_with_message(
             "put", "A.MES", "--language=1", "--message=1", "--text=abcde", "--json"
         )
-        self.assertIn("4 cells", result.err)
+        warning = "warning: A.MES: message 1: the text was cut to 4 cells"
+        self.assertEqual(result.err, f"vendlingua-cli: {warning}\n")
         self.assertEqual((result.json["text"], result.json["cut"]), ("abcd", True))
         file.texts[1, 1] = b"abcd"
         self.assertEqual(self.read("A.MES"), file.content())

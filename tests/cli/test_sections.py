@@ -4,7 +4,7 @@ from __future__ import annotations
 
 import unittest
 
-from support import CliTest, s_record, s_records
+from support import CliTest, on_stderr, s_record, s_records
 
 SIXTEEN = bytes(range(0x41, 0x51))
 
@@ -25,7 +25,7 @@ class SectionsTest(CliTest):
     def test_json_lists_what_was_written(self) -> None:
         self.write("A.MHX", lines(s_record("2", 0xFF8000, SIXTEEN)))
         printed = self.done("sections", "A.MHX", "--json").json
-        self.assertEqual(printed, {"written": ["A.mtx", "A.SA1"], "messages": []})
+        self.assertEqual(printed, {"written": ["A.mtx", "A.SA1"], "notices": []})
 
     def test_the_whole_memory_is_five_sections(self) -> None:
         # Records of 16 bytes end exactly at every bound.
@@ -156,7 +156,7 @@ class SectionsTest(CliTest):
             self.write("A.MHX", lines(good, bad, good))
             err = self.refused("sections", "A.MHX").err
             box = "A.MHX\rThe file has a line that is not an S-record; reading stopped there."
-            self.assertTrue(err.startswith(f"Error: {box}\n"), err)
+            self.assertTrue(err.startswith(on_stderr(f"Error: {box}")), err)
 
     def test_a_file_without_a_record_of_the_sections_is_refused(self) -> None:
         for record in (s_record("1", 0x8000, b"x"), s_record("2", 0xFFC000, b"x")):

@@ -9,7 +9,7 @@ import subprocess
 import unittest
 from pathlib import Path
 
-from support import COMMANDS, PROGRAM, REFUSED, Cli, CliTest, MesFile
+from support import COMMANDS, PROGRAM, REFUSED, Cli, CliTest, MesFile, msx_file
 
 # Every option and argument that a command cannot do without.
 COMPLETE = {
@@ -79,12 +79,21 @@ class WrongUsageTest(CliTest):
         self.wrong_usage()
         self.wrong_usage("--json")
 
-    def test_an_unknown_command(self) -> None:
-        self.wrong_usage("translate", "A.MES")
+    def test_an_unknown_command_is_named_with_what_is_near(self) -> None:
+        for word, near in (("translate", "pretranslate"), ("verfy", "verify"), ("text", "texts")):
+            for arguments in ((word, "A.MES"), ("--json", word), (word, "--language=1")):
+                err = self.wrong_usage(*arguments).err
+                self.assertIn(f'"{word}" is no command; did you mean "{near}"?', err)
+        err = self.wrong_usage("xyz", "A.MES").err
+        self.assertEqual(err, 'vendlingua-cli: "xyz" is no command. See vendlingua-cli --help\n')
 
     def test_an_unknown_option(self) -> None:
         for command, arguments in COMPLETE.items():
             self.wrong_usage(command, *arguments, "--colour")
+
+    def test_arguments_too_many_are_named_in_their_order(self) -> None:
+        err = self.wrong_usage("info", "A.MES", "one", "--two", "three").err
+        self.assertIn("vendlingua-cli: not expected: one --two three; see ", err)
 
     def test_an_argument_too_many(self) -> None:
         for command, arguments in COMPLETE.items():
@@ -174,9 +183,24 @@ class OutputTest(CliTest):
         self.assertEqual(done.returncode, REFUSED)
         self.assertNotEqual(done.stderr, b"")
 
-    def test_a_failed_command_prints_no_json(self) -> None:
-        self.refused("--json", "info", "missing.MES")
-        self.refused("--json", "texts", "A.MES", "--language=9")
+    def test_a_refusal_is_json_too(self) -> None:
+        result = self.refused("--json", "texts", "A.MES", "--language=9")
+        self.assertEqual(result.json, {"error": "A.MES: has no language 9"})
+        self.assertIn("missing.MES", self.refused("--json", "info", "missing.MES").json["error"])
+        error = self.wrong_usage("info", "--json").json["error"]
+        self.assertEqual(error, "FILE is required; see vendlingua-cli info --help")
+
+    def test_a_refusal_in_json_has_the_message_boxes(self) -> None:
+        self.write("A.MSX", msx_file(1, "0267"))
+        result = self.refused("info", "A.MSX", "--json")
+        box = {"icon": "critical", "title": "ERROR", "text": " File not managed ! "}
+        self.assertEqual(result.json, {"error": "A.MSX: was not opened", "notices": [box]})
+
+    def test_a_command_that_fails_behind_its_report_prints_one_json(self) -> None:
+        self.write("B.MES", b"")
+        result = self.cli.run("verify", "B.MES", "--json")
+        self.assertEqual(result.status, REFUSED)
+        self.assertEqual(set(result.json), {"files"})
 
     def test_the_interface_language_file_is_not_needed(self) -> None:
         self.run_a_copy_of_the_program()
@@ -199,7 +223,8 @@ class OutputTest(CliTest):
 
     def assert_commands_work(self) -> None:
         self.done("info", "A.MES")
-        self.refused("new-language", "A.MES", "--name= ")  # in a message box of that file
+        self.write("A.MSX", msx_file(1, "0267"))
+        self.refused("info", "A.MSX")  # in a message box of that file
 
 
 if __name__ == "__main__":

@@ -1,6 +1,5 @@
 #include <fmt/format.h>
 
-#include <iostream>
 #include <memory>
 #include <string>
 
@@ -111,14 +110,14 @@ std::string Report(const Session& session, const Application& application, bool 
   return report + fmt::format("{} messages would change\n", changes.size());
 }
 
-void PrintOne(const Session& session, const ApplyOptions& options, const Application& application) {
+void PrintOne(Session& session, const ApplyOptions& options, const Application& application) {
   Json json = {{"file", options.file}};
   json.update(AsJson(session, application, options.dry_run));
-  json["messages"] = session.MessagesAsJson();
+  json["notices"] = session.Notices();
   session.Print(json, Report(session, application, options.dry_run));
 }
 
-void PrintAll(const Session& session, const ApplyOptions& options,
+void PrintAll(Session& session, const ApplyOptions& options,
               const std::vector<Application>& applications) {
   Json tables = Json::array();
   std::string report;
@@ -128,8 +127,8 @@ void PrintAll(const Session& session, const ApplyOptions& options,
     tables.push_back(json);
     report += application.table.path + ":\n" + Report(session, application, options.dry_run);
   }
-  session.Print(
-      {{"file", options.file}, {"tables", tables}, {"messages", session.MessagesAsJson()}}, report);
+  session.Print({{"file", options.file}, {"tables", tables}, {"notices", session.Notices()}},
+                report);
 }
 
 void RunApply(Session& session, const ApplyOptions& options) {
@@ -146,7 +145,7 @@ void RunApply(Session& session, const ApplyOptions& options) {
   const std::vector<Application> applications = PlansOf(session, tables, options);
   for (const Application& application : applications) {
     for (const std::string& warning : application.warnings) {
-      std::cerr << "vendlingua-cli: warning: " << warning << '\n';
+      Session::Warn(warning);
     }
     Apply(session, application, options.dry_run);
   }

@@ -1,6 +1,6 @@
 #include <fmt/format.h>
 
-#include <iostream>
+#include <algorithm>
 #include <memory>
 #include <string>
 
@@ -18,25 +18,38 @@ struct CompileOptions {
   std::string copy;
 };
 
-void TickLanguages(Session& session, const std::vector<std::string>& languages) {
-  MessageSet& set = session.set();
-  CompilerState& compiler = session.engine.compiler_state;
-  for (const std::string& given : languages) {
+std::vector<int> LanguagesToCompile(const Session& session, const CompileOptions& options) {
+  std::vector<int> languages;
+  for (const std::string& given : options.languages) {
     const int language = session.FindLanguage(given);
     if (language == 0) {
-      throw CommandFailed("--languages: language 0 is the reference and is not compiled");
+      throw CommandFailed(options.file + ": language 0 is the reference and is not compiled");
     }
-    bool& ticked = compiler.ticked.at(static_cast<std::size_t>(language));
-    if (ticked) {
-      throw CommandFailed("--languages: " + given + " is given twice");
+    if (std::find(languages.begin(), languages.end(), language) != languages.end()) {
+      throw CommandFailed(fmt::format("{}: language {} is given twice", options.file, given));
     }
-    ticked = true;
+    languages.push_back(language);
   }
-  if (languages.size() != set.LangCount) {
-    throw CommandFailed("--languages: the board has " + std::to_string(set.LangCount) +
-                        " language slots, " + std::to_string(languages.size()) +
-                        " languages are chosen");
+  const std::size_t slots = session.set().LangCount;
+  if (languages.size() != slots) {
+    throw CommandFailed(fmt::format("{}: the board has {} language slots, {} languages are given",
+                                    options.file, slots, languages.size()));
   }
+  return languages;
+}
+
+// Languages go into the slots as they are ticked in a list. Returns what has to be said about that.
+std::vector<std::string> TickLanguages(Session& session, const CompileOptions& options) {
+  std::vector<int> languages = LanguagesToCompile(session, options);
+  for (const int language : languages) {
+    session.engine.compiler_state.ticked.at(static_cast<std::size_t>(language)) = true;
+  }
+  if (std::is_sorted(languages.begin(), languages.end())) {
+    return {};
+  }
+  std::sort(languages.begin(), languages.end());
+  return {fmt::format("{}: the order in the file counts: the slots hold the languages {}",
+                      options.file, fmt::join(languages, ", "))};
 }
 
 // The copy is asked for late; what cannot be written is refused before.
@@ -75,37 +88,61 @@ Json AsJson(const Session& session, const CompileOutcome& outcome,
     written.push_back(PathText(path));
   }
   return {{"written", written},
-          {"messages", session.MessagesAsJson()},
+          {"notices", session.Notices()},
           {"warnings", warnings},
           {"completed", outcome.completed}};
 }
 
-void TakeOptions(Session& session, const CompileOptions& options) {
-  if (!session.set().IsMes()) {
-    return;
+void RefuseOptionsOfMesFiles(const CompileOptions& options) {
+  if (!options.languages.empty()) {
+    throw WrongUsage("--languages is not for a .MSX file, which is compiled as it is");
   }
+  if (!options.copy.empty()) {
+    throw WrongUsage("--copy is not for a .MSX file, which is the identified copy itself");
+  }
+}
+
+void RequireOptionsOfMesFile(const Session& session, const CompileOptions& options) {
   if (options.languages.empty()) {
     throw WrongUsage("--languages is required for a .MES file");
   }
-  const bool asks_for_copy = session.set().LangCount == kMsxLanguages;
+  const std::size_t slots = session.set().LangCount;
+  const bool asks_for_copy = slots == std::size_t{kMsxLanguages};
   if (asks_for_copy && options.copy.empty()) {
     throw WrongUsage("--copy is required: the board has 9 language slots");
   }
-  TickLanguages(session, options.languages);
-  if (asks_for_copy) {
+  if (!asks_for_copy && !options.copy.empty()) {
+    throw WrongUsage(
+        fmt::format("--copy is for boards with 9 language slots, not {}; the copy is named after "
+                    "the flash file",
+                    slots));
+  }
+}
+
+// Returns the warnings.
+std::vector<std::string> TakeOptions(Session& session, const CompileOptions& options) {
+  session.dialogs.files[FilePurpose::kFlashFile] = options.output;
+  session.dialogs.files[FilePurpose::kIdentifiedCopy] = options.copy;
+  if (session.set().IsMsx()) {
+    RefuseOptionsOfMesFiles(options);
+    return {};
+  }
+  RequireOptionsOfMesFile(session, options);
+  std::vector<std::string> warnings = TickLanguages(session, options);
+  if (!options.copy.empty()) {
     CheckCopy(session, options);
   }
+  return warnings;
 }
 
 void RunCompile(Session& session, const CompileOptions& options) {
   session.Open(options.file);
-  TakeOptions(session, options);
-  session.dialogs.files[FilePurpose::kFlashFile] = options.output;
-  session.dialogs.files[FilePurpose::kIdentifiedCopy] = options.copy;
+  std::vector<std::string> warnings = TakeOptions(session, options);
   const CompileOutcome outcome = session.engine.compiler.Compile();
-  const std::vector<std::string> warnings = WarningsOf(options.file, outcome);
+  const std::vector<std::string> damages = WarningsOf(options.file, outcome);
+  warnings.insert(warnings.end(), damages.begin(), damages.end());
   for (const std::string& warning : warnings) {
-    std::cerr << "vendlingua-cli: warning: " << warning << '\n';
+    Session::Warn(warning);
   }
   session.Print(AsJson(session, outcome, warnings), Report(outcome));
   if (!outcome.completed) {
@@ -126,7 +163,8 @@ void AddCompile(CLI::App& app, Session& session) {
   command
       ->add_option(
           "--languages", options->languages,
-          "numbers or names of the languages, as many as the board has slots; not for .MSX files")
+          "numbers or names of the languages, as many as the board has slots, in the order of the "
+          "file; not for .MSX files")
       ->type_name("LANGUAGE")
       ->delimiter(',')
       ->allow_extra_args(false);

@@ -114,7 +114,7 @@ void RunExport(Session& session, const ExportOptions& options) {
     report += file.path + "\n";
   }
   if (options.output != kStandardStream) {
-    session.Print({{"written", written}, {"messages", session.MessagesAsJson()}}, report);
+    session.Print({{"written", written}, {"notices", session.Notices()}}, report);
   }
 }
 

@@ -18,7 +18,7 @@ void RunImport(Session& session, const ImportOptions& options) {
   const MessageSet& set = session.set();
   session.Print({{"written", {PathText(output)}},
                  {"messageCount", set.MessageCount()},
-                 {"messages", session.MessagesAsJson()}},
+                 {"notices", session.Notices()}},
                 PathText(output) + ": " + std::to_string(set.MessageCount()) + " messages of " +
                     std::to_string(set.Width()) + " cells\n");
 }

@@ -26,12 +26,14 @@ void RunNewLanguage(Session& session, const NewLanguageOptions& options) {
   if (!session.set().IsMes()) {
     throw CommandFailed(options.file + ": a .MSX file cannot take a new language");
   }
+  if (session.set().IsFull()) {
+    throw FileError(options.file, UiTextId::kFileHolds100Languages);
+  }
+  RequireName(session.set(), kNewLanguage, options.name);
   const int from = session.FindLanguage(options.from.value_or("0"));
   WarnIfItEndsEarly(session.set(), from);
   session.engine.languages.ChooseOrigin(0);
-  if (session.engine.languages.StartNewLanguage(from) != DestinationOutcome::kOpened) {
-    throw CommandFailed(options.file + ": no new language was started");
-  }
+  session.engine.languages.StartNewLanguage(from);
   if (options.from && from == 0) {
     CopyReference(session.set());
   }
@@ -42,7 +44,7 @@ void RunNewLanguage(Session& session, const NewLanguageOptions& options) {
   session.Print({{"file", options.file},
                  {"language", language},
                  {"name", name},
-                 {"messages", session.MessagesAsJson()}},
+                 {"notices", session.Notices()}},
                 "language " + std::to_string(language) + ": " + name + "\n");
 }
 

@@ -83,7 +83,7 @@ void RunPretranslate(Session& session, const PretranslateOptions& options) {
                  {"language", language},
                  {"messages", report.messages()},
                  {"counts", report.counts()},
-                 {"notices", session.MessagesAsJson()}},
+                 {"notices", session.Notices()}},
                 report.text());
 }
 

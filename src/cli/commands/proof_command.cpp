@@ -83,6 +83,9 @@ void RunProof(Session& session, const ProofOptions& options) {
   if (options.picture && options.languages.size() != 1) {
     throw WrongUsage("--png draws a message of one language; give it with --languages");
   }
+  if (options.picture && !options.origin.empty()) {
+    throw WrongUsage("--png draws no origin; leave --origin out");
+  }
   session.Open(options.file);
   RefuseToOverwrite(options.file, options.output);
   const CheckedFile file(session, options.origin);

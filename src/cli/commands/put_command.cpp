@@ -1,4 +1,5 @@
-#include <iostream>
+#include <fmt/format.h>
+
 #include <memory>
 #include <string>
 #include <utility>
@@ -39,7 +40,8 @@ void RunPut(Session& session, const PutOptions& options) {
   set.SetText(message, codes);
   session.Save();
   if (cut) {
-    std::cerr << "the text was cut to " << set.Width() << " cells\n";
+    Session::Warn(fmt::format("{}: message {}: the text was cut to {} cells", options.file, message,
+                              set.Width()));
   }
   const std::string stored = session.alphabet().TextOf(set.DestText[message].First(set.Width()));
   session.Print({{"file", options.file},
@@ -47,7 +49,7 @@ void RunPut(Session& session, const PutOptions& options) {
                  {"message", options.message},
                  {"text", stored},
                  {"cut", cut},
-                 {"messages", session.MessagesAsJson()}},
+                 {"notices", session.Notices()}},
                 std::to_string(options.message) + "\t" + stored + "\n");
 }
 

@@ -26,13 +26,7 @@ void RunRename(Session& session, const RenameOptions& options) {
   if (language == 0) {
     throw CommandFailed(options.file + ": language 0 is the reference and keeps its name");
   }
-  const NameField name = NameField::FromAnswer(options.name);
-  if (name.IsBlank()) {
-    throw CommandFailed(options.file + ": the name of a language cannot be blank");
-  }
-  if (NameIsTaken(set, language, name)) {
-    throw CommandFailed(options.file + ": another language is named \"" + name.Caption() + "\"");
-  }
+  const NameField name = RequireName(set, language, options.name);
   RenameLanguage(session.engine.workspace, session.dialogs, language, name);
   session.Print({{"file", options.file}, {"language", language}, {"name", name.Caption()}},
                 "language " + std::to_string(language) + ": " + name.Caption() + "\n");

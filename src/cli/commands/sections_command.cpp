@@ -51,7 +51,7 @@ void RunSections(Session& session, const SectionsOptions& options) {
     written.push_back(PathText(path));
     text += PathText(path) + "\n";
   }
-  session.Print({{"written", written}, {"messages", session.MessagesAsJson()}}, text);
+  session.Print({{"written", written}, {"notices", session.Notices()}}, text);
 }
 
 }  // namespace

@@ -86,7 +86,7 @@ void RunUpdate(Session& session, const UpdateOptions& options) {
   session.Print({{"written", {PathText(output)}},
                  {"messages", report.messages()},
                  {"counts", report.counts()},
-                 {"notices", session.MessagesAsJson()}},
+                 {"notices", session.Notices()}},
                 report.text());
 }
 

@@ -1,4 +1,8 @@
+#include <fmt/format.h>
+
+#include <algorithm>
 #include <memory>
+#include <span>
 #include <string>
 
 #include "cli/commands.h"
@@ -22,25 +26,53 @@ Findings Check(const std::string& file) {
   }
 }
 
+// A file of something else has a finding in every line; nobody reads that many.
+std::span<const std::string> Listed(const Findings& findings) {
+  constexpr std::size_t kMostFindings = 20;
+  return std::span(findings).first(std::min(findings.size(), kMostFindings));
+}
+
+Json AsJson(const std::string& file, const Findings& findings) {
+  const auto listed = Listed(findings);
+  Json json = {{"file", file},
+               {"sound", findings.empty()},
+               {"findings", Findings(listed.begin(), listed.end())}};
+  if (listed.size() < findings.size()) {
+    json["unlisted"] = findings.size() - listed.size();
+  }
+  return json;
+}
+
+std::string AsLines(const std::string& file, const Findings& findings) {
+  if (findings.empty()) {
+    return file + ": sound\n";
+  }
+  std::string lines;
+  const auto listed = Listed(findings);
+  for (const std::string& finding : listed) {
+    lines.append(file).append(": ").append(finding).append("\n");
+  }
+  if (listed.size() < findings.size()) {
+    lines += fmt::format("{}: and {} more\n", file, findings.size() - listed.size());
+  }
+  return lines;
+}
+
 void RunVerify(Session& session, const std::vector<std::string>& files) {
   Json report = Json::array();
   std::string text;
   std::string unsound;
   for (const std::string& file : files) {
     const Findings findings = Check(file);
-    report.push_back({{"file", file}, {"findings", findings}});
-    for (const std::string& finding : findings) {
-      text.append(file).append(": ").append(finding).append("\n");
-    }
-    if (findings.empty()) {
-      text += file + ": sound\n";
-    } else {
-      unsound += (unsound.empty() ? "" : ", ") + file;
+    report.push_back(AsJson(file, findings));
+    text += AsLines(file, findings);
+    if (!findings.empty()) {
+      unsound += (unsound.empty() ? "" : "\n") + file + ": is not sound";
     }
   }
   session.Print({{"files", report}}, text);
   if (!unsound.empty()) {
-    throw CommandFailed("not sound: " + unsound);
+    throw CommandFailed(unsound);
   }
 }
 
@@ -54,6 +86,7 @@ void AddVerify(CLI::App& app, Session& session) {
       ".MES files: header, sizes, block count, names, blocks that were never written whole.\n"
       "Flash files: whether the section files, the copy and the message file beside them belong to "
       "them.\n"
+      "Of each file the first 20 findings are told, the others counted.\n"
       "Example: vendlingua-cli verify FW0417AB.MES FW0417AB.MHX MP0417AA.MSX");
   command->add_option("FILE", *files, "files to check")->required();
   command->callback([&session, files] { RunVerify(session, *files); });
