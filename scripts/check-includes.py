@@ -19,7 +19,6 @@ STANDS_ON = {
     "core/document": FOR_ALL,
     "core/layout": (*FOR_ALL, "core/document"),
     "core/formats": (*FOR_ALL, "core/document"),
-    "core/desk": (*FOR_ALL, "core/document", "core/formats"),
     "core/operations": (*FOR_ALL, "core/document", "core/formats"),
     "core/flash": (*FOR_ALL, "core/document", "core/formats"),
     "core/proof": (*FOR_ALL, "core/document"),
@@ -27,6 +26,7 @@ STANDS_ON = {
     "core/exchange": (*FOR_ALL, "core/document", "core/layout", "core/formats"),
     "core/compare": (*FOR_ALL, "core/document", "core/formats"),
     "core/transfer": (*FOR_ALL, "core/document", "core/layout", "core/formats"),
+    "core/desk": (*FOR_ALL, "core/document", "core/formats", "core/proof", "core/checks"),
     "core/presentation": (
         *FOR_ALL,
         "core/document",

@@ -19,12 +19,12 @@ class DeskFindTest : public DeskTest {
 
  private:
   template <typename Control>
-  Control& Get(const char* name) {
+  Control& Part(const char* name) {
     return desk_->program.GetInDesk<Control>(name);
   }
-  QLineEdit& Find() { return Get<QLineEdit>("DeskFind"); }
-  QTableView& Table() { return Get<QTableView>("DeskTable"); }
-  QString Result() { return Get<QLabel>("DeskFindResult").text(); }
+  QLineEdit& Find() { return Part<QLineEdit>("DeskFind"); }
+  QTableView& Table() { return Part<QTableView>("DeskTable"); }
+  QString Result() { return Part<QLabel>("DeskFindResult").text(); }
   int Current() { return desk_->view().Label6; }
 
   void OpenDesk() {
@@ -38,7 +38,7 @@ class DeskFindTest : public DeskTest {
   }
 
   void LookIn(SearchedTexts texts) {
-    Get<QComboBox>("DeskFindTexts").setCurrentIndex(static_cast<int>(texts));
+    Part<QComboBox>("DeskFindTexts").setCurrentIndex(static_cast<int>(texts));
   }
 
   QString Hit(int place, int hits) { return Say(UiSentence(UiTextId::kHit, place, hits)); }
@@ -62,8 +62,8 @@ class DeskFindTest : public DeskTest {
     } else {
       desk_->user.Cancel();
     }
-    Get<QLineEdit>("DeskReplaceBy").setText(QLatin1String(by));
-    Get<QPushButton>("DeskReplace").click();
+    Part<QLineEdit>("DeskReplaceBy").setText(QLatin1String(by));
+    Part<QPushButton>("DeskReplace").click();
   }
 
   QStringList preview_;
@@ -125,7 +125,7 @@ class DeskFindTest : public DeskTest {
 
   void FindsARegularExpression() {
     OpenDesk();
-    Get<QToolButton>("DeskFindExpression").setChecked(true);
+    Part<QToolButton>("DeskFindExpression").setChecked(true);
     Find().setText(QStringLiteral("^2(1)\\1"));
     QCOMPARE(Current(), 1);
     QCOMPARE(Result(), Hit(1, 1));
@@ -133,10 +133,10 @@ class DeskFindTest : public DeskTest {
 
   void SaysWhatIsWrongWithAnExpression() {
     OpenDesk();
-    Get<QToolButton>("DeskFindExpression").setChecked(true);
+    Part<QToolButton>("DeskFindExpression").setChecked(true);
     Find().setText(QStringLiteral("("));
     QVERIFY(!Result().isEmpty());
-    QVERIFY(!Get<QPushButton>("DeskReplace").isEnabled());
+    QVERIFY(!Part<QPushButton>("DeskReplace").isEnabled());
     Press(Qt::Key_F3);
     QCOMPARE(Current(), 0);
   }
@@ -169,7 +169,7 @@ class DeskFindTest : public DeskTest {
 
   void ReplacesByGroups() {
     OpenDesk();
-    Get<QToolButton>("DeskFindExpression").setChecked(true);
+    Part<QToolButton>("DeskFindExpression").setChecked(true);
     Find().setText(QStringLiteral("^(2)(0)"));
     Replace("\\2\\1", QDialogButtonBox::AcceptRole);
     QCOMPARE(desk_->Stored(0), std::string("0200"));
@@ -186,8 +186,8 @@ class DeskFindTest : public DeskTest {
   void ACharacterThatTheDisplayLacksIsNotPutIn() {
     OpenDesk();
     Find().setText(QStringLiteral("2"));
-    Get<QLineEdit>("DeskReplaceBy").setText(QStringLiteral("\u0416"));
-    Get<QPushButton>("DeskReplace").click();
+    Part<QLineEdit>("DeskReplaceBy").setText(QStringLiteral("\u0416"));
+    Part<QPushButton>("DeskReplace").click();
     QCOMPARE(desk_->user.LastBox().text,
              UiText(UiTextId::kCharacterRefused) + QStringLiteral(" \u0416"));
     QCOMPARE(desk_->Stored(0), std::string("2000"));
@@ -197,7 +197,7 @@ class DeskFindTest : public DeskTest {
     OpenDesk();
     desk_->HScroll1().setValue(1);
     desk_->Type(" ");
-    Get<QComboBox>("DeskFilter").setCurrentIndex(1);
+    Part<QComboBox>("DeskFilter").setCurrentIndex(1);
     QCOMPARE(Table().model()->rowCount(), 1);
     QCOMPARE(Table().currentIndex().row(), 0);
     desk_->HScroll1().setValue(0);
@@ -206,18 +206,18 @@ class DeskFindTest : public DeskTest {
 
   void FiltersWhatWasChanged() {
     OpenDesk();
-    Get<QComboBox>("DeskFilter").setCurrentIndex(2);
+    Part<QComboBox>("DeskFilter").setCurrentIndex(2);
     QCOMPARE(Table().model()->rowCount(), 0);
     desk_->Type("TEA");
-    Get<QComboBox>("DeskFilter").setCurrentIndex(0);
-    Get<QComboBox>("DeskFilter").setCurrentIndex(2);
+    Part<QComboBox>("DeskFilter").setCurrentIndex(0);
+    Part<QComboBox>("DeskFilter").setCurrentIndex(2);
     QCOMPARE(Table().model()->rowCount(), 1);
   }
 
   void AMessageStaysListedWhileItIsEdited() {
     OpenDesk();
     desk_->Type(" ");
-    Get<QComboBox>("DeskFilter").setCurrentIndex(1);
+    Part<QComboBox>("DeskFilter").setCurrentIndex(1);
     desk_->Type("TEA");
     QCOMPARE(Table().model()->rowCount(), 1);
   }

@@ -18,10 +18,10 @@ class DeskSideTest : public DeskTest {
 
  private:
   template <typename Control>
-  Control& Get(const char* name) {
+  Control& Part(const char* name) {
     return desk_->program.GetInDesk<Control>(name);
   }
-  QTreeWidget& Languages() { return Get<QTreeWidget>("DeskLanguages"); }
+  QTreeWidget& Languages() { return Part<QTreeWidget>("DeskLanguages"); }
 
   void OpenDesk() {
     MesFile mes;
@@ -34,18 +34,18 @@ class DeskSideTest : public DeskTest {
   }
 
   QImage CopiedGlass() {
-    Get<QToolButton>("DeskCopyPicture").click();
+    Part<QToolButton>("DeskCopyPicture").click();
     return QGuiApplication::clipboard()->image();
   }
 
  private slots:
   void TheGlassSaysItsRows() {
     OpenDesk();
-    auto& glass = Get<QWidget>("DeskGlass");
+    auto& glass = Part<QWidget>("DeskGlass");
     QCOMPARE(glass.accessibleName(), UiText(UiTextId::kDisplay));
     QCOMPARE(glass.accessibleDescription(), QStringLiteral("2000\n2111"));
     desk_->HScroll1().setValue(2);
-    QCOMPARE(glass.accessibleDescription(), QStringLiteral("2222\n    "));
+    QCOMPARE(glass.accessibleDescription(), QStringLiteral("2222\n"));
   }
 
   // Sixteen cells of five dots with a dot between them and four around them, six pixels a dot. The
@@ -71,24 +71,24 @@ class DeskSideTest : public DeskTest {
   void TheLightIsChosenAndKept() {
     OpenDesk();
     const QImage green = CopiedGlass();
-    Get<QComboBox>("DeskBacklight").setCurrentIndex(1);
+    Part<QComboBox>("DeskBacklight").setCurrentIndex(1);
     const QImage blue = CopiedGlass();
     QVERIFY(green != blue);
     desk_->program.desk().close();
     desk_ = std::make_unique<Desk>();
     OpenDesk();
-    QCOMPARE(Get<QComboBox>("DeskBacklight").currentIndex(), 1);
-    Get<QComboBox>("DeskBacklight").setCurrentIndex(0);
+    QCOMPARE(Part<QComboBox>("DeskBacklight").currentIndex(), 1);
+    Part<QComboBox>("DeskBacklight").setCurrentIndex(0);
     desk_->program.desk().close();
   }
 
   void SavesTheGlassAsAPicture() {
     OpenDesk();
     desk_->user.Choose(desk_->folder / "GLASS.png");
-    Get<QToolButton>("DeskSavePicture").click();
+    Part<QToolButton>("DeskSavePicture").click();
     const std::string png = Slurp(desk_->folder / "GLASS.png");
     QCOMPARE(QImage::fromData(QByteArray::fromStdString(png), "PNG"), CopiedGlass());
-    QVERIFY(Get<QLabel>("DeskStatus").text().endsWith(QStringLiteral("GLASS.png")));
+    QVERIFY(Part<QLabel>("DeskStatus").text().endsWith(QStringLiteral("GLASS.png")));
   }
 
   void ListsTheLanguagesOfTheFile() {
@@ -112,7 +112,7 @@ class DeskSideTest : public DeskTest {
   void StartsANewLanguageFromOne() {
     OpenDesk();
     Languages().setCurrentItem(Languages().topLevelItem(2));
-    Get<QPushButton>("DeskLanguageNew").click();
+    Part<QPushButton>("DeskLanguageNew").click();
     QCOMPARE(desk_->program.set().phase, Phase::kDestinationUnnamed);
     QCOMPARE(desk_->Stored(1), std::string("3111"));
   }
@@ -122,7 +122,7 @@ class DeskSideTest : public DeskTest {
     Languages().setCurrentItem(Languages().topLevelItem(2));
     desk_->user.Type(QStringLiteral("svenska"));
     desk_->user.Yes();
-    Get<QPushButton>("DeskLanguageRename").click();
+    Part<QPushButton>("DeskLanguageRename").click();
     QCOMPARE(Languages().topLevelItem(2)->text(0), QStringLiteral("SVENSKA"));
   }
 };

@@ -33,7 +33,7 @@ class DeskTableTest : public DeskTest {
     QVERIFY(QTest::qWaitForWindowActive(&desk_->program.desk()));
   }
 
-  QString Cell(int row, int column) {
+  QString Shown(int row, int column) {
     return Table().model()->index(row, column).data().toString();
   }
 
@@ -58,11 +58,11 @@ class DeskTableTest : public DeskTest {
   void ShowsEveryMessage() {
     OpenDesk();
     QCOMPARE(Table().model()->rowCount(), 3);
-    QCOMPARE(Cell(1, 0), QStringLiteral("1"));
-    QCOMPARE(Cell(1, 1), QStringLiteral("1111"));
-    QCOMPARE(Cell(1, 2), QStringLiteral("2111"));
-    QCOMPARE(Cell(1, 3), QStringLiteral("4/4"));
-    QCOMPARE(Cell(1, 4), UiText(UiTextId::kDone));
+    QCOMPARE(Shown(1, 0), QStringLiteral("1"));
+    QCOMPARE(Shown(1, 1), QStringLiteral("1111"));
+    QCOMPARE(Shown(1, 2), QStringLiteral("2111"));
+    QCOMPARE(Shown(1, 3), QStringLiteral("4/4"));
+    QCOMPARE(Shown(1, 4), UiText(UiTextId::kDone));
   }
 
   void IsEmptyWithoutAFile() {
@@ -88,14 +88,14 @@ class DeskTableTest : public DeskTest {
     Type("TEA");
     QCOMPARE(desk_->Text1().text(), QStringLiteral("TEA"));
     QCOMPARE(desk_->Stored(1), std::string("TEA "));
-    QCOMPARE(Cell(1, 3), QStringLiteral("3/4"));
-    QCOMPARE(Cell(1, 4), UiText(UiTextId::kChanged));
+    QCOMPARE(Shown(1, 3), QStringLiteral("3/4"));
+    QCOMPARE(Shown(1, 4), UiText(UiTextId::kChanged));
   }
 
   void WhatTheMainWindowEditsShowsInTheRow() {
     OpenDesk();
     desk_->Type("MILK");
-    QCOMPARE(Cell(0, 2), QStringLiteral("MILK"));
+    QCOMPARE(Shown(0, 2), QStringLiteral("MILK"));
   }
 
   void EnterGoesDown() {
@@ -117,7 +117,7 @@ class DeskTableTest : public DeskTest {
     desk_->HScroll1().setValue(0);
     Press(Qt::Key_Return, Qt::ControlModifier);
     QCOMPARE(Table().currentIndex().row(), 2);
-    QCOMPARE(Cell(2, 4), UiText(UiTextId::kToDo));
+    QCOMPARE(Shown(2, 4), UiText(UiTextId::kToDo));
   }
 
   void TheCaretJumpsOverTheBoardsCells() {
@@ -168,7 +168,7 @@ class DeskTableTest : public DeskTest {
     Type("AB");
     Press(Qt::Key_Escape);
     QCOMPARE(desk_->Stored(0), std::string("2000"));
-    QCOMPARE(Cell(0, 2), QStringLiteral("2000"));
+    QCOMPARE(Shown(0, 2), QStringLiteral("2000"));
   }
 
   void TakesBackByTheKeysOfTheDocument() {
@@ -192,7 +192,7 @@ class DeskTableTest : public DeskTest {
     OpenDesk();
     desk_->HScroll1().setValue(1);
     Table().sortByColumn(0, Qt::DescendingOrder);
-    QCOMPARE(Cell(0, 0), QStringLiteral("2"));
+    QCOMPARE(Shown(0, 0), QStringLiteral("2"));
     QCOMPARE(Table().currentIndex().row(), 1);
     QCOMPARE(desk_->view().Label6, 1);
   }
@@ -204,7 +204,7 @@ class DeskTableTest : public DeskTest {
     Type("A");
     QVERIFY(Edit() == nullptr);
     QVERIFY(!desk_->Modified());
-    QCOMPARE(Cell(0, 2), QString());
+    QCOMPARE(Shown(0, 2), QString());
   }
 
   void ClosesWithTheMainWindow() {

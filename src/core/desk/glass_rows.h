@@ -3,17 +3,15 @@
 
 #include <array>
 #include <cstddef>
-#include <vector>
 
 #include "core/document/message_set.h"
+#include "core/proof/glass.h"
 
 namespace vendlingua {
 
-/// What the two rows of the board's display show.
+/// What the rows of the board's display show, with placeholders in the cells that the board fills.
 struct GlassRows {
-  std::array<DisplayCodes, 2> codes{};
-  /// Cells of a row that the board fills, as it counts them: its digits run.
-  std::array<std::vector<bool>, 2> board_fills{};
+  std::array<DisplayCodes, kGlassRows> codes{};
   /// The row of the message that was asked for.
   std::size_t current = 0;
 
@@ -23,9 +21,6 @@ struct GlassRows {
 /// Message `message` and its partner: the board shows an even one above the odd one that follows
 /// it. They are those of the destination, or of the origin while none is open.
 GlassRows GlassRowsOf(const MessageSet& set, std::size_t message);
-
-/// The cells as they are after `ticks`: each tick counts the digits on by one.
-DisplayCodes RowAt(const GlassRows& rows, std::size_t row, unsigned ticks);
 
 }  // namespace vendlingua
 

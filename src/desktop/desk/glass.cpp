@@ -11,14 +11,13 @@ namespace vendlingua {
 namespace {
 
 constexpr int kCountInterval = 500;  // milliseconds
-constexpr int kDotsToCell = 1;       // between two cells
 constexpr int kFrameDots = 4;        // around all cells
 constexpr int kUsualDot = 3;         // pixels
 constexpr int kPictureDot = 6;
 constexpr std::size_t kBoardCells = 16;
 
-constexpr int kCellWidth = static_cast<int>(Glyph::kColumns) + kDotsToCell;
-constexpr int kCellHeight = static_cast<int>(Glyph::kRows) + kDotsToCell;
+constexpr int kCellDotsAcross = static_cast<int>(kGlassCellColumns);
+constexpr int kCellDotsDown = static_cast<int>(kGlassCellRows);
 
 struct Light {
   QRgb glass;
@@ -63,9 +62,8 @@ void Glass::SetBacklight(Backlight backlight) {
 
 QSize Glass::SizeInDots() const {
   const auto cells = static_cast<int>(std::max(rows_.codes[0].size(), kBoardCells));
-  constexpr auto kRows = static_cast<int>(std::tuple_size_v<decltype(GlassRows::codes)>);
-  return {cells * kCellWidth - kDotsToCell + 2 * kFrameDots,
-          kRows * kCellHeight - kDotsToCell + 2 * kFrameDots};
+  return {cells * kCellDotsAcross - 1 + 2 * kFrameDots,
+          static_cast<int>(kGlassRows) * kCellDotsDown - 1 + 2 * kFrameDots};
 }
 
 QSize Glass::sizeHint() const { return SizeInDots() * kUsualDot; }
@@ -95,13 +93,13 @@ void Glass::paintEvent(QPaintEvent* /*event*/) {
 void Glass::Draw(QPainter& painter, int dot) const {
   const Light& light = kLights.at(static_cast<std::size_t>(backlight_));
   painter.fillRect(QRect(QPoint(), SizeInDots() * dot), QColor(light.glass));
-  const std::size_t cells = std::max(rows_.codes[0].size(), kBoardCells);
-  for (std::size_t row = 0; row < rows_.codes.size(); ++row) {
-    const DisplayCodes codes = FitTo(RowAt(rows_, row, ticks_), cells);
-    for (std::size_t cell = 0; cell < cells; ++cell) {
-      const QPoint place(kFrameDots + static_cast<int>(cell) * kCellWidth,
-                         kFrameDots + static_cast<int>(row) * kCellHeight);
-      DrawCell(painter, place * dot, dot, codes[cell]);
+  const std::size_t width = std::max(rows_.codes[0].size(), kBoardCells);
+  for (std::size_t row = 0; row < kGlassRows; ++row) {
+    const std::vector<GlassCell> cells = GlassCells(FitTo(rows_.codes.at(row), width), ticks_);
+    for (std::size_t cell = 0; cell < width; ++cell) {
+      const QPoint place(kFrameDots + static_cast<int>(cell) * kCellDotsAcross,
+                         kFrameDots + static_cast<int>(row) * kCellDotsDown);
+      DrawCell(painter, place * dot, dot, cells[cell].code);
     }
   }
 }
@@ -113,10 +111,9 @@ void Glass::DrawCell(QPainter& painter, QPoint place, int dot, DisplayCode code)
   const Glyph& glyph = Alphabet::Of(display_type_).GlyphOf(code);
   for (std::size_t row = 0; row < Glyph::kRows; ++row) {
     for (std::size_t column = 0; column < Glyph::kColumns; ++column) {
-      const bool is_lit = glyph.HasDot(column, row);
       painter.fillRect(place.x() + static_cast<int>(column) * dot,
                        place.y() + static_cast<int>(row) * dot, lit, lit,
-                       QColor(is_lit ? light.dot : light.cell));
+                       QColor(glyph.HasDot(column, row) ? light.dot : light.cell));
     }
   }
 }
