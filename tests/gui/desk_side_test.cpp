@@ -4,6 +4,8 @@
 #include <QImage>
 #include <QLabel>
 #include <QPushButton>
+#include <QTabWidget>
+#include <QTableView>
 #include <QToolButton>
 #include <QTreeWidget>
 
@@ -21,16 +23,27 @@ class DeskSideTest : public DeskTest {
   Control& Part(const char* name) {
     return desk_->program.GetInDesk<Control>(name);
   }
-  QTreeWidget& Languages() { return Part<QTreeWidget>("DeskLanguages"); }
+  // Shown first: a page that is hidden shows nothing new.
+  QTreeWidget& Languages() {
+    auto& pages = Part<QTabWidget>("DeskPages");
+    pages.setCurrentIndex(1);
+    return Part<QTreeWidget>("DeskLanguages");
+  }
+  QTreeWidget& Findings() { return Part<QTreeWidget>("DeskFindings"); }
 
   void OpenDesk() {
     MesFile mes;
     mes.names = {"Default", "ITALIANO", "ENGLISH", "SUOMI"};
-    desk_->Open("TEST.MES", mes.Bytes());
+    desk_->Open("TEST.MES", Lettered(mes.Bytes()));
     desk_->program.Choose("mnuori(1)");
     desk_->program.Choose("mnuDes(2)");
     desk_->program.Choose("mnuDesk");
     QVERIFY(QTest::qWaitForWindowActive(&desk_->program.desk()));
+  }
+
+  void TypeAStrayPlaceholder() {
+    desk_->Text1().selectAll();
+    desk_->Text1().insert(QStringLiteral("A\u00FE"));
   }
 
   QImage CopiedGlass() {
@@ -43,9 +56,9 @@ class DeskSideTest : public DeskTest {
     OpenDesk();
     auto& glass = Part<QWidget>("DeskGlass");
     QCOMPARE(glass.accessibleName(), UiText(UiTextId::kDisplay));
-    QCOMPARE(glass.accessibleDescription(), QStringLiteral("2000\n2111"));
+    QCOMPARE(glass.accessibleDescription(), QStringLiteral("CAAA\nCBBB"));
     desk_->HScroll1().setValue(2);
-    QCOMPARE(glass.accessibleDescription(), QStringLiteral("2222\n"));
+    QCOMPARE(glass.accessibleDescription(), QStringLiteral("CCCC\n"));
   }
 
   // Sixteen cells of five dots with a dot between them and four around them, six pixels a dot. The
@@ -91,6 +104,36 @@ class DeskSideTest : public DeskTest {
     QVERIFY(Part<QLabel>("DeskStatus").text().endsWith(QStringLiteral("GLASS.png")));
   }
 
+  void ListsWhatTheChecksFind() {
+    OpenDesk();
+    QCOMPARE(Findings().topLevelItemCount(), 0);
+    desk_->HScroll1().setValue(1);
+    TypeAStrayPlaceholder();
+    QCOMPARE(Findings().topLevelItemCount(), 1);
+    QCOMPARE(Findings().topLevelItem(0)->text(0), QStringLiteral("1"));
+    QCOMPARE(Part<QTableView>("DeskTable").model()->index(1, 4).data().toString(),
+             UiText(UiTextId::kFinding));
+  }
+
+  void MendsAFindingByOneKeyInOneStep() {
+    OpenDesk();
+    desk_->HScroll1().setValue(1);
+    TypeAStrayPlaceholder();
+    QTest::keyClick(&Part<QTableView>("DeskTable"), Qt::Key_F4);
+    QCOMPARE(desk_->Stored(1), std::string("A   "));
+    desk_->program.Choose("mnuUndo");
+    QCOMPARE(desk_->Stored(1), std::string("A\xFE  "));
+  }
+
+  void AFindingThatIsChosenShowsItsMessage() {
+    OpenDesk();
+    desk_->HScroll1().setValue(2);
+    TypeAStrayPlaceholder();
+    desk_->HScroll1().setValue(0);
+    Findings().setCurrentItem(Findings().topLevelItem(0));
+    QCOMPARE(desk_->view().Label6, 2);
+  }
+
   void ListsTheLanguagesOfTheFile() {
     OpenDesk();
     QCOMPARE(Languages().topLevelItemCount(), 3);
@@ -106,7 +149,7 @@ class DeskSideTest : public DeskTest {
     const QRect row = Languages().visualItemRect(Languages().topLevelItem(2));
     QTest::mouseClick(Languages().viewport(), Qt::LeftButton, Qt::NoModifier, row.center());
     QTest::mouseDClick(Languages().viewport(), Qt::LeftButton, Qt::NoModifier, row.center());
-    QCOMPARE(desk_->Text1().text(), QStringLiteral("3000"));
+    QCOMPARE(desk_->Text1().text(), QStringLiteral("DAAA"));
   }
 
   void StartsANewLanguageFromOne() {
@@ -114,7 +157,7 @@ class DeskSideTest : public DeskTest {
     Languages().setCurrentItem(Languages().topLevelItem(2));
     Part<QPushButton>("DeskLanguageNew").click();
     QCOMPARE(desk_->program.set().phase, Phase::kDestinationUnnamed);
-    QCOMPARE(desk_->Stored(1), std::string("3111"));
+    QCOMPARE(desk_->Stored(1), std::string("DBBB"));
   }
 
   void RenamesALanguage() {

@@ -22,11 +22,11 @@ class DeskTableTest : public DeskTest {
     MesFile mes;
     mes.names = {"Default", "ITALIANO", "ENGLISH"};
     std::string content = mes.Bytes();
-    for (const std::size_t language : {1U, 2U}) {
+    for (const std::size_t language : {0U, 1U, 2U}) {
       const std::string text = mes.Message(language, 2);
       content.replace(content.find(text), text.size(), text.substr(0, 1) + "\xFE" + text.substr(2));
     }
-    desk_->Open("TEST.MES", content);
+    desk_->Open("TEST.MES", Lettered(content));
     desk_->program.Choose("mnuori(1)");
     desk_->program.Choose("mnuDes(2)");
     desk_->program.Choose("mnuDesk");
@@ -59,8 +59,8 @@ class DeskTableTest : public DeskTest {
     OpenDesk();
     QCOMPARE(Table().model()->rowCount(), 3);
     QCOMPARE(Shown(1, 0), QStringLiteral("1"));
-    QCOMPARE(Shown(1, 1), QStringLiteral("1111"));
-    QCOMPARE(Shown(1, 2), QStringLiteral("2111"));
+    QCOMPARE(Shown(1, 1), QStringLiteral("BBBB"));
+    QCOMPARE(Shown(1, 2), QStringLiteral("CBBB"));
     QCOMPARE(Shown(1, 3), QStringLiteral("4/4"));
     QCOMPARE(Shown(1, 4), UiText(UiTextId::kDone));
   }
@@ -146,11 +146,11 @@ class DeskTableTest : public DeskTest {
     Press(Qt::Key_Insert);
     QCOMPARE(DeskStatus(), UiText(UiTextId::kOverwriting));
     Type("X");
-    QCOMPARE(desk_->Stored(0), std::string("X000"));
+    QCOMPARE(desk_->Stored(0), std::string("XAAA"));
     Press(Qt::Key_Insert);
     QCOMPARE(DeskStatus(), UiText(UiTextId::kInserting));
     Type("Y");
-    QCOMPARE(desk_->Stored(0), std::string("X000"));
+    QCOMPARE(desk_->Stored(0), std::string("XAAA"));
   }
 
   void ACharacterThatTheDisplayLacksIsRefused() {
@@ -159,7 +159,7 @@ class DeskTableTest : public DeskTest {
     QTest::sendKeyEvent(QTest::Click, Edit(), Qt::Key_unknown, QStringLiteral("\u0416"),
                         Qt::NoModifier);
     QApplication::processEvents();
-    QCOMPARE(desk_->Stored(0), std::string("2000"));
+    QCOMPARE(desk_->Stored(0), std::string("CAAA"));
     QCOMPARE(DeskStatus(), UiText(UiTextId::kCharacterRefused) + QStringLiteral(" \u0416"));
   }
 
@@ -167,15 +167,15 @@ class DeskTableTest : public DeskTest {
     OpenDesk();
     Type("AB");
     Press(Qt::Key_Escape);
-    QCOMPARE(desk_->Stored(0), std::string("2000"));
-    QCOMPARE(Shown(0, 2), QStringLiteral("2000"));
+    QCOMPARE(desk_->Stored(0), std::string("CAAA"));
+    QCOMPARE(Shown(0, 2), QStringLiteral("CAAA"));
   }
 
   void TakesBackByTheKeysOfTheDocument() {
     OpenDesk();
     Type("AB");
     Press(Qt::Key_Z, Qt::ControlModifier);
-    QCOMPARE(desk_->Stored(0), std::string("2000"));
+    QCOMPARE(desk_->Stored(0), std::string("CAAA"));
     Press(Qt::Key_Y, Qt::ControlModifier);
     QCOMPARE(desk_->Stored(0), std::string("AB  "));
   }

@@ -54,6 +54,15 @@ std::string S2Line(std::size_t address, std::string_view data) {
          Digits(~sum & 0xFF, 2);
 }
 
+std::string Lettered(std::string mes_content) {
+  constexpr std::size_t kHeaderBytes = 24;
+  for (std::size_t i = kHeaderBytes; i < mes_content.size(); ++i) {
+    char& byte = mes_content[i];
+    byte = byte >= '0' && byte <= '9' ? static_cast<char>(byte - '0' + 'A') : byte;
+  }
+  return mes_content;
+}
+
 std::string MsxFile(std::size_t languages, std::string_view model) {
   std::string file = "S01300004D50" + HexOf(model) + "41412020202020202020" + "00\r\n";
   for (std::size_t language = 1; language <= languages; ++language) {

@@ -33,6 +33,10 @@ struct MesFile {
   std::string Message(std::size_t block, std::size_t message) const;
 };
 
+/// The same file with letters for the digits of its messages, which the checks take for numbers:
+/// "A" for 0, "B" for 1 and so on.
+std::string Lettered(std::string mes_content);
+
 /// A ".MSX" file put together by hand: header record and 455 S2 records a language, with right
 /// checksums. Message 169 of language k is "   LANGUAGE k   ", message m of the others is "Lk Mmmm"
 /// with blanks behind it up to 16 cells.

@@ -7,12 +7,15 @@
 namespace vendlingua {
 namespace {
 
-bool PassesFilter(const MessageSet& set, std::size_t message, MessageFilter filter) {
+bool PassesFilter(const MessageSet& set, const LiveFindings& findings, std::size_t message,
+                  MessageFilter filter) {
   switch (filter) {
     case MessageFilter::kToDo:
       return IsToDo(set, message);
     case MessageFilter::kChanged:
       return IsChanged(set, message);
+    case MessageFilter::kFindings:
+      return !findings.Of(message).empty();
     case MessageFilter::kAll:
       break;
   }
@@ -23,7 +26,8 @@ bool TextIsBefore(const DisplayText& a, const DisplayText& b) {
   return std::ranges::lexicographical_compare(a.Cells(), b.Cells());
 }
 
-bool IsBefore(const MessageSet& set, MessageOrder order, std::size_t a, std::size_t b) {
+bool IsBefore(const MessageSet& set, const LiveFindings& findings, MessageOrder order,
+              std::size_t a, std::size_t b) {
   switch (order) {
     case MessageOrder::kOrigin:
       return TextIsBefore(set.OriginText.at(a), set.OriginText.at(b));
@@ -32,7 +36,7 @@ bool IsBefore(const MessageSet& set, MessageOrder order, std::size_t a, std::siz
     case MessageOrder::kCells:
       return CellsUsed(set, a) < CellsUsed(set, b);
     case MessageOrder::kState:
-      return StateOf(set, a) < StateOf(set, b);
+      return StateOf(set, findings, a) < StateOf(set, findings, b);
     case MessageOrder::kNumber:
       break;
   }
@@ -53,19 +57,20 @@ std::optional<std::size_t> NextToDoInSteps(const MessageSet& set, std::size_t me
 
 }  // namespace
 
-std::vector<std::size_t> ListMessages(const MessageSet& set, const ListWishes& wishes) {
+std::vector<std::size_t> ListMessages(const MessageSet& set, const LiveFindings& findings,
+                                      const ListWishes& wishes) {
   std::vector<std::size_t> messages;
   if (set.phase < Phase::kOriginChosen) {
     return messages;
   }
   for (std::size_t message = 0; message < set.MessageCount(); ++message) {
-    if (PassesFilter(set, message, wishes.filter)) {
+    if (PassesFilter(set, findings, message, wishes.filter)) {
       messages.push_back(message);
     }
   }
   std::ranges::stable_sort(messages, [&](std::size_t a, std::size_t b) {
-    return wishes.descending ? IsBefore(set, wishes.order, b, a)
-                             : IsBefore(set, wishes.order, a, b);
+    return wishes.descending ? IsBefore(set, findings, wishes.order, b, a)
+                             : IsBefore(set, findings, wishes.order, a, b);
   });
   return messages;
 }

@@ -5,12 +5,13 @@
 #include <optional>
 #include <vector>
 
+#include "core/desk/live_findings.h"
 #include "core/document/message_set.h"
 
 namespace vendlingua {
 
 /// Which messages are listed.
-enum class MessageFilter { kAll, kToDo, kChanged };
+enum class MessageFilter { kAll, kToDo, kChanged, kFindings };
 
 /// What they are sorted by; among equals by their numbers.
 enum class MessageOrder { kNumber, kOrigin, kDestination, kCells, kState };
@@ -25,7 +26,8 @@ struct ListWishes {
 
 /// The numbers of the messages in the order in which they are listed; none before an origin is
 /// chosen.
-std::vector<std::size_t> ListMessages(const MessageSet& set, const ListWishes& wishes);
+std::vector<std::size_t> ListMessages(const MessageSet& set, const LiveFindings& findings,
+                                      const ListWishes& wishes);
 
 /// The next message behind `message` that is to do, beginning anew behind the last one; nothing
 /// when no other is.

@@ -30,7 +30,10 @@ std::size_t CellsUsed(const MessageSet& set, std::size_t message) {
   return TrimRight(set.DestText.at(message).First(set.Width())).size();
 }
 
-RowState StateOf(const MessageSet& set, std::size_t message) {
+RowState StateOf(const MessageSet& set, const LiveFindings& findings, std::size_t message) {
+  if (findings.NeedsWork(message)) {
+    return RowState::kFinding;
+  }
   if (IsToDo(set, message)) {
     return RowState::kToDo;
   }

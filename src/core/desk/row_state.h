@@ -3,12 +3,14 @@
 
 #include <cstddef>
 
+#include "core/desk/live_findings.h"
 #include "core/document/message_set.h"
 
 namespace vendlingua {
 
 /// How far the translation of one message has come, the most urgent state first.
 enum class RowState {
+  kFinding,  ///< something is wrong with it
   kToDo,     ///< it says nothing, or what the origin says
   kChanged,  ///< translated, and changed since the language was opened
   kDone,
@@ -26,7 +28,7 @@ bool IsChanged(const MessageSet& set, std::size_t message);
 /// Cells of the destination text up to the last one that is not blank.
 std::size_t CellsUsed(const MessageSet& set, std::size_t message);
 
-RowState StateOf(const MessageSet& set, std::size_t message);
+RowState StateOf(const MessageSet& set, const LiveFindings& findings, std::size_t message);
 
 /// How many of the messages are translated.
 struct Progress {

@@ -209,6 +209,19 @@ enum class UiTextId : std::size_t {
   kOutsideChangesTaken,
   kOutsideChangesUndecided,
   kDamagedRecords,
+  kFinding,
+  kFindings,
+  kWithFindings,
+  kFix,
+  kPlaceholderLost,
+  kPlaceholderStray,
+  kPlaceholderOvertyped,
+  kNumberMissing,
+  kGlyphMissing,
+  kGlyphDiffers,
+  kInconsistent,
+  kAlignment,
+  kLanguageNameMissing,
 };
 
 }  // namespace vendlingua

@@ -14,10 +14,10 @@ constexpr int kNumberDigits = 5;
 
 }  // namespace
 
-DeskTable::DeskTable(const Workspace& workspace, QWidget* parent)
+DeskTable::DeskTable(const Workspace& workspace, const LiveFindings& findings, QWidget* parent)
     : QTableView(parent),
       workspace_(workspace),
-      messages_(new MessageTable(workspace, this)),
+      messages_(new MessageTable(workspace, findings, this)),
       cells_(new CellsDelegate(workspace, *messages_, this)) {
   setObjectName(QStringLiteral("DeskTable"));
   setModel(messages_);

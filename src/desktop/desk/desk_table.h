@@ -16,7 +16,7 @@ class DeskTable : public QTableView {
   Q_OBJECT
 
  public:
-  DeskTable(const Workspace& workspace, QWidget* parent);
+  DeskTable(const Workspace& workspace, const LiveFindings& findings, QWidget* parent);
 
   /// Shows the document and its current message.
   void Mirror();

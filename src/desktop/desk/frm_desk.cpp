@@ -27,8 +27,8 @@ namespace {
 constexpr QSize kFirstSize(1000, 640);
 
 // By MessageFilter.
-constexpr std::array<UiTextId, 3> kFilters = {UiTextId::kAllMessages, UiTextId::kToDo,
-                                              UiTextId::kChangedMessages};
+constexpr std::array<UiTextId, 4> kFilters = {UiTextId::kAllMessages, UiTextId::kToDo,
+                                              UiTextId::kChangedMessages, UiTextId::kWithFindings};
 
 QString WindowKey() { return QStringLiteral("window"); }
 QString ColumnsKey() { return QStringLiteral("columns"); }
@@ -53,15 +53,17 @@ FrmDesk::FrmDesk(Engine& engine, Dialogs& dialogs, RunCommand run)
       find_bar_(new FindBar(this)),
       filter_(new QComboBox(this)),
       parts_(new QSplitter(this)),
-      table_(new DeskTable(workspace_, parts_)),
+      table_(new DeskTable(workspace_, findings_, parts_)),
       finder_(new Finder(workspace_, *find_bar_, table_->messages())),
       glass_(new GlassPanel(workspace_, this)),
       pages_(new QTabWidget(this)),
+      findings_page_(new FindingsPage(pages_)),
       languages_(new LanguagesPage(workspace_, pages_)),
       status_(new QLabel(this)),
       progress_(new QLabel(this)) {
   setObjectName(QStringLiteral("FrmDesk"));
   setWindowIcon(QIcon(QStringLiteral(":/icons/vendlingua.svg")));
+  pages_->setObjectName(QStringLiteral("DeskPages"));
   filter_->setObjectName(QStringLiteral("DeskFilter"));
   status_->setObjectName(QStringLiteral("DeskStatus"));
   progress_->setObjectName(QStringLiteral("DeskProgress"));
@@ -73,6 +75,7 @@ FrmDesk::FrmDesk(Engine& engine, Dialogs& dialogs, RunCommand run)
   ConnectFinder();
   ConnectSide();
   AddShortcuts();
+  findings_.Follow(workspace_.set);
   table_->Mirror();
   Restore();
 }
@@ -90,6 +93,7 @@ void FrmDesk::LayOut() {
   layout->addLayout(top);
   layout->addWidget(parts_, 1);
   layout->addLayout(bottom);
+  pages_->addTab(findings_page_, QString());
   pages_->addTab(languages_, QString());
   auto* side = new QWidget(parts_);
   auto* side_layout = new QVBoxLayout(side);
@@ -130,6 +134,10 @@ void FrmDesk::ConnectFinder() {
 }
 
 void FrmDesk::ConnectSide() {
+  connect(findings_page_, &FindingsPage::MessageChosen, this, &FrmDesk::GoTo);
+  connect(findings_page_, &FindingsPage::FixWanted, this, [this](const NewText& text) {
+    Run([&] { engine_.editing.ReplaceTexts({&text, 1}); });
+  });
   connect(glass_, &GlassPanel::SaveWanted, this, &FrmDesk::SavePicture);
   connect(languages_, &LanguagesPage::OpenWanted, this,
           [this](int language) { Run([&] { engine_.languages.ChooseDestination(language); }); });
@@ -146,6 +154,7 @@ void FrmDesk::AddShortcuts() {
   };
   add(Qt::CTRL | Qt::Key_F, [this] { find_bar_->Begin(); });
   add(Qt::Key_F3, [this] { finder_->GoToNext(); });
+  add(Qt::Key_F4, [this] { findings_page_->Fix(); });
   add(Qt::SHIFT | Qt::Key_F3, [this] { finder_->GoToPrevious(); });
 }
 
@@ -156,7 +165,9 @@ void FrmDesk::Mirror() {
   if (captions_ != workspace_.ui_text) {
     SetCaptions();
   }
+  findings_.Follow(workspace_.set);
   table_->Mirror();
+  findings_page_->Show(findings_.All(), workspace_.set.current_message, captions_);
   glass_->Mirror();
   languages_->Mirror();
   const std::string& status = workspace_.window.status;
@@ -176,8 +187,10 @@ void FrmDesk::SetCaptions() {
   setAccessibleName(title);
   find_bar_->SetCaptions(captions_);
   glass_->SetCaptions(captions_);
+  findings_page_->SetCaptions(captions_);
   languages_->SetCaptions(captions_);
-  pages_->setTabText(0, FromUtf8(captions_[UiTextId::kLanguages]));
+  pages_->setTabText(0, FromUtf8(captions_[UiTextId::kFindings]));
+  pages_->setTabText(1, FromUtf8(captions_[UiTextId::kLanguages]));
   for (std::size_t i = 0; i < kFilters.size(); ++i) {
     filter_->setItemText(static_cast<int>(i), FromUtf8(captions_[kFilters.at(i)]));
   }

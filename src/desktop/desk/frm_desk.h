@@ -9,10 +9,12 @@
 #include <functional>
 #include <string>
 
+#include "core/desk/live_findings.h"
 #include "core/engine.h"
 #include "desktop/desk/desk_table.h"
 #include "desktop/desk/find_bar.h"
 #include "desktop/desk/finder.h"
+#include "desktop/desk/findings_page.h"
 #include "desktop/desk/glass_panel.h"
 #include "desktop/desk/languages_page.h"
 #include "desktop/run_command.h"
@@ -60,6 +62,7 @@ class FrmDesk : public QWidget {
   Dialogs& dialogs_;
   Workspace& workspace_;
   RunCommand run_;
+  LiveFindings findings_;
   FindBar* find_bar_;
   QComboBox* filter_;
   QSplitter* parts_;
@@ -67,6 +70,7 @@ class FrmDesk : public QWidget {
   Finder* finder_;
   GlassPanel* glass_;
   QTabWidget* pages_;
+  FindingsPage* findings_page_;
   LanguagesPage* languages_;
   QLabel* status_;
   QLabel* progress_;

@@ -2,6 +2,7 @@
 
 #include <fmt/format.h>
 
+#include "core/desk/finding_text.h"
 #include "core/document/alphabet.h"
 #include "desktop/qt_text.h"
 
@@ -14,6 +15,8 @@ constexpr std::array<UiTextId, MessageTable::kColumns> kHeadings = {
 
 UiTextId WordFor(RowState state) {
   switch (state) {
+    case RowState::kFinding:
+      return UiTextId::kFinding;
     case RowState::kToDo:
       return UiTextId::kToDo;
     case RowState::kChanged:
@@ -26,12 +29,15 @@ UiTextId WordFor(RowState state) {
 
 }  // namespace
 
-MessageTable::MessageTable(const Workspace& workspace, QObject* parent)
+MessageTable::MessageTable(const Workspace& workspace, const LiveFindings& findings,
+                           QObject* parent)
     : QAbstractTableModel(parent),
       workspace_(workspace),
-      state_icons_{QIcon(QStringLiteral(":/icons/todo.svg")),
-                   QIcon(QStringLiteral(":/icons/changed.svg")),
-                   QIcon(QStringLiteral(":/icons/done.svg"))} {}
+      findings_(findings),
+      state_icons_{
+          QIcon(QStringLiteral(":/icons/finding.svg")), QIcon(QStringLiteral(":/icons/todo.svg")),
+          QIcon(QStringLiteral(":/icons/changed.svg")), QIcon(QStringLiteral(":/icons/done.svg"))} {
+}
 
 MessageTable::Source MessageTable::CurrentSource() const {
   const MessageSet& set = workspace_.set;
@@ -50,7 +56,7 @@ void MessageTable::Mirror() {
 void MessageTable::MakeList() {
   beginResetModel();
   source_ = CurrentSource();
-  messages_ = ListMessages(workspace_.set, wishes_);
+  messages_ = ListMessages(workspace_.set, findings_, wishes_);
   rows_.assign(workspace_.set.MessageCount(), -1);
   for (std::size_t row = 0; row < messages_.size(); ++row) {
     rows_[messages_[row]] = static_cast<int>(row);
@@ -121,7 +127,15 @@ QString MessageTable::TextOf(std::size_t message, int column) const {
   if (column == kCells) {
     return FromUtf8(fmt::format("{}/{}", CellsUsed(set, message), set.Width()));
   }
-  return FromUtf8(workspace_.ui_text[WordFor(StateOf(set, message))]);
+  return FromUtf8(workspace_.ui_text[WordFor(StateOf(set, findings_, message))]);
+}
+
+QString MessageTable::FindingsOf(std::size_t message) const {
+  QStringList sentences;
+  for (const Finding& finding : findings_.Of(message)) {
+    sentences += FromUtf8(SentenceOf(finding, workspace_.ui_text));
+  }
+  return sentences.join(QLatin1Char('\n'));
 }
 
 int MessageTable::rowCount(const QModelIndex& parent) const {
@@ -139,8 +153,11 @@ QVariant MessageTable::data(const QModelIndex& index, int role) const {
       return TextOf(message, index.column());
     case Qt::DecorationRole:
       return index.column() == kState && workspace_.set.DestinationIsOpen()
-                 ? state_icons_.at(static_cast<std::size_t>(StateOf(workspace_.set, message)))
+                 ? state_icons_.at(
+                       static_cast<std::size_t>(StateOf(workspace_.set, findings_, message)))
                  : QVariant();
+    case Qt::ToolTipRole:
+      return index.column() == kState ? QVariant(FindingsOf(message)) : QVariant();
     case Qt::TextAlignmentRole:
       return index.column() == kNumber || index.column() == kCells
                  ? QVariant::fromValue(Qt::Alignment(Qt::AlignRight | Qt::AlignVCenter))

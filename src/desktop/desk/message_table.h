@@ -10,6 +10,7 @@
 #include <tuple>
 #include <vector>
 
+#include "core/desk/live_findings.h"
 #include "core/desk/message_list.h"
 #include "core/desk/row_state.h"
 #include "core/document/workspace.h"
@@ -28,7 +29,7 @@ class MessageTable : public QAbstractTableModel {
   enum Column { kNumber, kOrigin, kDestination, kCells, kState };
   static constexpr int kColumns = 5;
 
-  MessageTable(const Workspace& workspace, QObject* parent);
+  MessageTable(const Workspace& workspace, const LiveFindings& findings, QObject* parent);
 
   /// The document has changed.
   void Mirror();
@@ -59,9 +60,11 @@ class MessageTable : public QAbstractTableModel {
   Source CurrentSource() const;
   void MakeList();
   QString TextOf(std::size_t message, int column) const;
+  QString FindingsOf(std::size_t message) const;
 
   const Workspace& workspace_;
-  std::array<QIcon, 3> state_icons_;  // by RowState
+  const LiveFindings& findings_;
+  std::array<QIcon, 4> state_icons_;  // by RowState
   ListWishes wishes_;
   TextSearch search_;
   Source source_{};
