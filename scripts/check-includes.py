@@ -26,7 +26,15 @@ STANDS_ON = {
     "core/exchange": (*FOR_ALL, "core/document", "core/layout", "core/formats"),
     "core/compare": (*FOR_ALL, "core/document", "core/formats"),
     "core/transfer": (*FOR_ALL, "core/document", "core/layout", "core/formats"),
-    "core/desk": (*FOR_ALL, "core/document", "core/formats", "core/proof", "core/checks"),
+    "core/desk": (
+        *FOR_ALL,
+        "core/document",
+        "core/formats",
+        "core/proof",
+        "core/checks",
+        "core/exchange",
+        "core/transfer",
+    ),
     "core/presentation": (
         *FOR_ALL,
         "core/document",

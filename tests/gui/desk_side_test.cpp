@@ -26,7 +26,7 @@ class DeskSideTest : public DeskTest {
   // Shown first: a page that is hidden shows nothing new.
   QTreeWidget& Languages() {
     auto& pages = Part<QTabWidget>("DeskPages");
-    pages.setCurrentIndex(1);
+    pages.setCurrentIndex(2);
     return Part<QTreeWidget>("DeskLanguages");
   }
   QTreeWidget& Findings() { return Part<QTreeWidget>("DeskFindings"); }
@@ -111,8 +111,11 @@ class DeskSideTest : public DeskTest {
     TypeAStrayPlaceholder();
     QCOMPARE(Findings().topLevelItemCount(), 1);
     QCOMPARE(Findings().topLevelItem(0)->text(0), QStringLiteral("1"));
-    QCOMPARE(Part<QTableView>("DeskTable").model()->index(1, 4).data().toString(),
-             UiText(UiTextId::kFinding));
+    QCOMPARE(
+        Part<QTableView>("DeskTable").model()->index(1, 4).data().toString(),
+        UiText(UiTextId::kFinding) + QStringLiteral(": ") + UiText(UiTextId::kPlaceholderStray));
+    QCOMPARE(Part<QTabWidget>("DeskPages").tabText(1),
+             UiText(UiTextId::kFindings) + QStringLiteral(" (1)"));
   }
 
   void MendsAFindingByOneKeyInOneStep() {
@@ -123,6 +126,31 @@ class DeskSideTest : public DeskTest {
     QCOMPARE(desk_->Stored(1), std::string("A   "));
     desk_->program.Choose("mnuUndo");
     QCOMPARE(desk_->Stored(1), std::string("A\xFE  "));
+  }
+
+  void SaysWhatTheKeyWouldDo() {
+    OpenDesk();
+    QVERIFY(!Part<QPushButton>("DeskFix").isEnabled());
+    desk_->HScroll1().setValue(1);
+    TypeAStrayPlaceholder();
+    QVERIFY(Part<QPushButton>("DeskFix").isEnabled());
+    QCOMPARE(Part<QPushButton>("DeskFix").text(),
+             UiText(UiTextId::kPutPlaceholdersBack) + QStringLiteral(" (F4)"));
+  }
+
+  void RestoresWhatNoRuleCanMend() {
+    MesFile mes;
+    mes.names = {"Default", "ITALIANO", "ENGLISH"};
+    desk_->Open("TEST.MES", mes.Bytes());  // with numbers: "1111" is not "2111"
+    desk_->program.Choose("mnuori(1)");
+    desk_->program.Choose("mnuDes(1)");
+    desk_->program.Choose("mnuDesk");
+    QVERIFY(QTest::qWaitForWindowActive(&desk_->program.desk()));
+    desk_->Type("ABC");
+    QCOMPARE(Part<QPushButton>("DeskFix").text(),
+             UiText(UiTextId::kRestoreText) + QStringLiteral(" (F4)"));
+    QTest::keyClick(&Part<QTableView>("DeskTable"), Qt::Key_F4);
+    QCOMPARE(desk_->Stored(0), std::string("1000"));
   }
 
   void AFindingThatIsChosenShowsItsMessage() {

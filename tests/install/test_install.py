@@ -21,6 +21,8 @@ LANGUAGES = {
     + ("nederlands", "portugues", "svenska")
 }
 FONTS = {"LCD.ttf", "LCD_CY.ttf", "LCD_HBR.ttf", "LCD_KTV.ttf"}
+SAMPLES = {"FW0417AB.MES"}
+FOLDERS = {"fonts", "samples"}
 PROGRAMS = {"vendlingua", "vendlingua-cli"}
 SETTINGS = "vendlingua.ini"
 LOCALE_VARIABLES = ("LANGUAGE", "LC_ALL", "LC_MESSAGES", "LANG")
@@ -82,14 +84,16 @@ class InstallTest(unittest.TestCase):
 
 
 class TreeTest(InstallTest):
-    def test_the_program_folder_holds_programs_languages_and_fonts(self) -> None:
+    def test_the_program_folder_holds_programs_and_their_data(self) -> None:
         install(self.prefix)
-        self.assertEqual(names(self.programs), PROGRAMS | LANGUAGES | {"fonts"})
+        self.assertEqual(names(self.programs), PROGRAMS | LANGUAGES | FOLDERS)
         self.assertEqual(names(self.programs / "fonts"), FONTS)
+        self.assertEqual(names(self.programs / "samples"), SAMPLES)
 
     def test_the_build_tree_has_the_same_programs(self) -> None:
-        self.assertEqual(names(BUILD / "bin") - {SETTINGS}, PROGRAMS | LANGUAGES | {"fonts"})
+        self.assertEqual(names(BUILD / "bin") - {SETTINGS}, PROGRAMS | LANGUAGES | FOLDERS)
         self.assertEqual(names(BUILD / "bin/fonts"), FONTS)
+        self.assertEqual(names(BUILD / "bin/samples"), SAMPLES)
 
     def test_links_in_bin_lead_to_the_programs(self) -> None:
         install(self.prefix)

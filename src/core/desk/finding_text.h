@@ -11,6 +11,9 @@ namespace vendlingua {
 /// What is wrong, in the language of `ui_text`.
 std::string SentenceOf(const Finding& finding, const UiText& ui_text);
 
+/// What the fix of a finding does.
+UiTextId FixNameOf(const Finding& finding);
+
 }  // namespace vendlingua
 
 #endif  // VENDLINGUA_CORE_DESK_FINDING_TEXT_H_

@@ -1,7 +1,10 @@
 #include "core/desk/live_findings.h"
 
+#include <algorithm>
+
 #include "core/checks/language_check.h"
 #include "core/checks/language_texts.h"
+#include "core/checks/rules.h"
 #include "core/platform/errors.h"
 
 namespace vendlingua {
@@ -11,6 +14,51 @@ namespace {
 bool IsAboutMissingTranslation(const Finding& finding) {
   return finding.rule == "blank" || finding.rule == "same-as-origin";
 }
+
+int LanguageOf(const MessageSet& set) {
+  return set.phase == Phase::kDestinationUnnamed ? kNewLanguage : set.DestLang;
+}
+
+bool IsWithoutFix(const Finding& finding) { return !finding.fix; }
+
+// The text that a message had when the language was opened, for what was not wrong with it then.
+class OpenedTexts {
+ public:
+  OpenedTexts(const MessageSet& set, const CheckBasis& basis, const Rules& rules)
+      : set_(set), basis_(basis), rules_(rules) {}
+
+  void OfferTo(std::vector<Finding>& findings, std::size_t message) {
+    if (std::ranges::none_of(findings, IsWithoutFix) || !IsChanged(message)) {
+      return;
+    }
+    const auto text = set_.opened_texts[message].First(set_.Width());
+    const std::vector<Finding> before = Check().FindingsOf(message);
+    for (Finding& finding : findings) {
+      if (!finding.fix && std::ranges::find(before, finding.rule, &Finding::rule) == before.end()) {
+        finding.fix.emplace(text.begin(), text.end());
+      }
+    }
+  }
+
+ private:
+  bool IsChanged(std::size_t message) const {
+    return set_.opened_texts.size() >= set_.MessageCount() &&
+           set_.opened_texts[message] != set_.DestText.at(message);
+  }
+
+  // Made when it is needed: it looks at the whole language first.
+  const LanguageCheck& Check() {
+    if (!check_) {
+      check_.emplace(basis_, LanguageOf(set_), set_.opened_texts, set_.MessageCount(), rules_);
+    }
+    return *check_;
+  }
+
+  const MessageSet& set_;
+  const CheckBasis& basis_;
+  const Rules& rules_;
+  std::optional<LanguageCheck> check_;
+};
 
 }  // namespace
 
@@ -62,11 +110,12 @@ void LiveFindings::Begin(const MessageSet& set) {
 void LiveFindings::LookAt(const MessageSet& set, const std::vector<std::size_t>& messages) {
   const bool is_new = set.phase == Phase::kDestinationUnnamed;
   const Rules rules = is_new ? ChosenRules({}, {"language-name"}) : AllRules();
-  const LanguageCheck check(*basis_, is_new ? kNewLanguage : set.DestLang, set.DestText,
-                            set.MessageCount(), rules);
+  const LanguageCheck check(*basis_, LanguageOf(set), set.DestText, set.MessageCount(), rules);
+  OpenedTexts opened_texts(set, *basis_, rules);
   for (const std::size_t message : messages) {
     findings_[message] = check.FindingsOf(message);
     std::erase_if(findings_[message], IsAboutMissingTranslation);
+    opened_texts.OfferTo(findings_[message], message);
   }
   seen_.assign(set.DestText.begin(),
                set.DestText.begin() + static_cast<std::ptrdiff_t>(set.MessageCount()));

@@ -14,7 +14,8 @@
 namespace vendlingua {
 
 /// What the checks find in the destination while it is edited. Nothing in a file whose languages
-/// cannot all be read.
+/// cannot all be read. What no rule can mend is mended by the text that the message had when the
+/// language was opened, if nothing was wrong with that.
 class LiveFindings {
  public:
   /// Looks at the document again: at what was edited since the last time, or at all of it when

@@ -39,23 +39,22 @@ std::string InCapitals(std::string_view name) {
   return ToUtf8(Trim(codes));
 }
 
-// Empty when the name is not known.
-std::string KnownTag(std::string_view name) {
+bool IsLetter(char c) { return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z'); }
+bool IsDigit(char c) { return c >= '0' && c <= '9'; }
+
+}  // namespace
+
+std::string LanguageTagOf(std::string_view name) {
   const auto* const found = std::find_if(
       kNames.begin(), kNames.end(),
       [capitals = InCapitals(name)](const auto& known) { return known.first == capitals; });
   return found == kNames.end() ? std::string() : std::string(found->second);
 }
 
-bool IsLetter(char c) { return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z'); }
-bool IsDigit(char c) { return c >= '0' && c <= '9'; }
-
-}  // namespace
-
 std::vector<std::string> LanguageTags(const MessageSet& set) {
   std::vector<std::string> tags = {"it"};
   for (std::size_t language = 1; language < set.language_names.size(); ++language) {
-    std::string tag = KnownTag(set.language_names[language]);
+    std::string tag = LanguageTagOf(set.language_names[language]);
     if (tag.empty() || std::find(tags.begin() + 1, tags.end(), tag) != tags.end()) {
       tag += (tag.empty() ? "x-lang" : "-x-lang") + std::to_string(language);
     }

@@ -15,6 +15,9 @@ namespace vendlingua {
 /// own Italian.
 std::vector<std::string> LanguageTags(const MessageSet& set);
 
+/// The tag of a language by one of its names, whatever its case; empty when it is not known.
+std::string LanguageTagOf(std::string_view name);
+
 /// Whether `tag` has the form of a language tag.
 bool IsLanguageTag(std::string_view tag);
 

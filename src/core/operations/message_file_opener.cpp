@@ -8,6 +8,18 @@
 
 namespace vendlingua {
 
+std::filesystem::path AskForMessageFile(Dialogs& dialogs, const std::filesystem::path& folder) {
+  const auto path = dialogs.OpenFile({.purpose = FilePurpose::kOpenMessages,
+                                      .title = "",
+                                      .initial_name = "",
+                                      .default_extension = "",
+                                      .filters = {{"Message", "MES"}, {"Message", "MSX"}},
+                                      .must_exist = true,
+                                      .folder = folder});
+  return path == "*.MES" || path == "*.MSX" ? std::filesystem::path()
+                                            : path.value_or(std::filesystem::path());
+}
+
 MessageFileOpener::MessageFileOpener(Workspace& workspace, Dialogs& dialogs,
                                      MessageFileReader& reader, MessageFileWriter& writer,
                                      SourceImport& import)
@@ -18,7 +30,7 @@ OpenOutcome MessageFileOpener::Open() {
     return OpenOutcome::kCancelled;
   }
   workspace_.folders.current = workspace_.folders.program;
-  const std::filesystem::path path = AskPath();
+  const std::filesystem::path path = AskForMessageFile(dialogs_, workspace_.folders.current);
   if (path.empty()) {
     return OpenOutcome::kCancelled;
   }
@@ -53,19 +65,6 @@ OpenOutcome MessageFileOpener::OpenPath(const std::filesystem::path& path,
   }
   rollback.Keep();
   return opened ? OpenOutcome::kOpened : OpenOutcome::kRefused;
-}
-
-// Empty when nothing was chosen.
-std::filesystem::path MessageFileOpener::AskPath() {
-  const auto path = dialogs_.OpenFile({.purpose = FilePurpose::kOpenMessages,
-                                       .title = "",
-                                       .initial_name = "",
-                                       .default_extension = "",
-                                       .filters = {{"Message", "MES"}, {"Message", "MSX"}},
-                                       .must_exist = true,
-                                       .folder = workspace_.folders.current});
-  return path == "*.MES" || path == "*.MSX" ? std::filesystem::path()
-                                            : path.value_or(std::filesystem::path());
 }
 
 bool MessageFileOpener::OpenMesFile() {

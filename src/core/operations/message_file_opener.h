@@ -19,6 +19,9 @@ enum class OpenOutcome {
   kRefused,    ///< the user was told why, or stopped an import: no language can be chosen
 };
 
+/// Asks for a message file, starting in `folder`. Empty when none was chosen.
+std::filesystem::path AskForMessageFile(Dialogs& dialogs, const std::filesystem::path& folder);
+
 /// Menu File, Open: one door for ".MSX" files, ".MES" files and assembler sources.
 class MessageFileOpener {
  public:
@@ -33,7 +36,6 @@ class MessageFileOpener {
   OpenOutcome Import(const std::filesystem::path& path);
 
  private:
-  std::filesystem::path AskPath();
   OpenOutcome OpenPath(const std::filesystem::path& path, const std::string& type);
   bool OpenMesFile();
 

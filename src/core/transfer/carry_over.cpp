@@ -80,7 +80,8 @@ class Carrier {
   }
 
   CarriedMessage Suggest(const DisplayText& reference, const DisplayText& start) const {
-    const auto similar = memory_.SimilarTo(reference);
+    const auto similar = task_.looks_for_similar ? memory_.SimilarTo(reference)
+                                                 : std::vector<TranslationMemory::Similar>();
     if (similar.empty()) {
       return {CarryResult::kNone, start, {}, {}, 0};
     }

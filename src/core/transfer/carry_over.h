@@ -29,11 +29,12 @@ struct CarriedMessage {
 
 /// The texts that a language is carried over by. All of a file have one text a message.
 struct CarryTask {
-  std::size_t width = 0;         ///< cells of a message
-  MessageTexts origin;           ///< whose placeholders the board fills
-  MessageTexts reference;        ///< what messages are known by
-  MessageTexts older_reference;  ///< the same of the older file
-  MessageTexts older_texts;      ///< the older file's translations
+  std::size_t width = 0;          ///< cells of a message
+  MessageTexts origin;            ///< whose placeholders the board fills
+  MessageTexts reference;         ///< what messages are known by
+  MessageTexts older_reference;   ///< the same of the older file
+  MessageTexts older_texts;       ///< the older file's translations
+  bool looks_for_similar = true;  ///< nothing is suggested otherwise, which is much faster
 };
 
 /// Carries a language over into a file that does not have it yet. A message that is the same as an

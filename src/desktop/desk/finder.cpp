@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "core/desk/replacement.h"
 #include "core/document/alphabet.h"
 #include "core/platform/errors.h"
 #include "core/texts/ui_sentence.h"
@@ -78,13 +79,12 @@ DisplayCodes Finder::CodesFor(const QString& text) const {
   return drawn.codes;
 }
 
-std::vector<ReplacedText> Finder::PlanReplacement() const {
+Preview Finder::ReplacementPreview() const {
   const MessageSet& set = workspace_.set;
-  std::vector<ReplacedText> plan;
-  if (!set.DestinationIsOpen()) {
-    return plan;
-  }
-  for (const std::size_t message : messages_.messages()) {
+  Preview preview{.title = UiTextId::kReplace, .accept = UiTextId::kReplace};
+  const auto& messages = messages_.messages();
+  for (const std::size_t message :
+       set.DestinationIsOpen() ? messages : std::vector<std::size_t>()) {
     const CellText text(set, message);
     std::vector<Replacement> replacements;
     for (const auto& hit :
@@ -92,10 +92,16 @@ std::vector<ReplacedText> Finder::PlanReplacement() const {
       replacements.push_back({hit.range, CodesFor(hit.by)});
     }
     if (!replacements.empty()) {
-      plan.push_back({message, text.Text(), WithReplacements(text, replacements)});
+      preview.rows.push_back(
+          {message, text.Text(), WithReplacements(text, replacements), QString()});
     }
   }
-  return plan;
+  const auto fitting = std::ranges::count_if(
+      preview.rows, [](const PreviewRow& row) { return row.after.has_value(); });
+  const auto others = static_cast<std::ptrdiff_t>(preview.rows.size()) - fitting;
+  preview.summary =
+      FromUtf8(UiSentence(UiTextId::kReplacePreview, fitting, others).In(workspace_.ui_text));
+  return preview;
 }
 
 }  // namespace vendlingua

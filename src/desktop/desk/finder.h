@@ -3,22 +3,14 @@
 
 #include <QObject>
 #include <cstddef>
-#include <optional>
 #include <vector>
 
-#include "core/desk/replacement.h"
 #include "core/document/workspace.h"
 #include "desktop/desk/find_bar.h"
 #include "desktop/desk/message_table.h"
+#include "desktop/desk/preview_dialog.h"
 
 namespace vendlingua {
-
-/// A text before and after it was replaced in; nothing when that does not fit.
-struct ReplacedText {
-  std::size_t message;
-  DisplayCodes before;
-  std::optional<DisplayCodes> after;
-};
 
 /// Finds what the find bar asks for among the messages of the table.
 class Finder : public QObject {
@@ -33,7 +25,7 @@ class Finder : public QObject {
 
   /// What replacing every hit in the destination would make of the listed messages. Throws Error
   /// when the display lacks a character of the new text.
-  std::vector<ReplacedText> PlanReplacement() const;
+  Preview ReplacementPreview() const;
 
  signals:
   void Found(std::size_t message);

@@ -33,9 +33,8 @@ FindingsPage::FindingsPage(QWidget* parent)
   layout->addWidget(list_, 1);
   layout->addWidget(fix_, 0, Qt::AlignLeft);
   connect(list_, &QTreeWidget::currentItemChanged, this, [this] {
-    const Finding* finding = Current();
-    fix_->setEnabled(finding != nullptr && finding->fix);
-    if (finding != nullptr) {
+    OfferFix();
+    if (const Finding* finding = Current()) {
       emit MessageChosen(finding->message);
     }
   });
@@ -46,34 +45,41 @@ void FindingsPage::SetCaptions(const UiText& ui_text) {
   list_->setHeaderLabels(
       {FromUtf8(ui_text[UiTextId::kNumber]), FromUtf8(ui_text[UiTextId::kFinding])});
   list_->setAccessibleName(FromUtf8(ui_text[UiTextId::kFindings]));
-  fix_->setText(FromUtf8(ui_text[UiTextId::kFix]) + QStringLiteral(" (F4)"));
+  ui_text_ = ui_text;
   shown_.clear();
+  list_->clear();
 }
 
-void FindingsPage::Show(const std::vector<Finding>& findings, std::size_t current,
-                        const UiText& ui_text) {
+void FindingsPage::Show(const std::vector<Finding>& findings, std::size_t current) {
   const QSignalBlocker blocker(list_);
   if (list_->topLevelItemCount() == 0 || !std::ranges::equal(findings, shown_, SameFinding)) {
     shown_ = findings;
-    ShowRows(ui_text);
+    ShowRows();
   }
   Choose(current);
-  const Finding* finding = Current();
-  fix_->setEnabled(finding != nullptr && finding->fix);
+  OfferFix();
 }
 
-void FindingsPage::ShowRows(const UiText& ui_text) {
+void FindingsPage::OfferFix() {
+  const Finding* finding = Current();
+  const bool has_fix = finding != nullptr && finding->fix;
+  const UiTextId name = has_fix ? FixNameOf(*finding) : UiTextId::kFix;
+  fix_->setText(FromUtf8(ui_text_[name]) + QStringLiteral(" (F4)"));
+  fix_->setEnabled(has_fix);
+}
+
+void FindingsPage::ShowRows() {
   list_->clear();
   QList<QTreeWidgetItem*> rows;
+  const QIcon needs_work(QStringLiteral(":/icons/finding.svg"));
+  const QIcon note(QStringLiteral(":/icons/note.svg"));
   for (const Finding& finding : shown_) {
     auto* row = new QTreeWidgetItem;
-    const QString sentence = FromUtf8(SentenceOf(finding, ui_text));
+    const QString sentence = FromUtf8(SentenceOf(finding, ui_text_));
     row->setText(kNumberColumn, QString::number(finding.message));
     row->setText(kFindingColumn, sentence);
     row->setToolTip(kFindingColumn, sentence);
-    if (finding.severity != Severity::kNote) {
-      row->setIcon(kNumberColumn, QIcon(QStringLiteral(":/icons/finding.svg")));
-    }
+    row->setIcon(kNumberColumn, finding.severity == Severity::kNote ? note : needs_work);
     rows.append(row);
   }
   list_->addTopLevelItems(rows);

@@ -21,8 +21,9 @@ class FindingsPage : public QWidget {
  public:
   explicit FindingsPage(QWidget* parent);
 
-  /// Shows `findings`, and chooses the first one of message `current`.
-  void Show(const std::vector<Finding>& findings, std::size_t current, const UiText& ui_text);
+  /// Shows `findings`, and chooses the first one of message `current` that has a fix, or the first
+  /// of all.
+  void Show(const std::vector<Finding>& findings, std::size_t current);
   void SetCaptions(const UiText& ui_text);
 
   /// Mends the finding that is chosen.
@@ -33,13 +34,15 @@ class FindingsPage : public QWidget {
   void FixWanted(const NewText& text);
 
  private:
-  void ShowRows(const UiText& ui_text);
+  void ShowRows();
+  void OfferFix();
   void Choose(std::size_t message);
   const Finding* Current() const;
 
   QTreeWidget* list_;
   QPushButton* fix_;
   std::vector<Finding> shown_;
+  UiText ui_text_;
 };
 
 }  // namespace vendlingua

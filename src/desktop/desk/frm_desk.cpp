@@ -13,18 +13,16 @@
 
 #include "core/desk/message_list.h"
 #include "core/desk/row_state.h"
-#include "core/operations/rename_language.h"
-#include "core/platform/errors.h"
-#include "core/platform/files.h"
 #include "core/texts/ui_sentence.h"
 #include "desktop/announce.h"
-#include "desktop/desk/replace_dialog.h"
+#include "desktop/desk/preview_dialog.h"
 #include "desktop/qt_text.h"
 
 namespace vendlingua {
 namespace {
 
-constexpr QSize kFirstSize(1000, 640);
+constexpr QSize kFirstSize(1080, 680);
+constexpr int kSuggestionKeys = 9;
 
 // By MessageFilter.
 constexpr std::array<UiTextId, 4> kFilters = {UiTextId::kAllMessages, UiTextId::kToDo,
@@ -33,7 +31,6 @@ constexpr std::array<UiTextId, 4> kFilters = {UiTextId::kAllMessages, UiTextId::
 QString WindowKey() { return QStringLiteral("window"); }
 QString ColumnsKey() { return QStringLiteral("columns"); }
 QString PartsKey() { return QStringLiteral("parts"); }
-QString BacklightKey() { return QStringLiteral("backlight"); }
 QString FilterKey() { return QStringLiteral("filter"); }
 
 // The user's own settings of this window, beside those that the program keeps in its settings file.
@@ -55,15 +52,11 @@ FrmDesk::FrmDesk(Engine& engine, Dialogs& dialogs, RunCommand run)
       parts_(new QSplitter(this)),
       table_(new DeskTable(workspace_, findings_, parts_)),
       finder_(new Finder(workspace_, *find_bar_, table_->messages())),
-      glass_(new GlassPanel(workspace_, this)),
-      pages_(new QTabWidget(this)),
-      findings_page_(new FindingsPage(pages_)),
-      languages_(new LanguagesPage(workspace_, pages_)),
+      side_(new DeskSide(engine, dialogs, findings_, run_, parts_)),
       status_(new QLabel(this)),
       progress_(new QLabel(this)) {
   setObjectName(QStringLiteral("FrmDesk"));
   setWindowIcon(QIcon(QStringLiteral(":/icons/vendlingua.svg")));
-  pages_->setObjectName(QStringLiteral("DeskPages"));
   filter_->setObjectName(QStringLiteral("DeskFilter"));
   status_->setObjectName(QStringLiteral("DeskStatus"));
   progress_->setObjectName(QStringLiteral("DeskProgress"));
@@ -73,7 +66,6 @@ FrmDesk::FrmDesk(Engine& engine, Dialogs& dialogs, RunCommand run)
   LayOut();
   ConnectTable();
   ConnectFinder();
-  ConnectSide();
   AddShortcuts();
   findings_.Follow(workspace_.set);
   table_->Mirror();
@@ -93,13 +85,6 @@ void FrmDesk::LayOut() {
   layout->addLayout(top);
   layout->addWidget(parts_, 1);
   layout->addLayout(bottom);
-  pages_->addTab(findings_page_, QString());
-  pages_->addTab(languages_, QString());
-  auto* side = new QWidget(parts_);
-  auto* side_layout = new QVBoxLayout(side);
-  side_layout->setContentsMargins(0, 0, 0, 0);
-  side_layout->addWidget(glass_);
-  side_layout->addWidget(pages_, 1);
   parts_->setChildrenCollapsible(false);
   parts_->setStretchFactor(0, 1);
   table_->setFocus();
@@ -133,20 +118,6 @@ void FrmDesk::ConnectFinder() {
   connect(find_bar_, &FindBar::Left, this, [this] { table_->setFocus(); });
 }
 
-void FrmDesk::ConnectSide() {
-  connect(findings_page_, &FindingsPage::MessageChosen, this, &FrmDesk::GoTo);
-  connect(findings_page_, &FindingsPage::FixWanted, this, [this](const NewText& text) {
-    Run([&] { engine_.editing.ReplaceTexts({&text, 1}); });
-  });
-  connect(glass_, &GlassPanel::SaveWanted, this, &FrmDesk::SavePicture);
-  connect(languages_, &LanguagesPage::OpenWanted, this,
-          [this](int language) { Run([&] { engine_.languages.ChooseDestination(language); }); });
-  connect(languages_, &LanguagesPage::NewWanted, this,
-          [this](int language) { Run([&] { engine_.languages.StartNewLanguage(language); }); });
-  connect(languages_, &LanguagesPage::RenameWanted, this,
-          [this](int language) { Run([&] { RenameLanguage(workspace_, dialogs_, language); }); });
-}
-
 void FrmDesk::AddShortcuts() {
   const auto add = [this](QKeyCombination key, auto&& command) {
     auto* shortcut = new QShortcut(QKeySequence(key), this);
@@ -154,8 +125,12 @@ void FrmDesk::AddShortcuts() {
   };
   add(Qt::CTRL | Qt::Key_F, [this] { find_bar_->Begin(); });
   add(Qt::Key_F3, [this] { finder_->GoToNext(); });
-  add(Qt::Key_F4, [this] { findings_page_->Fix(); });
   add(Qt::SHIFT | Qt::Key_F3, [this] { finder_->GoToPrevious(); });
+  add(Qt::Key_F4, [this] { side_->Fix(); });
+  for (int row = 0; row < kSuggestionKeys; ++row) {
+    add(QKeyCombination(Qt::CTRL, static_cast<Qt::Key>(Qt::Key_1 + row)),
+        [this, row] { side_->TakeSuggestion(row); });
+  }
 }
 
 void FrmDesk::Mirror() {
@@ -167,9 +142,7 @@ void FrmDesk::Mirror() {
   }
   findings_.Follow(workspace_.set);
   table_->Mirror();
-  findings_page_->Show(findings_.All(), workspace_.set.current_message, captions_);
-  glass_->Mirror();
-  languages_->Mirror();
+  side_->Mirror();
   const std::string& status = workspace_.window.status;
   status_->setText(FromUtf8(status));
   status_->setToolTip(PlainToolTip(FromUtf8(status)));
@@ -186,11 +159,7 @@ void FrmDesk::SetCaptions() {
   setWindowTitle(title);
   setAccessibleName(title);
   find_bar_->SetCaptions(captions_);
-  glass_->SetCaptions(captions_);
-  findings_page_->SetCaptions(captions_);
-  languages_->SetCaptions(captions_);
-  pages_->setTabText(0, FromUtf8(captions_[UiTextId::kFindings]));
-  pages_->setTabText(1, FromUtf8(captions_[UiTextId::kLanguages]));
+  side_->SetCaptions(captions_);
   for (std::size_t i = 0; i < kFilters.size(); ++i) {
     filter_->setItemText(static_cast<int>(i), FromUtf8(captions_[kFilters.at(i)]));
   }
@@ -205,7 +174,7 @@ void FrmDesk::Restore() {
   restoreGeometry(settings.value(WindowKey()).toByteArray());
   table_->horizontalHeader()->restoreState(settings.value(ColumnsKey()).toByteArray());
   parts_->restoreState(settings.value(PartsKey()).toByteArray());
-  glass_->SetBacklight(settings.value(BacklightKey()).toInt());
+  side_->Restore(settings);
   filter_->setCurrentIndex(
       qBound(0, settings.value(FilterKey()).toInt(), static_cast<int>(kFilters.size()) - 1));
 }
@@ -215,7 +184,7 @@ void FrmDesk::Store() const {
   settings.setValue(WindowKey(), saveGeometry());
   settings.setValue(ColumnsKey(), table_->horizontalHeader()->saveState());
   settings.setValue(PartsKey(), parts_->saveState());
-  settings.setValue(BacklightKey(), glass_->backlight());
+  side_->Store(settings);
   settings.setValue(FilterKey(), filter_->currentIndex());
 }
 
@@ -245,33 +214,9 @@ void FrmDesk::Filter(int filter) {
 
 void FrmDesk::Replace() {
   Run([&] {
-    const std::vector<ReplacedText> plan = finder_->PlanReplacement();
-    if (ReplaceDialog(workspace_, plan, this).exec() != QDialog::Accepted) {
-      return;
-    }
-    std::vector<NewText> texts;
-    for (const ReplacedText& text : plan) {
-      if (text.after) {
-        texts.push_back({text.message, *text.after});
-      }
-    }
-    engine_.editing.ReplaceTexts(texts);
-  });
-}
-
-void FrmDesk::SavePicture(const QByteArray& png) {
-  Run([&] {
-    const UiText& ui_text = workspace_.ui_text;
-    const auto path = dialogs_.SaveFile({.purpose = FilePurpose::kPicture,
-                                         .title = "",
-                                         .initial_name = "",
-                                         .default_extension = "png",
-                                         .filters = {{ui_text[UiTextId::kPngPictures], "png"}},
-                                         .overwrite_prompt = true,
-                                         .folder = workspace_.folders.current});
-    if (path) {
-      WriteFile(*path, png.toStdString());
-      workspace_.window.status = ui_text[UiTextId::kSaved] + " " + PathText(path->filename());
+    PreviewDialog dialog(workspace_, finder_->ReplacementPreview(), this);
+    if (dialog.exec() == QDialog::Accepted) {
+      engine_.editing.ReplaceTexts(dialog.Texts());
     }
   });
 }

@@ -4,19 +4,16 @@
 #include <QComboBox>
 #include <QLabel>
 #include <QSplitter>
-#include <QTabWidget>
 #include <QWidget>
 #include <functional>
 #include <string>
 
 #include "core/desk/live_findings.h"
 #include "core/engine.h"
+#include "desktop/desk/desk_side.h"
 #include "desktop/desk/desk_table.h"
 #include "desktop/desk/find_bar.h"
 #include "desktop/desk/finder.h"
-#include "desktop/desk/findings_page.h"
-#include "desktop/desk/glass_panel.h"
-#include "desktop/desk/languages_page.h"
 #include "desktop/run_command.h"
 
 namespace vendlingua {
@@ -44,7 +41,6 @@ class FrmDesk : public QWidget {
   void LayOut();
   void ConnectTable();
   void ConnectFinder();
-  void ConnectSide();
   void AddShortcuts();
   void SetCaptions();
   void Restore();
@@ -54,7 +50,6 @@ class FrmDesk : public QWidget {
   void GoToNextToDo();
   void Filter(int filter);
   void Replace();
-  void SavePicture(const QByteArray& png);
   void Tell(const std::string& status);
   void Run(const std::function<void()>& command) { run_(command, *this); }
 
@@ -68,10 +63,7 @@ class FrmDesk : public QWidget {
   QSplitter* parts_;
   DeskTable* table_;
   Finder* finder_;
-  GlassPanel* glass_;
-  QTabWidget* pages_;
-  FindingsPage* findings_page_;
-  LanguagesPage* languages_;
+  DeskSide* side_;
   QLabel* status_;
   QLabel* progress_;
   UiText captions_;

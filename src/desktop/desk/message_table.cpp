@@ -2,6 +2,8 @@
 
 #include <fmt/format.h>
 
+#include <algorithm>
+
 #include "core/desk/finding_text.h"
 #include "core/document/alphabet.h"
 #include "desktop/qt_text.h"
@@ -127,7 +129,18 @@ QString MessageTable::TextOf(std::size_t message, int column) const {
   if (column == kCells) {
     return FromUtf8(fmt::format("{}/{}", CellsUsed(set, message), set.Width()));
   }
-  return FromUtf8(workspace_.ui_text[WordFor(StateOf(set, findings_, message))]);
+  return StateTextOf(message);
+}
+
+QString MessageTable::StateTextOf(std::size_t message) const {
+  const RowState state = StateOf(workspace_.set, findings_, message);
+  const QString word = FromUtf8(workspace_.ui_text[WordFor(state)]);
+  if (state != RowState::kFinding) {
+    return word;
+  }
+  const auto& findings = findings_.Of(message);
+  const auto urgent = std::ranges::min_element(findings, {}, &Finding::severity);
+  return QStringLiteral("%1: %2").arg(word, FromUtf8(SentenceOf(*urgent, workspace_.ui_text)));
 }
 
 QString MessageTable::FindingsOf(std::size_t message) const {

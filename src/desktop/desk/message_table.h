@@ -60,6 +60,7 @@ class MessageTable : public QAbstractTableModel {
   Source CurrentSource() const;
   void MakeList();
   QString TextOf(std::size_t message, int column) const;
+  QString StateTextOf(std::size_t message) const;
   QString FindingsOf(std::size_t message) const;
 
   const Workspace& workspace_;

@@ -35,5 +35,20 @@ TEST(SentenceOf, EveryRuleHasAnother) {
   }
 }
 
+TEST(FixNameOf, SaysWhatTheRuleWouldDo) {
+  Finding finding;
+  finding.rule = "placeholder-lost";
+  EXPECT_EQ(FixNameOf(finding), UiTextId::kPutPlaceholdersBack);
+  finding.rule = "alignment";
+  EXPECT_EQ(FixNameOf(finding), UiTextId::kAlignAsOrigin);
+}
+
+// Their fix can only be the text that the message had before.
+TEST(FixNameOf, IsToRestoreWhereTheRuleHasNoFix) {
+  Finding finding;
+  finding.rule = "number-missing";
+  EXPECT_EQ(FixNameOf(finding), UiTextId::kRestoreText);
+}
+
 }  // namespace
 }  // namespace vendlingua

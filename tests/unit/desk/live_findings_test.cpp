@@ -12,7 +12,7 @@
 namespace vendlingua::test {
 namespace {
 
-// In message 2 the board fills the second cell.
+// Message 1 holds a number, "7", in message 2 the board fills the second cell.
 class LiveFindingsTest : public EngineTest {
  protected:
   LiveFindingsTest() {
@@ -24,7 +24,11 @@ class LiveFindingsTest : public EngineTest {
       content_.replace(content_.find(text), text.size(),
                        text.substr(0, 1) + "\xFE" + text.substr(2));
     }
-    Open("TEST.MES", Lettered(content_));
+    content_ = Lettered(content_);
+    for (const char* text : {"ABBB", "BBBB", "CBBB"}) {
+      content_.replace(content_.find(text) + 1, 2, " 7");
+    }
+    Open("TEST.MES", content_);
   }
 
   MessageSet& set() { return engine_.workspace.set; }
@@ -75,6 +79,24 @@ TEST_F(LiveFindingsTest, AFindingKnowsItsFix) {
   const auto fix = findings_.Of(0).front().fix;
   ASSERT_TRUE(fix.has_value());
   EXPECT_EQ(*fix, Codes("A   "));
+}
+
+TEST_F(LiveFindingsTest, TheTextThatWasOpenedMendsWhatNoRuleCan) {
+  Edit();
+  EXPECT_FALSE(Finds(1, "number-missing"));
+  set().SetText(1, Codes("DDDD"));
+  ASSERT_TRUE(Finds(1, "number-missing"));
+  const auto fix = findings_.Of(1).front().fix;
+  ASSERT_TRUE(fix.has_value());
+  EXPECT_EQ(*fix, Codes("C 7B"));
+}
+
+TEST_F(LiveFindingsTest, ATextThatWasWrongBeforeMendsNothing) {
+  Edit();
+  set().opened_texts[1] = TextFrom("EEEE");
+  ASSERT_TRUE(set().SetText(1, Codes("DDDD")));
+  ASSERT_TRUE(Finds(1, "number-missing"));
+  EXPECT_FALSE(findings_.Of(1).front().fix.has_value());
 }
 
 TEST_F(LiveFindingsTest, ATextThatIsToDoIsNoFinding) {

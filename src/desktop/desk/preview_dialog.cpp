@@ -1,0 +1,97 @@
+#include "desktop/desk/preview_dialog.h"
+
+#include <QDialogButtonBox>
+#include <QHeaderView>
+#include <QLabel>
+#include <QVBoxLayout>
+
+#include "desktop/fonts/display_font.h"
+#include "desktop/fonts/widget_text.h"
+#include "desktop/qt_text.h"
+
+namespace vendlingua {
+namespace {
+
+constexpr QSize kPreviewSize(640, 420);
+
+enum PreviewColumn { kMessageColumn, kBeforeColumn, kAfterColumn, kRemarkColumn };
+
+}  // namespace
+
+PreviewDialog::PreviewDialog(const Workspace& workspace, const Preview& preview, QWidget* parent)
+    : QDialog(parent),
+      ui_text_(workspace.ui_text),
+      rows_(preview.rows),
+      table_(new QTableWidget(this)) {
+  setObjectName(QStringLiteral("DeskPreview"));
+  setWindowTitle(FromUtf8(ui_text_[preview.title]).remove(QStringLiteral("...")));
+  auto* buttons = new QDialogButtonBox(this);
+  accept_ = buttons->addButton(FromUtf8(ui_text_[preview.accept]), QDialogButtonBox::AcceptRole);
+  accept_->setDefault(true);
+  buttons->addButton(FromUtf8(ui_text_[UiTextId::kCancel]), QDialogButtonBox::RejectRole);
+  connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
+  connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
+  auto* layout = new QVBoxLayout(this);
+  layout->addWidget(new QLabel(preview.summary, this));
+  layout->addWidget(table_, 1);
+  layout->addWidget(buttons);
+  Fill(preview, SpacedLikeCells(DisplayFont(workspace.set.DisplayType)));
+  accept_->setEnabled(!Texts().empty());
+  connect(table_, &QTableWidget::itemChanged, this,
+          [this] { accept_->setEnabled(!Texts().empty()); });
+  resize(kPreviewSize);
+}
+
+void PreviewDialog::Fill(const Preview& preview, const QFont& display_font) {
+  table_->setAccessibleName(windowTitle());
+  table_->setRowCount(static_cast<int>(rows_.size()));
+  QStringList headings;
+  for (const UiTextId heading : {UiTextId::kNumber, preview.before, preview.after}) {
+    headings += FromUtf8(ui_text_[heading]);
+  }
+  if (preview.remark) {
+    headings += FromUtf8(ui_text_[*preview.remark]);
+  }
+  table_->setColumnCount(static_cast<int>(headings.size()));
+  table_->setHorizontalHeaderLabels(headings);
+  table_->verticalHeader()->hide();
+  table_->setEditTriggers(QAbstractItemView::NoEditTriggers);
+  table_->setSelectionBehavior(QAbstractItemView::SelectRows);
+  table_->setTabKeyNavigation(false);
+  for (int row = 0; row < table_->rowCount(); ++row) {
+    FillRow(row, rows_[static_cast<std::size_t>(row)], display_font);
+  }
+  table_->resizeColumnsToContents();
+  table_->horizontalHeader()->setStretchLastSection(true);
+}
+
+void PreviewDialog::FillRow(int row, const PreviewRow& text, const QFont& display_font) {
+  auto* number = new QTableWidgetItem(QString::number(text.message));
+  auto* before = new QTableWidgetItem(ToWidgetText(text.before));
+  auto* after = new QTableWidgetItem(text.after ? ToWidgetText(*text.after)
+                                                : FromUtf8(ui_text_[UiTextId::kDoesNotFit]));
+  before->setFont(display_font);
+  if (text.after) {
+    after->setFont(display_font);
+    number->setCheckState(Qt::Checked);
+  }
+  table_->setItem(row, kMessageColumn, number);
+  table_->setItem(row, kBeforeColumn, before);
+  table_->setItem(row, kAfterColumn, after);
+  if (table_->columnCount() > kRemarkColumn) {
+    table_->setItem(row, kRemarkColumn, new QTableWidgetItem(text.remark));
+  }
+}
+
+std::vector<NewText> PreviewDialog::Texts() const {
+  std::vector<NewText> texts;
+  for (int row = 0; row < table_->rowCount(); ++row) {
+    const PreviewRow& text = rows_[static_cast<std::size_t>(row)];
+    if (text.after && table_->item(row, kMessageColumn)->checkState() == Qt::Checked) {
+      texts.push_back({text.message, *text.after});
+    }
+  }
+  return texts;
+}
+
+}  // namespace vendlingua
