@@ -51,6 +51,17 @@ std::string BashValues(const Command& command) {
   return cases;
 }
 
+// What fits any place of the command.
+std::string BashPlaces(const Command& command) {
+  std::vector<std::string> choices;
+  bool files = false;
+  for (const Argument& place : command.places) {
+    choices.insert(choices.end(), place.choices.begin(), place.choices.end());
+    files = files || place.values == Values::kFiles;
+  }
+  return fmt::format("; words='{}'; files={}", fmt::join(choices, " "), files ? "yes" : "''");
+}
+
 void AppendBashOptions(const Command& command, std::string& names) {
   for (const Argument& option : command.options) {
     names += (names.empty() ? "" : " ") + option.names.back();
@@ -70,8 +81,8 @@ std::string BashCompletion(const Grammar& grammar) {
     AppendBashOptions(command, options);
     commands.push_back(command.name);
     values += BashValues(command);
-    words += fmt::format("        {}) options='{}'; files={} ;;\n", command.name, options,
-                         command.places.empty() ? "''" : "yes");
+    words +=
+        fmt::format("        {}) options='{}'{} ;;\n", command.name, options, BashPlaces(command));
   }
   words +=
       fmt::format("        '') options='{}'; words='{}' ;;\n", common, fmt::join(commands, " "));

@@ -40,6 +40,10 @@ std::string FishValue(const Argument& option) {
   return "";
 }
 
+std::string FishPlace(const Argument& place) {
+  return place.values == Values::kFiles ? " -F" : FishValue(place);
+}
+
 std::string FishOptions(const Command& command, const std::string& condition) {
   std::string lines;
   for (const Argument& option : command.options) {
@@ -58,8 +62,8 @@ std::string FishCompletion(const Grammar& grammar) {
     script += fmt::format("{} -n __fish_use_subcommand -a {} -d {}\n", kComplete, command.name,
                           FishQuoted(command.description));
     script += FishOptions(command, condition);
-    if (!command.places.empty()) {
-      script += fmt::format("{}{} -F\n", kComplete, condition);
+    for (const Argument& place : command.places) {
+      script += fmt::format("{}{}{}\n", kComplete, condition, FishPlace(place));
     }
   }
   return script;

@@ -74,7 +74,7 @@ std::string ZshOptions(const Command& command, std::string_view before, std::str
 std::string ZshPlaces(const Command& command) {
   std::string specs;
   for (const Argument& place : command.places) {
-    specs += fmt::format(" '{}:{}:_files'", place.repeatable ? "*" : "", place.value);
+    specs += fmt::format(" '{}:{}:{}'", place.repeatable ? "*" : "", place.value, ZshAction(place));
   }
   return specs;
 }

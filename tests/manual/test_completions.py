@@ -72,6 +72,7 @@ class BashTest(CompletionTest):
         self.assertEqual(self.offered("put", "--display", "ka"), {"katakana"})
         self.assertEqual(self.offered("put", "--display", "=", "ka"), {"katakana"})
         self.assertEqual(self.offered("put", "--display", "="), DISPLAYS)
+        self.assertEqual(self.offered("display-type", "FW.MES", "ka"), {"katakana"})
 
     def test_files(self) -> None:
         self.assertEqual(self.offered("info", ""), {"FW.MES", "a table.csv"})
@@ -105,6 +106,7 @@ class FishTest(CompletionTest):
     def test_values_of_a_set(self) -> None:
         self.assertEqual(self.offered("vendlingua-cli texts --display "), DISPLAYS)
         self.assertEqual(self.offered("vendlingua-cli texts --display=ka"), {"--display=katakana"})
+        self.assertEqual(self.offered("vendlingua-cli display-type FW.MES ka"), {"katakana"})
 
     def test_files(self) -> None:
         self.assertEqual(self.offered("vendlingua-cli info F"), {"FW.MES"})
@@ -139,6 +141,7 @@ class ZshTest(CompletionTest):
     def test_options_with_values_of_a_set(self) -> None:
         self.assertEqual(self.completed("texts --dis\tcyr\t"), "texts|--display=cyrillic")
         self.assertEqual(self.completed("put --display ka\t"), "put|--display|katakana")
+        self.assertEqual(self.completed("display-type FW.MES ka\t"), "display-type|FW.MES|katakana")
 
     def test_files(self) -> None:
         self.assertEqual(self.completed("info F\t"), "info|FW.MES")

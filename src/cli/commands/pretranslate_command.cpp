@@ -101,11 +101,15 @@ void AddPretranslate(CLI::App& app, Session& session) {
   AddFile(*command, options->file);
   AddLanguage(*command, options->language);
   command->add_option("--from", options->from, "older message file")->required();
-  command->add_option("--from-language", options->from_language,
-                      "number or name of the language there, that of the same name if not given");
-  command->add_option("--reference", options->reference,
-                      "number or name of the language whose texts tell what is the same, 1 if not "
-                      "given");
+  command
+      ->add_option("--from-language", options->from_language,
+                   "number or name of the language there, that of the same name if not given")
+      ->type_name("LANGUAGE");
+  command
+      ->add_option("--reference", options->reference,
+                   "number or name of the language whose texts tell what is the same, 1 if not "
+                   "given")
+      ->type_name("LANGUAGE");
   AddDisplay(*command, session);
   command->add_option("--report", options->report, "table to write with a row a message");
   command->callback([&session, options] { RunPretranslate(session, *options); });

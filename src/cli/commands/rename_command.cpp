@@ -40,7 +40,9 @@ void AddRename(CLI::App& app, Session& session) {
   command->footer("Example: vendlingua-cli rename FW0417AB.MES --language 2 --name \"ENGLISH UK\"");
   command->add_option("FILE", options->file, "message file (.MES)")->required();
   AddLanguage(*command, options->language);
-  command->add_option("--name", options->name, "its new name, at most 20 characters")->required();
+  command->add_option("--name", options->name, "its new name, at most 20 characters")
+      ->required()
+      ->type_name("NAME");
   command->callback([&session, options] { RunRename(session, *options); });
 }
 
