@@ -70,6 +70,22 @@ std::vector<std::string> SRecords() {
           "S2\r\nS214\r\nX\r\n"};
 }
 
+// Two files an input.
+std::vector<std::string> FlashFiles() {
+  const std::string first = test::S2Line(0xFF8000, "aaaaITA ccccdddd") + "\r\n";
+  const std::string second = test::S2Line(0xFF8010, "ENG ffff") + "\r\n";
+  const std::string other = test::S2Line(0xFF8000, "aaxaITA cccc") + "\n";
+  const std::string nine_slots = test::S2Line(0xFF0000, "    MP0417AA    ") + "\n";
+  const std::string copy = CopyHeader("303236374141", "E9") + "\r\n" + first + second +
+                           std::string(kLastCopyLine) + "\r\n";
+  const std::string between(1, '\0');
+  std::vector<std::string> inputs = SRecords();
+  inputs.insert(inputs.end(), {first + second + between + other, copy + between + first + second,
+                               nine_slots + "\n\n" + between + first,
+                               "S1051234ABCD3C\nS30600FFFFFF01FB\n" + between + "S9030000FC\n"});
+  return inputs;
+}
+
 std::vector<std::string> Languages() {
   // A backslash and another character end each of the first two files.
   return {"Lingua=first\\n;--menu\r\n&File\r\n&Apri\r\n\\n;--menu\r\n&File\r\n&Open\r\n",
@@ -78,14 +94,18 @@ std::vector<std::string> Languages() {
 
 std::vector<std::string> CsvTables() {
   const std::string header = "message,origin,text\r\n";
-  std::string utf16 = "\xFF\xFE";
+  std::string little_endian = "\xFF\xFE";
+  std::string big_endian = "\xFE\xFF";
   for (const char c : header + "1,,\"x\"\r\n") {
-    utf16 += c;
-    utf16 += '\0';
+    little_endian.append({c, '\0'});
+    big_endian.append({'\0', c});
   }
   return {header + "0,,xþyþþz\r\n1,,new\r\n2,\"a\"\"b\",60°C\r\n",
           "\xEF\xBB\xBFmessage;origin;text\r\n0;;\"wxyz;WXYZ\"\r\n9;;x\r\n",
-          "message\torigin\ttext\n1\t\tT\xE8\n1\t\tx\n", header + "1,,\"x\r\n2,,y\r\n", utf16};
+          "message\torigin\ttext\n1\t\tT\xE8\n1\t\tx\n",
+          header + "1,,\"x\r\n2,,y\r\n",
+          little_endian,
+          big_endian};
 }
 
 std::vector<std::string> XliffTables() {
@@ -126,6 +146,7 @@ void WriteCorpus(const fs::path& folder) {
   Write(folder / "source_import", WithChoices(Sources()));
   Write(folder / "interface_language", Languages());
   Write(folder / "srecord_check", SRecords());
+  Write(folder / "flash_file", FlashFiles());
   Write(folder / "section_files", SRecords());
   Write(folder / "flash_compiler", WithChoices(both));
   Write(folder / "csv_table", CsvTables());

@@ -9,6 +9,8 @@
 namespace vendlingua {
 namespace {
 
+using Kind = TableProblem::Kind;
+
 std::optional<std::uint16_t> NumberOf(std::string_view text) {
   std::uint16_t number = 0;
   const char* const end = text.data() + text.size();
@@ -20,7 +22,6 @@ std::optional<std::uint16_t> NumberOf(std::string_view text) {
 
 void TableRows::Add(std::size_t place, std::string_view message, Texts texts,
                     TableReading& reading) {
-  using Kind = TableProblem::Kind;
   const auto number = NumberOf(message);
   if (!number) {
     reading.problems.Add(
