@@ -1,6 +1,6 @@
 #!/usr/bin/env python3
-"""Measures Vendlingua beside srec_cat and objcopy on the same bytes, and its windows beside Qt Linguist's,
-and writes docs/performance.md.
+"""Measures Vendlingua beside srec_cat and objcopy on the same bytes, beside gettext and the Translate Toolkit
+on the same texts, and its windows beside Qt Linguist's, and writes docs/performance.md.
 
 Figures of conversions are of whole processes: the median of their user + system time and the largest
 peak memory over several runs, the programs taking turns. scripts/measure.sh builds what this needs.
@@ -16,10 +16,11 @@ import statistics
 import subprocess
 import sys
 import tempfile
-from dataclasses import dataclass
 from pathlib import Path
 
 import measure_windows
+from measure_languages import measure_languages
+from measure_processes import Program, compare, run_once, table
 
 ROOT = Path(__file__).resolve().parent.parent
 PROGRAMS = ROOT / "build/bench/bin"
@@ -28,51 +29,8 @@ QT_LINGUIST = "/usr/lib/qt6/bin/linguist"
 MIB = 1 << 20
 
 
-@dataclass
-class Figure:
-    cpu_ms: float
-    peak_kib: int
-
-
-def peak_kib(command: list[str]) -> int:
-    """A process starts with the peak of the one that forked it, so a small one has to."""
-    timed = ["/usr/bin/time", "-f", "%M", *command]
-    result = subprocess.run(timed, stdout=subprocess.DEVNULL, stderr=subprocess.PIPE, text=True)
-    return int(result.stderr.split()[-1])
-
-
-def run_once(command: list[str], outputs: list[Path]) -> float:
-    """User + system time of the process in milliseconds; it finds none of its output files."""
-    for output in outputs:
-        output.unlink(missing_ok=True)
-    process = subprocess.Popen(command, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
-    _, status, usage = os.wait4(process.pid, 0)
-    process.returncode = os.waitstatus_to_exitcode(status)
-    if process.returncode != 0:
-        sys.exit(f"failed: {' '.join(command)}")
-    return 1000 * (usage.ru_utime + usage.ru_stime)
-
-
-def compare(commands: dict[str, tuple[list[str], list[Path]]], runs: int) -> dict[str, Figure]:
-    cpu_ms: dict[str, list[float]] = {name: [] for name in commands}
-    for _ in range(runs):
-        for name, (command, outputs) in commands.items():
-            cpu_ms[name].append(run_once(command, outputs))
-    return {
-        name: Figure(statistics.median(many), peak_kib(commands[name][0]))
-        for name, many in cpu_ms.items()
-    }
-
-
-def table(title: str, figures: dict[str, Figure]) -> str:
-    base = figures["vendlingua"].cpu_ms
-    rows = [f"| {title} | user + system | x Vendlingua | peak memory |", "|---|---|---|---|"]
-    for name, figure in figures.items():
-        rows.append(
-            f"| {name} | {figure.cpu_ms:.1f} ms | {figure.cpu_ms / base:.2f} "
-            f"| {figure.peak_kib / 1024:.1f} MiB |"
-        )
-    return "\n".join(rows) + "\n"
+def to_records(image: Path, records: Path) -> list[str]:
+    return ["objcopy", "-I", "binary", "-O", "srec", str(image), str(records)]
 
 
 def measure_records(folder: Path) -> str:
@@ -82,20 +40,21 @@ def measure_records(folder: Path) -> str:
     tool = str(BENCHES / "srecord_tool")
     written = compare(
         {
-            "vendlingua": ([tool, "write", str(image), str(ours)], [ours]),
-            "objcopy": (["objcopy", "-I", "binary", "-O", "srec", str(image), str(theirs)], [theirs]),
-            "srec_cat": (
-                ["srec_cat", str(image), "-binary", "-o", str(third), "-motorola"],
-                [third],
+            "vendlingua": Program([[tool, "write", str(image), str(ours)]], [ours]),
+            "objcopy": Program([to_records(image, theirs)], [theirs]),
+            "srec_cat": Program(
+                [["srec_cat", str(image), "-binary", "-o", str(third), "-motorola"]], [third]
             ),
         },
         11,
     )
     read = compare(
         {
-            "vendlingua": ([tool, "read", str(ours), str(back)], [back]),
-            "objcopy": (["objcopy", "-I", "srec", "-O", "binary", str(ours), str(back)], [back]),
-            "srec_cat": (["srec_cat", str(ours), "-o", str(back), "-binary"], [back]),
+            "vendlingua": Program([[tool, "read", str(ours), str(back)]], [back]),
+            "objcopy": Program(
+                [["objcopy", "-I", "srec", "-O", "binary", str(ours), str(back)]], [back]
+            ),
+            "srec_cat": Program([["srec_cat", str(ours), "-o", str(back), "-binary"]], [back]),
         },
         11,
     )
@@ -114,7 +73,7 @@ def measure_sizes(folder: Path) -> str:
         write = [tool, "write", str(image), str(records)]
         read = [tool, "read", str(records), str(back)]
         cpu_ms = [
-            statistics.median(run_once(command, [output]) for _ in range(11))
+            statistics.median(run_once(Program([command], [output])) for _ in range(11))
             for command, output in ((write, records), (read, back))
         ]
         rows.append(f"| {size} MiB | {cpu_ms[0]:.1f} ms | {cpu_ms[1]:.1f} ms |")
@@ -127,18 +86,17 @@ def measure_compile(folder: Path) -> str:
     )
     command = [str(PROGRAMS / "vendlingua-cli"), "compile", str(ROOT / "data/samples/FW0417AB.MES")]
     command += ["--languages", "1,2,3,4,5,6,7,8,9", "--output", str(flash), "--copy", str(copy)]
-    run_once(command, [])
+    run_once(Program([command]))
     written = [flash, copy, *folder.glob("FW0417AB.[mS]*")]
     offset = ["-offset", "-0xFF0000"]
     to_image = ["srec_cat", str(flash), *offset, "-o", str(image), "-binary"]
     subprocess.run(to_image, check=True, stderr=subprocess.DEVNULL)
     figures = compare(
         {
-            "vendlingua": (command, written),
-            "objcopy": (["objcopy", "-I", "binary", "-O", "srec", str(image), str(theirs)], [theirs]),
-            "srec_cat": (
-                ["srec_cat", str(image), "-binary", "-o", str(theirs), "-motorola"],
-                [theirs],
+            "vendlingua": Program([command], written),
+            "objcopy": Program([to_records(image, theirs)], [theirs]),
+            "srec_cat": Program(
+                [["srec_cat", str(image), "-binary", "-o", str(theirs), "-motorola"]], [theirs]
             ),
         },
         101,
@@ -174,6 +132,7 @@ def main() -> None:
     with tempfile.TemporaryDirectory() as name:
         folder = Path(name)
         parts = [measure_records(folder), measure_sizes(folder), measure_compile(folder)]
+        parts.append(measure_languages(folder, str(PROGRAMS / "vendlingua-cli")))
     parts.append(measure_engine())
     parts += [
         measure_windows.measure_starts(
