@@ -19,7 +19,7 @@ struct SectionsOptions {
 namespace fs = std::filesystem;
 
 void RefuseToReplaceInput(const fs::path& input, const fs::path& base) {
-  const std::vector<KeptFile> kept = {{input, UiTextId::kIsReadFile}};
+  const std::vector<KeptFile> kept = {{FilePlace(input), UiTextId::kIsReadFile}};
   for (const fs::path& path : SectionFiles::Paths(base)) {
     RefuseToReplace(kept, path);
   }

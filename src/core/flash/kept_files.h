@@ -4,13 +4,14 @@
 #include <filesystem>
 #include <span>
 
+#include "core/platform/same_file.h"
 #include "core/texts/ui_text_id.h"
 
 namespace vendlingua {
 
 /// A file whose place no further output of a run may take.
 struct KeptFile {
-  std::filesystem::path path;
+  FilePlace place;
   UiTextId refusal;  ///< says what it is
 };
 

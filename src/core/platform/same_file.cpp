@@ -18,9 +18,11 @@ fs::path Destination(const fs::path& file) {
 
 }  // namespace
 
-bool LeadToSameFile(const fs::path& a, const fs::path& b) {
+FilePlace::FilePlace(const fs::path& file) : file_(file), destination_(Destination(file)) {}
+
+bool FilePlace::IsSameAs(const FilePlace& other) const {
   std::error_code not_there;
-  return fs::equivalent(a, b, not_there) || Destination(a) == Destination(b);
+  return destination_ == other.destination_ || fs::equivalent(file_, other.file_, not_there);
 }
 
 }  // namespace vendlingua

@@ -5,9 +5,24 @@
 
 namespace vendlingua {
 
-/// Whether two paths lead to the same file: by another spelling, through links, or as two names of
-/// one file. A file that is still to be made is known by where its path leads.
-bool LeadToSameFile(const std::filesystem::path& a, const std::filesystem::path& b);
+/// Where a path leads: worked out once, to be compared with many. A file that is still to be made
+/// is known by where its path leads.
+class FilePlace {
+ public:
+  explicit FilePlace(const std::filesystem::path& file);
+
+  /// Whether both lead to the same file: by another spelling, through links, or as two names of one
+  /// file.
+  bool IsSameAs(const FilePlace& other) const;
+
+ private:
+  std::filesystem::path file_;
+  std::filesystem::path destination_;
+};
+
+inline bool LeadToSameFile(const std::filesystem::path& a, const std::filesystem::path& b) {
+  return FilePlace(a).IsSameAs(FilePlace(b));
+}
 
 }  // namespace vendlingua
 

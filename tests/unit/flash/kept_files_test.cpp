@@ -23,8 +23,8 @@ class KeptFilesTest : public testing::Test {
   }
 
   test::TemporaryFolder folder_;
-  std::vector<KeptFile> kept_ = {{folder_ / "READ.MES", UiTextId::kIsMessageFile},
-                                 {folder_ / "NEW.MHX", UiTextId::kIsFlashFile}};
+  std::vector<KeptFile> kept_ = {{FilePlace(folder_ / "READ.MES"), UiTextId::kIsMessageFile},
+                                 {FilePlace(folder_ / "NEW.MHX"), UiTextId::kIsFlashFile}};
 };
 
 TEST_F(KeptFilesTest, LetNothingTakeTheirPlace) {
