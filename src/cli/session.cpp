@@ -11,7 +11,7 @@
 #include "core/formats/held_messages.h"
 #include "core/formats/message_file.h"
 #include "core/operations/interface_language.h"
-#include "core/operations/rename_language.h"
+#include "core/operations/taken_names.h"
 #include "core/platform/errors.h"
 #include "core/platform/executable_folder.h"
 #include "core/platform/in_place_change.h"
