@@ -112,7 +112,7 @@ std::string NameOf(const FlashSlot& slot, const Alphabet& alphabet) {
   return slot.name.empty() ? "without a name" : alphabet.TextOf(slot.name);
 }
 
-std::string AsText(const FlashInfo& info, const std::string& path, const FlashFile& file) {
+std::string FlashInfoAsText(const FlashInfo& info, const std::string& path, const FlashFile& file) {
   std::string text = fmt::format("file: {}\ntype: {}\n", path, info.type);
   if (!info.identification.empty()) {
     text += "identification: " + info.identification + "\n";
@@ -131,7 +131,7 @@ std::string AsText(const FlashInfo& info, const std::string& path, const FlashFi
 void PrintFlashInfo(Session& session, const std::string& path, const FlashFile& file,
                     const std::optional<MessageSet>& dimensions) {
   const FlashInfo info = InfoOf(session, file, dimensions);
-  session.Print(AsJson(info, path, file), AsText(info, path, file));
+  session.Print(AsJson(info, path, file), FlashInfoAsText(info, path, file));
 }
 
 }  // namespace vendlingua::cli

@@ -34,7 +34,7 @@ const char* IconName(MessageIcon icon) {
   return "";
 }
 
-std::string AsText(const Json& json) {
+std::string AsPrinted(const Json& json) {
   return json.dump(2, ' ', false, Json::error_handler_t::replace) + "\n";
 }
 
@@ -136,7 +136,7 @@ DisplayCodes Session::CodesOf(const std::string& utf8) const {
 
 void Session::Print(const Json& json, const std::string& text) {
   has_printed_ = true;
-  std::cout << (json_output ? AsText(json) : ValidUtf8(text)) << std::flush;
+  std::cout << (json_output ? AsPrinted(json) : ValidUtf8(text)) << std::flush;
   if (!std::cout) {
     throw CommandFailed("standard output: cannot be written");
   }
@@ -153,7 +153,7 @@ void Session::Refuse(const std::string& reason) {
   if (!dialogs.messages().empty()) {
     json["notices"] = Notices();
   }
-  std::cout << AsText(json) << std::flush;
+  std::cout << AsPrinted(json) << std::flush;
 }
 
 Json Session::Notices() const {

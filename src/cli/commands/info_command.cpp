@@ -31,7 +31,7 @@ Json LanguagesAsJson(const MessageSet& set) {
   return languages;
 }
 
-std::string AsText(const Json& info) {
+std::string InfoAsText(const Json& info) {
   std::ostringstream text;
   for (const auto& [key, value] : info.items()) {
     if (key == "languages") {
@@ -70,7 +70,7 @@ void PrintMessageFile(Session& session, const InfoOptions& options) {
                      {"langStride", set.LangStride},
                      {"blockLength", static_cast<int>(set.BlockLength)},
                      {"languages", LanguagesAsJson(set)}};
-  session.Print(info, AsText(info));
+  session.Print(info, InfoAsText(info));
 }
 
 void PrintFlashFile(Session& session, const InfoOptions& options) {
@@ -92,7 +92,7 @@ bool IsForeignCopy(const std::string& path) {
   return first_line && IsCopyHeader(first_line->text) && !IsMsxHeader(first_line->text);
 }
 
-bool IsFlashFile(const InfoOptions& options) {
+bool HoldsFlashImage(const InfoOptions& options) {
   const std::string type = MessageFileType(options.file);
   if (type == kMesType) {
     return false;
@@ -107,7 +107,7 @@ bool IsFlashFile(const InfoOptions& options) {
 }
 
 void RunInfo(Session& session, const InfoOptions& options) {
-  if (IsFlashFile(options)) {
+  if (HoldsFlashImage(options)) {
     PrintFlashFile(session, options);
   } else {
     PrintMessageFile(session, options);

@@ -39,7 +39,7 @@ DisplayText InAlphabet(const DisplayText& text, const Alphabet& from, const Alph
     }
     const auto same = to.CodeOf(from.CharacterOf(code));
     if (!same || to.CharacterOf(*same) != from.CharacterOf(code)) {
-      return DisplayText();
+      return {};
     }
     code = *same;
   }

@@ -132,7 +132,7 @@ class Merge {
     std::copy(texts.begin(), texts.end(), merged_.OriginText.begin());
   }
 
-  std::vector<EditConflict> conflicts() && { return std::move(conflicts_); }
+  const std::vector<EditConflict>& conflicts() const { return conflicts_; }
 
   MessageSet Merged() && {
     merged_.file_content = content_;
@@ -204,7 +204,7 @@ std::vector<EditConflict> TakeOverChanges(MessageSet& set, const std::string& co
   merge.TakeHeader();
   merge.TakeOrigin();
   merge.TakeTexts();
-  std::vector<EditConflict> conflicts = std::move(merge).conflicts();
+  std::vector<EditConflict> conflicts = merge.conflicts();
   if (conflicts.empty()) {
     set = std::move(merge).Merged();
   }

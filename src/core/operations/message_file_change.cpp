@@ -24,6 +24,7 @@ std::string QuestionAbout(const EditConflict& conflict, const UiText& texts) {
 [[noreturn]] void RefuseConflicts(const MessageSet& set,
                                   const std::vector<EditConflict>& conflicts) {
   std::vector<std::string> places;
+  places.reserve(conflicts.size());
   for (const EditConflict& conflict : conflicts) {
     places.push_back(conflict.message ? fmt::to_string(*conflict.message) : conflict.language_name);
   }

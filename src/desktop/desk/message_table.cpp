@@ -134,7 +134,7 @@ QString MessageTable::TextOf(std::size_t message, int column) const {
 
 QString MessageTable::StateTextOf(std::size_t message) const {
   const RowState state = StateOf(workspace_.set, findings_, message);
-  const QString word = FromUtf8(workspace_.ui_text[WordFor(state)]);
+  QString word = FromUtf8(workspace_.ui_text[WordFor(state)]);
   if (state != RowState::kFinding) {
     return word;
   }
