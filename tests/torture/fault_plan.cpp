@@ -63,7 +63,7 @@ void Log(const std::string& line) {
   if (kLog.empty()) {
     return;
   }
-  static const long kFile =
+  static const auto kFile =
       syscall(SYS_openat, AT_FDCWD, kLog.c_str(), O_WRONLY | O_CREAT | O_APPEND | O_CLOEXEC, 0600);
   const std::string ended = line + "\n";
   syscall(SYS_write, kFile, ended.data(), ended.size());
@@ -73,8 +73,8 @@ Fate FateOf(std::string_view call) {
   static const std::string kKind = Setting("FAULTS_KIND");
   static const std::string kOnly = Setting("FAULTS_ONLY");
   static const bool kStays = !Setting("FAULTS_STAY").empty();
-  static const long kAt = std::atol(Setting("FAULTS_AT").c_str());
-  static long count = 0;
+  static const int kAt = std::atoi(Setting("FAULTS_AT").c_str());
+  static int count = 0;
   if (!kOnly.empty() && call != kOnly) {
     return Fate::kDone;
   }

@@ -140,26 +140,26 @@ mode_t ModeOf(int flags, va_list arguments) {
 
 extern "C" {
 
-#define OPEN(name)                                                        \
-  int name(const char* path, int flags, ...) {                            \
-    va_list arguments;                                                    \
-    va_start(arguments, flags);                                           \
-    const mode_t mode = ModeOf(flags, arguments);                         \
-    va_end(arguments);                                                    \
-    return DoOpen(AbsolutePath(AT_FDCWD, path), flags,                    \
-                  [&] { return Real(&name, #name)(path, flags, mode); }); \
+#define OPEN(name)                                                          \
+  int name(const char* path, int flags, ...) {                              \
+    va_list arguments;                                                      \
+    va_start(arguments, flags);                                             \
+    const mode_t mode = ModeOf(flags, arguments);                           \
+    va_end(arguments);                                                      \
+    return DoOpen(AbsolutePath(AT_FDCWD, path), flags,                      \
+                  [&] { return Real(&(name), #name)(path, flags, mode); }); \
   }
 OPEN(open)
 OPEN(open64)
 
-#define OPENAT(name)                                                              \
-  int name(int folder, const char* path, int flags, ...) {                        \
-    va_list arguments;                                                            \
-    va_start(arguments, flags);                                                   \
-    const mode_t mode = ModeOf(flags, arguments);                                 \
-    va_end(arguments);                                                            \
-    return DoOpen(AbsolutePath(folder, path), flags,                              \
-                  [&] { return Real(&name, #name)(folder, path, flags, mode); }); \
+#define OPENAT(name)                                                                \
+  int name(int folder, const char* path, int flags, ...) {                          \
+    va_list arguments;                                                              \
+    va_start(arguments, flags);                                                     \
+    const mode_t mode = ModeOf(flags, arguments);                                   \
+    va_end(arguments);                                                              \
+    return DoOpen(AbsolutePath(folder, path), flags,                                \
+                  [&] { return Real(&(name), #name)(folder, path, flags, mode); }); \
   }
 OPENAT(openat)
 OPENAT(openat64)
@@ -170,11 +170,11 @@ ssize_t read(int file, void* bytes, size_t size) {
   return IsInFolder(path) ? Do("read", path, "", real) : real();
 }
 
-#define PREAD(name)                                                                    \
-  ssize_t name(int file, void* bytes, size_t size, off_t position) {                   \
-    const auto real = [&] { return Real(&name, #name)(file, bytes, size, position); }; \
-    const std::string path = PathOf(file);                                             \
-    return IsInFolder(path) ? Do("pread", path, "", real) : real();                    \
+#define PREAD(name)                                                                      \
+  ssize_t name(int file, void* bytes, size_t size, off_t position) {                     \
+    const auto real = [&] { return Real(&(name), #name)(file, bytes, size, position); }; \
+    const std::string path = PathOf(file);                                               \
+    return IsInFolder(path) ? Do("pread", path, "", real) : real();                      \
   }
 PREAD(pread)
 PREAD(pread64)
@@ -185,17 +185,18 @@ ssize_t write(int file, const void* bytes, size_t size) {
                  [&](size_t part) { return Real(&write, "write")(file, bytes, part); });
 }
 
-#define PWRITE(name)                                                                              \
-  ssize_t name(int file, const void* bytes, size_t size, off_t position) {                        \
-    return DoWrite("pwrite", file, bytes, size, position,                                         \
-                   [&](size_t part) { return Real(&name, #name)(file, bytes, part, position); }); \
+#define PWRITE(name)                                                         \
+  ssize_t name(int file, const void* bytes, size_t size, off_t position) {   \
+    return DoWrite("pwrite", file, bytes, size, position, [&](size_t part) { \
+      return Real(&(name), #name)(file, bytes, part, position);              \
+    });                                                                      \
   }
 PWRITE(pwrite)
 PWRITE(pwrite64)
 
 #define FTRUNCATE(name)                                                                            \
   int name(int file, off_t length) {                                                               \
-    const auto real = [&] { return Real(&name, #name)(file, length); };                            \
+    const auto real = [&] { return Real(&(name), #name)(file, length); };                          \
     const std::string path = PathOf(file);                                                         \
     return IsInFolder(path) ? Do("ftruncate", path, "\t" + std::to_string(length), real) : real(); \
   }
@@ -204,7 +205,7 @@ FTRUNCATE(ftruncate64)
 
 #define ON_FILE(name, logged)                                      \
   int name(int file) {                                             \
-    const auto real = [&] { return Real(&name, #name)(file); };    \
+    const auto real = [&] { return Real(&(name), #name)(file); };  \
     const std::string path = PathOf(file);                         \
     return IsInFolder(path) ? Do(logged, path, "", real) : real(); \
   }
@@ -232,7 +233,7 @@ int rename(const char* from, const char* to) {
 
 #define UNLINK(name)                                                 \
   int name(const char* file) {                                       \
-    const auto real = [&] { return Real(&name, #name)(file); };      \
+    const auto real = [&] { return Real(&(name), #name)(file); };    \
     const std::string path = AbsolutePath(AT_FDCWD, file);           \
     return IsInFolder(path) ? Do("unlink", path, "", real) : real(); \
   }

@@ -117,7 +117,8 @@ TEST_F(SharedFileTest, AsksAgainAboutAChangeThatWasMadeMeanwhile) {
       if (asked++ == 0) {
         meddle();
       }
-      return std::vector(request.conflicts.size(), ConflictAnswer::kKeepMine);
+      std::vector<ConflictAnswer> answers(request.conflicts.size(), ConflictAnswer::kKeepMine);
+      return answers;
     }
     std::function<void()> meddle;
     int asked = 0;
@@ -146,7 +147,7 @@ TEST_F(SharedFileTest, IsNotWrittenWhileAConflictIsUndecided) {
 
 TEST_F(SharedFileTest, IsNotWrittenWhenItIsAnotherFileByNow) {
   Type("mine");
-  const std::string others[] = {
+  const std::vector<std::string> others = {
       base_.substr(0, 24),         base_.substr(0, 100),   "",
       MesFile{.width = 8}.Bytes(), std::string(5000, ' '), test::MsxFile(1)};
   for (const std::string& other : others) {

@@ -16,7 +16,6 @@ namespace {
 namespace fs = std::filesystem;
 using test::Codes;
 using test::MesFile;
-using testing::EndsWith;
 using testing::HasSubstr;
 using testing::IsEmpty;
 using testing::StartsWith;
