@@ -62,11 +62,11 @@ DisplayCodes InCapitals(const std::string& name) {
 
 Session::Session() : engine(dialogs) {
   engine.workspace.folders.program = ExecutableFolder();
+  engine.workspace.ui_text = EnglishTexts();
   try {
     LoadLanguageFile(engine.workspace, "english.lng");
   } catch (const FileError&) {
-    // Without the file the few boxes that take their text from it are blank; commands work all the
-    // same.
+    // The texts that are built in do as well.
   }
 }
 

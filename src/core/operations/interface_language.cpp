@@ -5,8 +5,8 @@
 #include "core/document/display_code.h"
 #include "core/formats/text_lines.h"
 #include "core/operations/settings.h"
-#include "core/platform/errors.h"
 #include "core/platform/files.h"
+#include "core/texts/reference_language.h"
 
 namespace vendlingua {
 namespace {
@@ -15,12 +15,19 @@ constexpr std::string_view kSectionMark = ";--";
 
 std::string FromFile(std::string_view line) { return ToUtf8(CodesFromBytes(line)); }
 
-std::string ReadLanguageFile(const Workspace& workspace, const std::string& file_name) {
+std::string ReadFromDisk(const Workspace& workspace, const std::string& file_name) {
   return ReadFile(LanguageFile(workspace.folders.program, file_name), kLanguageFileLimit);
 }
 
-std::string FileOf(const std::string& language) {
-  return language + std::string(kLanguageFileExtension);
+std::string ReadLanguageFile(const Workspace& workspace, const std::string& file_name) {
+  try {
+    return ReadFromDisk(workspace, file_name);
+  } catch (const FileError&) {
+    if (file_name != kReferenceLanguageFile) {
+      throw;
+    }
+    return std::string(ReferenceLanguage());
+  }
 }
 
 // As CheckLanguageFile, but a file that cannot be read leaves the texts as they were.
@@ -35,6 +42,15 @@ bool LoadIfItFits(Workspace& workspace, const std::string& current, const std::s
 }
 
 }  // namespace
+
+std::optional<FileError> DefectOf(const Workspace& workspace, const std::string& file_name) {
+  try {
+    ReadFromDisk(workspace, file_name);
+    return std::nullopt;
+  } catch (const FileError& error) {
+    return error;
+  }
+}
 
 void LoadLanguageFile(Workspace& workspace, const std::string& file_name) {
   const std::string content = ReadLanguageFile(workspace, file_name);
@@ -64,12 +80,13 @@ void ChooseInterfaceLanguage(Workspace& workspace, Dialogs& dialogs, std::size_t
   InterfaceLanguages& languages = workspace.interface_languages;
   const std::string previous = languages.names.at(languages.chosen.value_or(0));
   const std::string candidate = languages.names.at(index);
-  const bool fits = LoadIfItFits(workspace, FileOf(previous), FileOf(candidate));
+  const bool fits =
+      LoadIfItFits(workspace, LanguageFileName(previous), LanguageFileName(candidate));
   if (fits) {
     languages.chosen = index;
     workspace.LanguageName = candidate;
   } else {
-    LoadLanguageFile(workspace, FileOf(previous));
+    LoadLanguageFile(workspace, LanguageFileName(previous));
     const UiText& ui_text = workspace.ui_text;
     dialogs.MessageBox({MessageIcon::kExclamation, ui_text[UiTextId::kLanguageFileRefused],
                         ui_text[UiTextId::kLanguageFileTitle]});

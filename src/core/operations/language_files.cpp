@@ -42,6 +42,10 @@ std::vector<Language> Languages(const fs::path& folder) {
 
 }  // namespace
 
+std::string LanguageFileName(const std::string& language) {
+  return language + std::string(kLanguageFileExtension);
+}
+
 std::vector<std::string> LanguageNames(const fs::path& folder) {
   std::vector<std::string> names;
   for (const Language& language : Languages(folder)) {

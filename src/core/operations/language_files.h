@@ -11,6 +11,9 @@ namespace vendlingua {
 /// The extension of interface language files; in any case it counts.
 inline constexpr std::string_view kLanguageFileExtension = ".lng";
 
+/// The name of the file of an interface language, UTF-8.
+std::string LanguageFileName(const std::string& language);
+
 /// The names of the interface languages of `folder`: those of its files, UTF-8, less their
 /// extension, each once, in alphabetical order without regard to case. Nothing when the folder
 /// cannot be read.

@@ -3,8 +3,10 @@
 #include <algorithm>
 #include <array>
 #include <exception>
+#include <filesystem>
+#include <optional>
 #include <string_view>
-#include <vector>
+#include <utility>
 
 #include "core/operations/interface_language.h"
 #include "core/operations/language_files.h"
@@ -14,6 +16,8 @@
 
 namespace vendlingua {
 namespace {
+
+namespace fs = std::filesystem;
 
 constexpr std::array<std::string_view, kDisplayTypes> kFontNames = {"LCD", "LCD_CY", "LCD KTV",
                                                                     "LCD HBR"};
@@ -58,11 +62,12 @@ bool StartUp::Form_Load() try {
 }
 
 bool StartUp::CeckLingue() {
-  const std::vector<std::string> names = LanguageNames(workspace_.folders.current);
+  std::vector<std::string> names = LanguageNames(workspace_.folders.current);
   if (names.empty()) {
     ReportMissingFile();
     return false;
   }
+  names = UsableOf(std::move(names));
   InterfaceLanguages& languages = workspace_.interface_languages;
   languages.names = names;
   languages.names.resize(std::min(names.size(), InterfaceLanguages::kMost));
@@ -73,9 +78,33 @@ bool StartUp::CeckLingue() {
   languages.chosen =
       index < languages.names.size() && index < InterfaceLanguages::kMost - 1 ? index : 0;
   const std::string& chosen = languages.names.at(*languages.chosen);
-  LoadLanguageFile(workspace_, chosen + std::string(kLanguageFileExtension));
+  LoadLanguageFile(workspace_, LanguageFileName(chosen));
   language = chosen;
   return true;
+}
+
+std::vector<std::string> StartUp::UsableOf(std::vector<std::string> names) {
+  std::string defects;
+  const auto is_unusable = [&](const std::string& name) {
+    const std::optional<FileError> defect = DefectOf(workspace_, LanguageFileName(name));
+    defects += defect ? "\n" + defect->In(workspace_.ui_text) : "";
+    return defect.has_value();
+  };
+  const std::string reference = fs::path(kReferenceLanguageFile).stem().string();
+  is_unusable(reference);
+  names.erase(std::remove_if(
+                  names.begin(), names.end(),
+                  [&](const std::string& name) { return name != reference && is_unusable(name); }),
+              names.end());
+  if (names.empty()) {
+    names.push_back(reference);
+  }
+  if (!defects.empty()) {
+    dialogs_.MessageBox({MessageIcon::kExclamation,
+                         workspace_.ui_text[UiTextId::kLanguageFilesLeftOut] + defects,
+                         workspace_.ui_text[UiTextId::kLanguageFileTitle]});
+  }
+  return names;
 }
 
 void StartUp::ReportMissingFile() {

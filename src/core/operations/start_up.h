@@ -4,6 +4,7 @@
 #include <span>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "core/document/workspace.h"
 #include "core/platform/dialogs.h"
@@ -28,13 +29,15 @@ class StartUp {
   /// and captions the menus. False when the program has to end; the user was told why.
   bool Form_Load();
 
-  /// Lists the interface languages of the current folder and loads the one of the
-  /// settings, or the first of the list. False when there is none; the user was told. A language
-  /// listed tenth is never loaded here. Throws FileError.
+  /// Lists the interface languages of the current folder and loads the one of the settings, or the
+  /// first of the list. False when there is none; the user was told. Those that cannot be read are
+  /// left out and named; the reference is there all the same, built in. A language listed tenth is
+  /// never loaded here.
   bool CeckLingue();
 
  private:
   void ReportMissingFile();
+  std::vector<std::string> UsableOf(std::vector<std::string> names);
 
   Workspace& workspace_;
   Dialogs& dialogs_;

@@ -241,6 +241,7 @@ enum class UiTextId : std::size_t {
   kMemoryWithoutLanguages,
   kMemoryAdded,
   kSuggestionNoRoom,
+  kLanguageFilesLeftOut,
 };
 
 }  // namespace vendlingua

@@ -69,6 +69,15 @@ class StartUpTest : public testing::Test {
     return names;
   }
 
+  // One box names these files.
+  void ExpectNamed(const std::vector<std::string>& files) const {
+    ASSERT_THAT(dialogs_.messages, SizeIs(1));
+    EXPECT_EQ(dialogs_.messages.front().icon, MessageIcon::kExclamation);
+    for (const std::string& file : files) {
+      EXPECT_THAT(dialogs_.messages.front().text, testing::HasSubstr(file));
+    }
+  }
+
   bool Start() { return StartUp(workspace_, dialogs_, fonts_).Form_Load(); }
 
   std::string CheckedLanguage() const {
@@ -204,36 +213,40 @@ TEST_F(StartUpTest, EndsWithoutLanguageFiles) {
   EXPECT_EQ(dialogs_.messages.front().icon, MessageIcon::kCritical);
 }
 
-TEST_F(StartUpTest, EndsWithoutTheReferenceLanguage) {
-  AddLanguage("dansk");
-  EXPECT_FALSE(Start());
-  ASSERT_THAT(dialogs_.messages, SizeIs(1));
-  EXPECT_EQ(dialogs_.messages.front().title, "ERROR");
+TEST_F(StartUpTest, HasTheReferenceBuiltInWhereItsFileIsMissing) {
+  folder_.Write("dansk.lng", "Fil\r\n");
+  EXPECT_TRUE(Start());
+  ExpectNamed({"italiano.lng"});
+  EXPECT_THAT(Listed(), ElementsAre("dansk"));
+  EXPECT_EQ(workspace_.ui_text.Entry(1), "Fil");
+  EXPECT_EQ(workspace_.ui_text[UiTextId::kYes], "&Sì") << "what dansk lacks";
 }
 
-TEST_F(StartUpTest, EndsWhereTheReferenceLanguageIsAPipe) {
+TEST_F(StartUpTest, HasTheReferenceBuiltInWhereItsFileIsAPipe) {
   AddLanguage("dansk");
   ASSERT_EQ(mkfifo((folder_ / "italiano.lng").c_str(), 0600), 0);
-  EXPECT_FALSE(Start());
-  ASSERT_THAT(dialogs_.messages, SizeIs(1));
-  EXPECT_THAT(dialogs_.messages.front().text, testing::HasSubstr("italiano.lng"));
-}
-
-TEST_F(StartUpTest, EndsWhenItsLanguageFileCannotBeRead) {
-  AddLanguage("italiano");
-  AddOversizedLanguage("dansk");
-  EXPECT_FALSE(Start());
-  ASSERT_THAT(dialogs_.messages, SizeIs(1));
-  EXPECT_EQ(dialogs_.messages.front().title, "ERROR");
-  EXPECT_THAT(dialogs_.messages.front().text, testing::HasSubstr("dansk.lng"));
-}
-
-TEST_F(StartUpTest, GoesOnWhenAnotherLanguageFileCannotBeRead) {
-  AddLanguage("italiano");
-  AddOversizedLanguage("dansk");
-  folder_.Write("vendlingua.ini", "Lingua=italiano\r\n");
   EXPECT_TRUE(Start());
+  ExpectNamed({"italiano.lng"});
+}
+
+TEST_F(StartUpTest, LeavesOutLanguagesThatCannotBeReadAndNamesThem) {
+  AddLanguage("italiano");
+  AddLanguage("english");
+  AddOversizedLanguage("dansk");
+  AddOversizedLanguage("deutsch");
+  EXPECT_TRUE(Start());
+  ExpectNamed({"dansk.lng", "deutsch.lng"});
+  EXPECT_THAT(Listed(), ElementsAre("english", "italiano"));
+  EXPECT_EQ(CheckedLanguage(), "english");
+}
+
+TEST_F(StartUpTest, SpeaksTheReferenceWhereNoLanguageCanBeRead) {
+  AddOversizedLanguage("dansk");
+  AddOversizedLanguage("italiano");
+  EXPECT_TRUE(Start());
+  ExpectNamed({"dansk.lng", "italiano.lng"});
   EXPECT_EQ(CheckedLanguage(), "italiano");
+  EXPECT_EQ(workspace_.ui_text[UiTextId::kYes], "&Sì");
 }
 
 TEST_F(StartUpTest, TakesNoFolderForALanguage) {
