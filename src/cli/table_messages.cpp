@@ -78,6 +78,10 @@ std::string OfRow(const TableProblem& problem) {
       return fmt::format("has {} fields instead of {}", problem.number, problem.limit);
     case Kind::kFieldTooLong:
       return fmt::format("has a field of more than {} bytes", problem.limit);
+    case Kind::kTableTooLong:
+      return fmt::format(
+          "up to here the texts need more than {} bytes: no message file has so many",
+          problem.limit);
     case Kind::kNoSuchMessage:
       return fmt::format("there is no message \"{}\"", problem.text);
     case Kind::kRepeated:

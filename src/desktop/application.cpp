@@ -1,6 +1,8 @@
 #include "desktop/application.h"
 
 #include <QDebug>
+#include <QEvent>
+#include <QLabel>
 #include <QScopeGuard>
 #include <exception>
 
@@ -12,7 +14,14 @@ Application::Application(int& argc, char** argv) : QApplication(argc, argv) {
   connect(this, &Application::Failed, this, &Application::Show, Qt::QueuedConnection);
 }
 
+// A label is polished before it is shown first; tool tips, and the boxes that Qt makes by itself,
+// show their text in labels, too.
 bool Application::notify(QObject* receiver, QEvent* event) {
+  if (event->type() == QEvent::Polish) {
+    if (auto* label = qobject_cast<QLabel*>(receiver)) {
+      label->setTextFormat(Qt::PlainText);
+    }
+  }
   try {
     return QApplication::notify(receiver, event);
   } catch (const std::exception& error) {

@@ -7,7 +7,8 @@
 namespace vendlingua {
 
 /// The application object. A command shows by itself what it throws; what any other handler throws
-/// is shown here, and the program goes on: there may be edits to save.
+/// is shown here, and the program goes on: there may be edits to save. No text is markup: what
+/// labels, boxes and tool tips show may come out of files and paths.
 class Application : public QApplication {
   Q_OBJECT
 

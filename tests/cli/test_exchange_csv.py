@@ -2,11 +2,20 @@
 
 from __future__ import annotations
 
-import resource
 import subprocess
 import unittest
 
-from support import DONE, PROGRAM, REFUSED, CliTest, MesFile, msx_at, msx_file, s_record
+from support import (
+    DONE,
+    PROGRAM,
+    REFUSED,
+    CliTest,
+    MesFile,
+    limit_memory,
+    msx_at,
+    msx_file,
+    s_record,
+)
 
 HEADER = b"message,origin,text\r\n"
 MIB = 1 << 20
@@ -51,7 +60,7 @@ class SpreadsheetTest(CliTest):
                     [PROGRAM, "apply", "A.MES", "t.csv", "--language=1"],
                     cwd=self.folder,
                     capture_output=True,
-                    preexec_fn=lambda: limit_memory(3 * len(table) + 16 * MIB),
+                    preexec_fn=lambda: limit_memory(len(table)),
                 )
                 self.assertEqual(done.returncode, REFUSED, done.stderr[-500:])
                 self.assertLess(len(done.stderr), 100_000)
@@ -64,12 +73,6 @@ class SpreadsheetTest(CliTest):
         self.assertIn("t.csv: row 501: ", err)
         self.assertNotIn("row 502", err)
         self.assertIn("t.csv: and 8 more\n", err)
-
-
-def limit_memory(size: int) -> None:
-    """Limits the data of a program; not under a sanitizer, which reserves terabytes."""
-    if b"__asan_init" not in PROGRAM.read_bytes():
-        resource.setrlimit(resource.RLIMIT_DATA, (size, size))
 
 
 class PlaceholderTest(CliTest):

@@ -1,6 +1,8 @@
 #include <QLabel>
 #include <QMenu>
+#include <QMessageBox>
 #include <QProcess>
+#include <QToolTip>
 #include <stdexcept>
 
 #include "core/version.h"
@@ -66,6 +68,28 @@ class ProgramTest : public DeskTest {
     QCOMPARE(desk_->user.FirstBox().title, QStringLiteral("ERROR"));
     QCOMPARE(desk_->user.FirstBox().icon, QMessageBox::Critical);
     QCOMPARE(desk_->Text1().text(), QStringLiteral("EDIT"));
+  }
+
+  // Whatever comes out of a file or a path, in boxes and tool tips that Qt makes, too.
+  void ShowsNoTextAsMarkup() {
+    const QString text = QStringLiteral("<b>bold</b>");
+    QLabel label(text);
+    label.show();
+    QCOMPARE(label.textFormat(), Qt::PlainText);
+    QMessageBox box;
+    box.setText(text);
+    box.show();
+    QCOMPARE(box.textFormat(), Qt::PlainText);
+    QToolTip::showText(QPoint(0, 0), text);
+    const QLabel* tip = nullptr;
+    for (const QWidget* widget : QApplication::topLevelWidgets()) {
+      if (widget->inherits("QTipLabel")) {
+        tip = qobject_cast<const QLabel*>(widget);
+      }
+    }
+    QVERIFY(tip != nullptr);
+    QCOMPARE(tip->text(), text);
+    QCOMPARE(tip->textFormat(), Qt::PlainText);
   }
 
   void ShowsOneBoxAtATimeForWhatHandlersThrow() {

@@ -17,8 +17,7 @@ using Fields = std::array<std::string, 3>;
 const Fields kHeader = {"message", "origin", "text"};
 constexpr std::string_view kSeparators = ",;\t";
 
-// What a message can need by far; a field without its closing quote takes in the rest of the file.
-constexpr std::size_t kLongestField = 4096;
+// A field without its closing quote takes in the rest of the file.
 constexpr std::size_t kSliceBytes = std::size_t{64} << 10U;
 
 int IsNoSpace(unsigned char /*character*/) { return 0; }

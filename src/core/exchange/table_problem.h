@@ -27,6 +27,7 @@ struct TableProblem {
     // Of a row.
     kFieldCount,         ///< `number` fields instead of `limit`
     kFieldTooLong,       ///< more than `limit` bytes
+    kTableTooLong,       ///< the texts up to here need more than `limit` bytes
     kNoSuchMessage,      ///< `text` is no message's number
     kRepeated,           ///< message `text` stands in a row before
     kUnknownElement,     ///< the target holds the element `text`

@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "core/exchange/table_rows.h"
 #include "core/exchange/xliff_names.h"
 #include "core/exchange/xml_text.h"
 
@@ -12,6 +13,9 @@ namespace vendlingua::xliff {
 namespace {
 
 using Kind = TableProblem::Kind;
+
+// More than anything has that is no text of a message.
+constexpr std::size_t kLongestValue = 256;
 
 // A text as it stands in an element: its runs, and the ids of its placeholders.
 struct InlineText {
@@ -21,8 +25,11 @@ struct InlineText {
 
 bool IsControlCharacter(char c) { return static_cast<unsigned char>(c) < ' '; }
 
+// The characters of a value that says something short; of one that is longer its first.
+std::string Start(std::string_view raw) { return Unescaped(raw.substr(0, kLongestValue)).text; }
+
 std::string Attribute(pugi::xml_node element, const char* name) {
-  return Unescaped(element.attribute(name).value()).text;
+  return Start(element.attribute(name).value());
 }
 
 // Reads the content of a source or a target. Segments that tools mark in it are of no meaning here.
@@ -31,13 +38,19 @@ class InlineReader : public pugi::xml_tree_walker {
   bool for_each(pugi::xml_node& node) override {
     switch (node.type()) {
       case pugi::node_pcdata:
-        AddReferences(node.value());
+        if (HasRoomFor(node.value())) {
+          AddReferences(node.value());
+        }
         break;
       case pugi::node_cdata:
-        AddCharacters(node.value());
+        if (HasRoomFor(node.value())) {
+          AddCharacters(node.value());
+        }
         break;
       case pugi::node_element:
-        AddElement(node);
+        if (HasRoomFor("x")) {
+          AddElement(node);
+        }
         break;
       default:
         break;
@@ -49,6 +62,14 @@ class InlineReader : public pugi::xml_tree_walker {
   std::optional<TableProblem> problem;
 
  private:
+  bool HasRoomFor(std::string_view raw) {
+    bytes_ += raw.size();
+    if (bytes_ > kLongestField) {
+      problem = TableProblem{.kind = Kind::kFieldTooLong, .limit = kLongestField};
+    }
+    return !problem;
+  }
+
   void AddReferences(std::string_view raw) {
     XmlText characters = Unescaped(raw);
     if (characters.unknown) {
@@ -74,9 +95,12 @@ class InlineReader : public pugi::xml_tree_walker {
       text.placeholder_ids.push_back(Attribute(element, "id"));
       text.runs.push_back({Attribute(element, "equiv-text"), true});
     } else if (name != "mrk") {
-      problem = TableProblem{.kind = Kind::kUnknownElement, .text = std::string(name)};
+      problem = TableProblem{.kind = Kind::kUnknownElement,
+                             .text = std::string(name.substr(0, kLongestValue))};
     }
   }
+
+  std::size_t bytes_ = 0;  // of all texts, as the file has them; an element counts one
 };
 
 // The numbers that references in a PO file were made of.
@@ -84,7 +108,7 @@ std::vector<std::string> ReferencedMessages(pugi::xml_node element) {
   std::vector<std::string> messages;
   for (const pugi::xml_node group : element.children()) {
     if (LocalName(group) == "context-group" && Attribute(group, "name") == "po-reference") {
-      messages.emplace_back(Unescaped(Child(group, "context").text().get()).text);
+      messages.push_back(Start(Child(group, "context").text().get()));
     }
   }
   return messages;
@@ -92,7 +116,7 @@ std::vector<std::string> ReferencedMessages(pugi::xml_node element) {
 
 std::vector<std::string> MessagesOf(pugi::xml_node element) {
   if (const pugi::xml_attribute name = element.attribute("resname")) {
-    return {Unescaped(name.value()).text};
+    return {Start(name.value())};
   }
   std::vector<std::string> messages = ReferencedMessages(element);
   if (messages.empty()) {

@@ -43,6 +43,9 @@ void RemoveBehind(std::string& line, std::size_t column) {
 }  // namespace
 
 std::optional<std::string> QuotedText(std::string_view source_line) {
+  if (source_line.find_first_of("'\"") == std::string_view::npos) {
+    return std::nullopt;
+  }
   const QuoteTable apostrophes = FindQuotes(source_line, '\'');
   const QuoteTable double_quotes = FindQuotes(source_line, '"');
   std::string line(source_line);

@@ -29,6 +29,10 @@ std::string Excerpt(std::string_view line) {
 constexpr std::size_t kMostCells = std::numeric_limits<std::uint8_t>::max();
 constexpr std::size_t kMostTexts = std::numeric_limits<std::uint16_t>::max();
 
+// More than a file of all its languages can have, and little enough to be held.
+constexpr std::size_t kMostSections = 128;
+constexpr std::size_t kMostTextsOfAll = std::size_t{1} << 17U;
+
 bool Contains(std::string_view line, std::string_view word) {
   return line.find(word) != std::string_view::npos;
 }
@@ -89,6 +93,9 @@ class SourceParser {
     if (text.size() > DisplayText::kCells) {
       section_.cut_lines.push_back(lines_.count());
     }
+    if (++texts_ > kMostTextsOfAll) {
+      FailAsTooLong();
+    }
     width_ = static_cast<std::uint8_t>(text.size());
     section_.texts.push_back(FitTo(text, std::min(text.size(), DisplayText::kCells)));
   }
@@ -105,6 +112,9 @@ class SourceParser {
     if (width_ == 0 || (section_.texts.empty() && !section_.width_error)) {
       FailAt(lines_.count(), UiSentence(UiTextId::kNoQuotedText));
     }
+    if (sections_.size() == kMostSections) {
+      FailAsTooLong();
+    }
     section_.width = width_;
     section_.directives = directives_;
     sections_.push_back(std::move(section_));
@@ -114,7 +124,12 @@ class SourceParser {
     --width_;
   }
 
+  [[noreturn]] void FailAsTooLong() const {
+    FailAt(lines_.count(), UiSentence(UiTextId::kSourceTooLong, kMostSections, kMostTextsOfAll));
+  }
+
   TextLines lines_;
+  std::size_t texts_ = 0;  // of all sections
   std::size_t directives_ = 0;
   std::uint8_t width_ = 0;
   SourceSection section_;

@@ -29,7 +29,8 @@ struct SourceSection {
 /// Splits a source into its sections. A line that contains "ORG" or ".SECT" ends a section when one
 /// was met before, and is not looked at further; as the last line of the file it begins no further
 /// one. Throws Error with the number of the line when its quotes cannot be read, when a section has
-/// no texts, more than 65535, or one of more than 255 characters.
+/// no texts, more than 65535, or one of more than 255 characters, and when there are more than 128
+/// sections or 131072 texts in all.
 std::vector<SourceSection> ParseSource(std::string_view content);
 
 }  // namespace vendlingua

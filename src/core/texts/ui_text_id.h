@@ -242,6 +242,7 @@ enum class UiTextId : std::size_t {
   kMemoryAdded,
   kSuggestionNoRoom,
   kLanguageFilesLeftOut,
+  kSourceTooLong,
 };
 
 }  // namespace vendlingua

@@ -117,7 +117,7 @@ TextSearch FindBar::SearchIn(const Alphabet& alphabet) const {
 
 void FindBar::ShowResult(const QString& result, bool found) {
   result_->setText(result);
-  result_->setToolTip(PlainToolTip(result));
+  result_->setToolTip(result);
   Announce(*result_, result);
   previous_->setEnabled(found);
   next_->setEnabled(found);

@@ -145,7 +145,7 @@ void FrmDesk::Mirror() {
   side_->Mirror();
   const std::string& status = workspace_.window.status;
   status_->setText(FromUtf8(status));
-  status_->setToolTip(PlainToolTip(FromUtf8(status)));
+  status_->setToolTip(FromUtf8(status));
   Announce(*status_, FromUtf8(status));
   const Progress progress = ProgressOf(workspace_.set);
   const UiSentence done(UiTextId::kProgress, progress.done, progress.messages);

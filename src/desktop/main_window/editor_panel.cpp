@@ -182,7 +182,7 @@ void EditorPanel::ShowStatus() {
   status_->setGeometry(kLeft, height() - kStatusHeight, kRight - kLeft, kStatusHeight);
   status_->setText(
       status_->fontMetrics().elidedText(status_text_, Qt::ElideMiddle, status_->width()));
-  status_->setToolTip(PlainToolTip(status_text_));
+  status_->setToolTip(status_text_);
 }
 
 void EditorPanel::resizeEvent(QResizeEvent* event) {

@@ -209,25 +209,70 @@ TEST(ReadXliff, TakesUtf16) {
   EXPECT_THAT(TextsOf(ReadUnits(content)), ElementsAre("7=a"));
 }
 
-TEST(ReadXliff, StandsAMillionElementsAndDeepNesting) {
-  const auto repeated = [](std::size_t times, const std::string& piece) {
-    std::string text;
-    for (std::size_t i = 0; i < times; ++i) {
-      text += piece;
-    }
-    return text;
-  };
-  EXPECT_EQ(Problem(Xliff(repeated(1'100'000, "<a/>"))).kind, Kind::kTooMuchMarkup);
-  const TableReading many = ReadUnits(Xliff(repeated(1'000'000, "<trans-unit/>")));
+std::string ManyTimes(std::size_t times, const std::string& piece) {
+  std::string text;
+  for (std::size_t i = 0; i < times; ++i) {
+    text += piece;
+  }
+  return text;
+}
+
+TEST(ReadXliff, StandsManyElementsAndDeepNesting) {
+  EXPECT_EQ(Problem(Xliff(ManyTimes(300'000, "<a/>"))).kind, Kind::kTooMuchMarkup);
+  const TableReading many = ReadUnits(Xliff(ManyTimes(70'000, "<trans-unit/>")));
   EXPECT_THAT(many.problems.listed(), IsEmpty());
   EXPECT_THAT(many.table.rows, IsEmpty());
-  constexpr std::size_t kDepth = 400'000;
-  EXPECT_THAT(TextsOf(ReadUnits(Xliff(repeated(kDepth, "<group>") + Unit("7", "", "a") +
-                                      repeated(kDepth, "</group>")))),
+  constexpr std::size_t kDepth = 60'000;
+  EXPECT_THAT(TextsOf(ReadUnits(Xliff(ManyTimes(kDepth, "<group>") + Unit("7", "", "a") +
+                                      ManyTimes(kDepth, "</group>")))),
               ElementsAre("7=a"));
-  EXPECT_THAT(TextsOf(ReadUnits(Xliff(
-                  Unit("7", "", repeated(kDepth, "<mrk>") + "a" + repeated(kDepth, "</mrk>"))))),
+}
+
+// The parser takes 64 bytes for a piece of markup; texts between tags and attributes count, too.
+TEST(ReadXliff, AllowsMarkupInProportionToTheFile) {
+  const std::string markup = ManyTimes(100'000, "<a/>");
+  EXPECT_EQ(Problem(Xliff(markup)).kind, Kind::kTooMuchMarkup);
+  EXPECT_THAT(TextsOf(ReadUnits(Xliff(markup + std::string(4'000'000, ' ') + Unit("7", "", "a")))),
               ElementsAre("7=a"));
+  EXPECT_EQ(Problem(Xliff(ManyTimes(80'000, "<a/> "))).kind, Kind::kTooMuchMarkup);
+  EXPECT_EQ(Problem(Xliff(ManyTimes(80'000, "<a b=\"\"/>"))).kind, Kind::kTooMuchMarkup);
+}
+
+TEST(ReadXliff, RefusesTextsThatNoMessageNeeds) {
+  const std::string longest(4096, 'a');
+  EXPECT_THAT(TextsOf(ReadUnits(Xliff(Unit("7", "", longest)))), ElementsAre("7=" + longest));
+  const TableProblem problem = Problem(Xliff(Unit("7", "", longest + "b")));
+  EXPECT_EQ(problem.kind, Kind::kFieldTooLong);
+  EXPECT_EQ(problem.limit, longest.size());
+  EXPECT_EQ(Problem(Xliff(Unit("7", longest + "b", ""))).kind, Kind::kFieldTooLong);
+  EXPECT_EQ(Problem(Xliff(Unit("7", "", "<![CDATA[" + longest + "b]]>"))).kind,
+            Kind::kFieldTooLong);
+  EXPECT_EQ(Problem(Xliff(Unit("7", "", ManyTimes(4097, "<mrk/>")))).kind, Kind::kFieldTooLong);
+}
+
+// One text that thousands of messages refer to would be held as often.
+TEST(ReadXliff, RefusesMoreTextsThanAnyMessageFileHas) {
+  std::string references;
+  for (int message = 0; message < 4000; ++message) {
+    references += "<context-group name=\"po-reference\"><context>" + std::to_string(message) +
+                  "</context></context-group>";
+  }
+  const TableReading reading = ReadUnits(Xliff("<trans-unit>" + references + "<target>" +
+                                               std::string(4000, 'a') + "</target></trans-unit>"));
+  ASSERT_FALSE(reading.problems.empty());
+  EXPECT_EQ(reading.problems.listed().front().kind, Kind::kTableTooLong);
+  EXPECT_LT(reading.table.rows.size(), 3100U);
+}
+
+TEST(ReadXliff, TellsTheLineOfAFaultInAnyEncoding) {
+  const std::string text = Xliff("<a>\r\n&amp;\r\n</b>");
+  EXPECT_EQ(Problem(text).number, 4U);
+  std::string utf16 = "\xFF\xFE";
+  for (const char c : text) {
+    utf16 += c;
+    utf16 += '\0';
+  }
+  EXPECT_EQ(Problem(utf16).number, 4U);
 }
 
 }  // namespace

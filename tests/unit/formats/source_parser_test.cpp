@@ -272,5 +272,18 @@ TEST(ParseSource, ReadsOrRefusesRandomBytes) {
   }
 }
 
+TEST(ParseSource, RefusesMoreThanAFileOfAllLanguagesCanHold) {
+  std::string sections;
+  for (int i = 0; i < 128; ++i) {
+    sections += SourceLine("A") + " ORG $6000\n";
+  }
+  EXPECT_THAT(ParseSource(" ORG $6000\n" + sections), SizeIs(128));
+  EXPECT_THAT(ReasonOfRefusal(" ORG $6000\n" + sections + SourceLine("A")),
+              HasSubstr("at most 128 sections and 131072 texts in all"));
+  const std::string many = SourceLines(50'000, "A");
+  EXPECT_THAT(ReasonOfRefusal(many + " ORG $1\n ORG $2\n" + many + " ORG $3\n" + many),
+              HasSubstr("at most 128 sections and 131072 texts in all"));
+}
+
 }  // namespace
 }  // namespace vendlingua
