@@ -12,6 +12,7 @@
 #include "core/operations/message_file_reader.h"
 #include "core/operations/message_file_writer.h"
 #include "core/operations/source_import.h"
+#include "core/operations/unsaved_edits.h"
 #include "core/platform/dialogs.h"
 
 namespace vendlingua {
@@ -26,6 +27,7 @@ struct Engine {
         import(workspace, dialogs, reader, writer),
         opener(workspace, dialogs, reader, writer, import),
         languages(workspace, dialogs, writer),
+        unsaved_edits(workspace, dialogs, languages),
         compiler(workspace, dialogs, compiler_state, flash_image, section_files) {}
 
   Workspace workspace;
@@ -39,6 +41,7 @@ struct Engine {
   SourceImport import;
   MessageFileOpener opener;
   Languages languages;
+  UnsavedEdits unsaved_edits;
   FlashCompiler compiler;
 };
 

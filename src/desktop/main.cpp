@@ -10,6 +10,7 @@
 #include "desktop/main_window/frm_mes.h"
 #include "desktop/program_folders.h"
 #include "desktop/qt_program_starter.h"
+#include "desktop/sudden_end.h"
 
 namespace {
 
@@ -25,6 +26,7 @@ int Run() {
   }
   vendlingua::QtProgramStarter starter;
   vendlingua::FrmMes window(engine, dialogs, starter);
+  const vendlingua::SuddenEnd sudden_end([&window] { window.KeepEdits(); });
   window.show();
   return QApplication::exec();
 }

@@ -12,21 +12,23 @@ namespace {
 
 namespace fs = std::filesystem;
 
-// Where the user's programs keep their settings, each in a folder of its own. Qt would answer in
-// Unicode, which not every home is named in.
-fs::path UserFolder() {
+// A folder of the user's that is this program's alone: `variable` names the one of all programs,
+// which is `in_home` where it does not. Qt would answer in Unicode, which not every home is named
+// in.
+fs::path UserFolder([[maybe_unused]] const char* variable, [[maybe_unused]] const char* in_home,
+                    QStandardPaths::StandardLocation elsewhere) {
 #ifndef _WIN32
   const fs::path program = ToPath(QCoreApplication::applicationName());
-  const fs::path configuration = qgetenv("XDG_CONFIG_HOME").toStdString();
-  if (configuration.is_absolute()) {
-    return configuration / program;
+  const fs::path folder = qgetenv(variable).toStdString();
+  if (folder.is_absolute()) {
+    return folder / program;
   }
   const fs::path home = qgetenv("HOME").toStdString();
   if (home.is_absolute()) {
-    return home / ".config" / program;
+    return home / in_home / program;
   }
 #endif
-  return ToPath(QStandardPaths::writableLocation(QStandardPaths::AppConfigLocation));
+  return ToPath(QStandardPaths::writableLocation(elsewhere));
 }
 
 }  // namespace
@@ -38,7 +40,10 @@ Folders ProgramFolders() {
   Folders folders;
   folders.program = ExecutableFolder();
   folders.settings = folders.program / settings;
-  folders.user_settings = UserFolder() / settings;
+  folders.user_settings =
+      UserFolder("XDG_CONFIG_HOME", ".config", QStandardPaths::AppConfigLocation) / settings;
+  folders.journals =
+      UserFolder("XDG_DATA_HOME", ".local/share", QStandardPaths::AppDataLocation) / "journals";
   return folders;
 }
 

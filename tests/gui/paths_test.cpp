@@ -157,8 +157,8 @@ class PathsTest : public DeskTest {
     QVERIFY(other.PathOf(QStringLiteral("/a/b")) == "/a/b");
   }
 
-  void KeepsTheUsersSettingsInAHomeOfAnyName_data() { AddFolderNames(); }
-  void KeepsTheUsersSettingsInAHomeOfAnyName() {
+  void KeepsTheUsersSettingsAndEditsInAHomeOfAnyName_data() { AddFolderNames(); }
+  void KeepsTheUsersSettingsAndEditsInAHomeOfAnyName() {
     const fs::path home = MakeFolder();
     const Environment set_home("HOME", home.native());
     const Environment no_folder("XDG_CONFIG_HOME", "");
@@ -166,6 +166,10 @@ class PathsTest : public DeskTest {
     QVERIFY(ProgramFolders().user_settings == home / ".config" / folder / "gui_tests.ini");
     const Environment set_folder("XDG_CONFIG_HOME", home.native());
     QVERIFY(ProgramFolders().user_settings == home / folder / "gui_tests.ini");
+    const Environment no_data_folder("XDG_DATA_HOME", "");
+    QVERIFY(ProgramFolders().journals == home / ".local/share" / folder / "journals");
+    const Environment set_data_folder("XDG_DATA_HOME", home.native());
+    QVERIFY(ProgramFolders().journals == home / folder / "journals");
   }
 
   void KeepsTheUsersSettingsWhereOtherProgramsDo() {

@@ -19,6 +19,7 @@ struct Folders {
   std::filesystem::path current;   ///< where dialogs start and identified copies go
   std::filesystem::path settings;  ///< the settings file, beside the program
   std::filesystem::path user_settings;  ///< the same where that folder is read-only
+  std::filesystem::path journals{};     ///< of unsaved edits; none are kept when it is empty
 };
 
 /// The interface languages that can be chosen: the names of their files.

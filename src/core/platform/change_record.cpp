@@ -1,54 +1,13 @@
 #include "core/platform/change_record.h"
 
 #include <algorithm>
-#include <boost/crc.hpp>
+
+#include "core/platform/record_bytes.h"
 
 namespace vendlingua {
 namespace {
 
 constexpr std::string_view kFirstLine = "Vendlingua undo file 1\n";
-constexpr std::size_t kNumberBytes = 4;
-
-std::uint32_t Checksum(std::string_view bytes) {
-  boost::crc_32_type crc;
-  crc.process_bytes(bytes.data(), bytes.size());
-  return crc.checksum();
-}
-
-void AppendNumber(std::string& out, std::size_t number) {
-  for (std::size_t byte = 0; byte < kNumberBytes; ++byte) {
-    out += static_cast<char>(number >> (8 * byte) & 0xFFU);
-  }
-}
-
-// Takes a record apart; what is missing at its end reads as nothing.
-class RecordReader {
- public:
-  explicit RecordReader(std::string_view bytes) : rest_(bytes) {}
-
-  std::uint32_t Number() {
-    std::uint32_t number = 0;
-    const std::string_view bytes = Bytes(kNumberBytes);
-    for (std::size_t byte = 0; byte < bytes.size(); ++byte) {
-      number |= std::uint32_t{static_cast<unsigned char>(bytes[byte])} << (8 * byte);
-    }
-    return number;
-  }
-
-  std::string_view Bytes(std::size_t count) {
-    is_complete_ = is_complete_ && count <= rest_.size();
-    const std::string_view bytes = rest_.substr(0, count);
-    rest_.remove_prefix(bytes.size());
-    return bytes;
-  }
-
-  bool is_complete() const { return is_complete_; }
-  bool at_end() const { return rest_.empty(); }
-
- private:
-  std::string_view rest_;
-  bool is_complete_ = true;
-};
 
 std::optional<ChangeRecord> ReadRecord(std::string_view bytes) {
   RecordReader reader(bytes);

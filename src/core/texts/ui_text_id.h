@@ -243,6 +243,9 @@ enum class UiTextId : std::size_t {
   kSuggestionNoRoom,
   kLanguageFilesLeftOut,
   kSourceTooLong,
+  kUnsavedEditsQuestion,
+  kUnsavedEditsDoNotFit,
+  kEditsNotKept,
 };
 
 }  // namespace vendlingua

@@ -8,6 +8,7 @@
 #include <algorithm>
 #include <exception>
 #include <memory>
+#include <utility>
 
 #include "core/operations/exit.h"
 #include "core/operations/interface_language.h"
@@ -24,6 +25,8 @@ namespace {
 
 constexpr int kWindowWidth = 5205;  // twips
 constexpr int kTypingPause = 1000;  // milliseconds
+constexpr int kJournalPause =
+    500;  // the same: edits come one by one, and each write waits for the disk
 
 // All menus have to fit the width of the window in every language.
 constexpr QLatin1String kMenuBarStyle(
@@ -55,6 +58,9 @@ FrmMes::FrmMes(Engine& engine, QtDialogs& dialogs, ProgramStarter& starter)
   typing_pause_.setSingleShot(true);
   typing_pause_.setInterval(kTypingPause);
   connect(&typing_pause_, &QTimer::timeout, this, [this] { engine_.editing.EndTyping(); });
+  journal_pause_.setSingleShot(true);
+  journal_pause_.setInterval(kJournalPause);
+  connect(&journal_pause_, &QTimer::timeout, this, &FrmMes::KeepEdits);
   connect(&file_watch_, &FileWatch::Changed, this, &FrmMes::LookAtFile);
   dialogs_.Attach([this] { Mirror(); }, engine_.workspace.ui_text);
   Mirror();
@@ -65,7 +71,7 @@ void FrmMes::ConnectMenus() {
     connect(menus_, signal, this,
             [this, command](auto... arguments) { Run([&] { command(arguments...); }); });
   };
-  run(&MainMenus::OpenChosen, [this] { engine_.opener.Open(); });
+  run(&MainMenus::OpenChosen, [this] { Open(); });
   run(&MainMenus::SaveChosen, [this] { engine_.writer.Save(); });
   run(&MainMenus::SaveAsChosen, [this] { engine_.writer.SaveAs(); });
   run(&MainMenus::OriginChosen, [this](int i) { engine_.languages.ChooseOrigin(i); });
@@ -159,6 +165,29 @@ void FrmMes::Mirror() {
   if (frm_make_) {
     frm_make_->Mirror();
   }
+  if (!journal_pause_.isActive() && engine_.unsaved_edits.IsBehind()) {
+    journal_pause_.start();
+  }
+}
+
+// One that cannot be written is told of once, until it can be.
+void FrmMes::KeepEdits() {
+  try {
+    engine_.unsaved_edits.Keep();
+    told_of_lost_journal_ = false;
+  } catch (const FileError& error) {
+    if (!std::exchange(told_of_lost_journal_, true)) {
+      const UiText& ui_text = engine_.workspace.ui_text;
+      engine_.workspace.window.status = ui_text[UiTextId::kEditsNotKept] + " " + error.In(ui_text);
+      Mirror();
+    }
+  }
+}
+
+void FrmMes::Open() {
+  if (engine_.opener.Open() == OpenOutcome::kOpened) {
+    engine_.unsaved_edits.Offer();
+  }
 }
 
 // Not while a command works with the document.
@@ -201,6 +230,7 @@ void FrmMes::closeEvent(QCloseEvent* event) {
     event->ignore();
     return;
   }
+  KeepEdits();
   if (frm_make_) {
     frm_make_->close();
   }

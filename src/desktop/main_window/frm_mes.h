@@ -30,6 +30,10 @@ class FrmMes : public QMainWindow {
  public:
   FrmMes(Engine& engine, QtDialogs& dialogs, ProgramStarter& starter);
 
+  /// Brings the journal of unsaved edits up to date now; otherwise that happens half a second after
+  /// an edit.
+  void KeepEdits();
+
  protected:
   void changeEvent(QEvent* event) override;
   void closeEvent(QCloseEvent* event) override;
@@ -48,6 +52,7 @@ class FrmMes : public QMainWindow {
   /// Another program may have changed the open file.
   void LookAtFile();
 
+  void Open();
   void Form_Activate();
   void ChooseLanguage(int index);
   void ChangeText(const DisplayCodes& text);
@@ -70,6 +75,8 @@ class FrmMes : public QMainWindow {
   FileWatch file_watch_;
   WindowTop window_top_;
   QTimer typing_pause_;
+  QTimer journal_pause_;
+  bool told_of_lost_journal_ = false;
   int dialogs_seen_ = 0;
 };
 

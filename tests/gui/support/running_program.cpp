@@ -24,7 +24,8 @@ RunningProgram::RunningProgram(const fs::path& folder, Start start) : engine_(di
   engine_.workspace.folders = {.program = folder,
                                .current = folder,
                                .settings = folder / "vendlingua.ini",
-                               .user_settings = folder / "user" / "vendlingua.ini"};
+                               .user_settings = folder / "user" / "vendlingua.ini",
+                               .journals = folder / "user" / "journals"};
   if (start == Start::kLater) {
     return;
   }
