@@ -9,7 +9,6 @@ from __future__ import annotations
 
 import os
 import re
-import shutil
 import signal
 import subprocess
 import sys
@@ -36,8 +35,10 @@ def files_of(folder: Path) -> Files:
 
 
 def fill(folder: Path, files: Files) -> None:
-    shutil.rmtree(folder, ignore_errors=True)
-    folder.mkdir(parents=True)
+    """Makes the folder hold these files, and nothing else. It may be where something is mounted."""
+    folder.mkdir(parents=True, exist_ok=True)
+    for path in folder.iterdir():
+        path.unlink()
     for name, content in files.items():
         (folder / name).write_bytes(content)
 
