@@ -48,12 +48,13 @@ STANDS_ON = {
         "core/transfer",
     ),
     "core": ("core",),
+        "core/desk",
     "cli": ("core",),
     "manual": ("core", "cli"),
     "desktop": ("core",),
 }
 
-# Libraries by the first part of what is included, and the folders that may use them.
+# Libraries by the first part of what is included, and the folders that may use them with all below.
 LIBRARIES = {
     "Qt": re.compile(r"Q[A-Za-z]+$|Qt[A-Za-z]*/"),
     "CLI11": re.compile(r"CLI/"),

@@ -20,6 +20,7 @@ const char* OptionFor(InputPurpose purpose) {
       return "--memory-length";
     case InputPurpose::kNewLanguageName:
     case InputPurpose::kRenamedLanguageName:
+    case InputPurpose::kMessageNumber:
       return "--name";
   }
   return "";

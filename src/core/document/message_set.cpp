@@ -4,7 +4,6 @@
 #include <limits>
 #include <utility>
 
-#include "core/document/name_field.h"
 #include "core/platform/errors.h"
 
 namespace vendlingua {
@@ -43,6 +42,7 @@ void MessageSet::ForgetFile() {
   Modified = kFalse;
   phase = Phase::kNoFile;
   origin_language.reset();
+  new_language_name.reset();
   file_was_imported = false;
   ShowMessage(0);
   language_names.clear();
@@ -73,6 +73,7 @@ void MessageSet::TakeDestination(const MessageTexts& texts, int language) {
   const bool is_new = language == 0;
   DestLang = static_cast<std::uint8_t>(language);
   phase = is_new ? Phase::kDestinationUnnamed : Phase::kDestinationOpen;
+  new_language_name.reset();
   saved = is_new ? std::nullopt : std::optional(ToSave());
 }
 

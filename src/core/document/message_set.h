@@ -13,6 +13,7 @@
 
 #include "core/document/display_text.h"
 #include "core/document/edit_history.h"
+#include "core/document/name_field.h"
 
 namespace vendlingua {
 
@@ -119,6 +120,8 @@ struct MessageSet {
   Phase phase = Phase::kNoFile;
   /// The language that the origin texts are of.
   std::optional<int> origin_language;
+  /// The name that a new destination was given when it was begun; otherwise its first save asks.
+  std::optional<NameField> new_language_name;
   /// The message file was made by an import that goes on: what is saved from now on becomes one
   /// more language of it, although no destination was opened.
   bool file_was_imported = false;

@@ -3,7 +3,25 @@
 #include <algorithm>
 #include <utility>
 
+#include "core/formats/mes_layout.h"
+
 namespace vendlingua {
+namespace {
+
+// Whether `typed` has a character in a cell of the board that `before` did not have there.
+bool TypesOverTheBoard(const MessageSet& set, std::span<const DisplayCode> before,
+                       std::span<const DisplayCode> typed) {
+  for (std::size_t cell = 0; cell < typed.size(); ++cell) {
+    const bool stood_there = cell < before.size() && before[cell] == typed[cell];
+    const bool says_something = typed[cell] != kBlank && typed[cell] != kPlaceholder;
+    if (says_something && !stood_there && set.BoardFills(set.current_message, cell)) {
+      return true;
+    }
+  }
+  return false;
+}
+
+}  // namespace
 
 void Editing::GoTo(std::size_t message) {
   if (workspace_.set.phase < Phase::kOriginChosen) {
@@ -33,13 +51,14 @@ void Editing::Show(std::size_t message) {
 
 void Editing::ChangeText(std::span<const DisplayCode> text) {
   const MessageSet& set = workspace_.set;
-  const std::size_t length_before =
-      workspace_.window.typed.value_or(set.EditedText(set.current_message)).size();
+  const DisplayCodes before = workspace_.window.typed.value_or(set.EditedText(set.current_message));
   const bool cut = text.size() > set.Width();
-  const bool pasted = text.size() > length_before + 1;
+  const bool pasted = text.size() > before.size() + 1;
   if (cut) {
     text = text.first(set.Width());
     workspace_.window.status = workspace_.ui_text[UiTextId::kTextShortened];
+  } else if (TypesOverTheBoard(set, before, text)) {
+    workspace_.window.status = workspace_.ui_text[UiTextId::kBoardWritesHere];
   }
   Enter({text.begin(), text.end()}, cut || pasted ? EditKind::kWhole : EditKind::kTyping);
 }
@@ -124,6 +143,9 @@ void Editing::ChooseDisplayType(std::size_t index) {
     set.Modified = kTrue;
   }
   set.LoadDisplayType(index);
+  if (!set.IsMes() || index >= kStoredDisplayTypes) {
+    workspace_.window.status = workspace_.ui_text[UiTextId::kDisplayTypeNotKept];
+  }
 }
 
 // The text of the edit box padded with blanks, or cut, to the message width.

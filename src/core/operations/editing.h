@@ -24,7 +24,8 @@ class Editing {
   /// open.
   void StoreCurrentMessage();
 
-  /// The edit box holds `text` now: cut to the message width, which the status tells.
+  /// The edit box holds `text` now: cut to the message width. The status tells when it was cut, and
+  /// when something was typed where the board writes.
   void ChangeText(std::span<const DisplayCode> text);
 
   /// A key was pressed in the edit box that did not change its text.
@@ -55,7 +56,7 @@ class Editing {
   int ToggleHeight();
 
   /// The user chose display type `index` (0 to 3) in `mnuLCD`: another one than before is a change
-  /// of the set, except for the first choice.
+  /// of the set, except for the first choice. The status tells when the file does not keep it.
   void ChooseDisplayType(std::size_t index);
 
  private:

@@ -6,6 +6,7 @@
 #include "core/formats/file_merge.h"
 #include "core/formats/held_messages.h"
 #include "core/formats/message_texts.h"
+#include "core/operations/new_language.h"
 #include "core/platform/errors.h"
 #include "core/platform/in_place_change.h"
 
@@ -37,6 +38,18 @@ DestinationOutcome Languages::ChooseDestination(int language) {
 
 DestinationOutcome Languages::StartNewLanguage(int language) {
   return Open(language == 0 ? kNewLanguage : language, true);
+}
+
+DestinationOutcome Languages::StartNamedLanguage() {
+  const auto name = OfferNewLanguage(workspace_, dialogs_);
+  if (!name) {
+    return DestinationOutcome::kNothingChosen;
+  }
+  const DestinationOutcome outcome = StartNewLanguage(0);
+  if (outcome == DestinationOutcome::kOpened) {
+    workspace_.set.new_language_name = name;
+  }
+  return outcome;
 }
 
 DestinationOutcome Languages::Open(int language, bool as_new) {

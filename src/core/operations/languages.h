@@ -32,6 +32,10 @@ class Languages {
   /// for entry 0. Otherwise as ChooseDestination.
   DestinationOutcome StartNewLanguage(int language);
 
+  /// `mnuNewLanguage`: asks for a name and starts a blank language of that name, which gets its
+  /// place in the file when it is saved. Otherwise as ChooseDestination.
+  DestinationOutcome StartNamedLanguage();
+
  private:
   DestinationOutcome Open(int language, bool as_new);
   void RequireEditableWidth() const;

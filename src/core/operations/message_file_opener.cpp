@@ -37,6 +37,10 @@ OpenOutcome MessageFileOpener::Open() {
   return OpenPath(path, MessageFileType(path));
 }
 
+OpenOutcome MessageFileOpener::Open(const std::filesystem::path& path) {
+  return writer_.NonSave() ? OpenPath(path, MessageFileType(path)) : OpenOutcome::kCancelled;
+}
+
 OpenOutcome MessageFileOpener::Import(const std::filesystem::path& path) {
   if (!IsAssemblerSource(path)) {
     throw FileError(path, UiTextId::kNotASource);
@@ -46,23 +50,19 @@ OpenOutcome MessageFileOpener::Import(const std::filesystem::path& path) {
 
 OpenOutcome MessageFileOpener::OpenPath(const std::filesystem::path& path,
                                         const std::string& type) {
-  Rollback rollback(workspace_);
   workspace_.folders.current = path.parent_path();
+  if (!IsMessageFileType(type)) {
+    workspace_.window.status =
+        FileError(path.filename(), UiTextId::kNoMessageFile).In(workspace_.ui_text);
+    return OpenOutcome::kCancelled;
+  }
+  Rollback rollback(workspace_);
   MessageSet& set = workspace_.set;
   set.CurrentFileName = path;
   set.CurrentFileType = type;
-  if (set.IsMes() || set.IsMsx()) {
-    RemoveStaleFiles(FolderOf(path));
-    OfferRecovery(workspace_.ui_text, dialogs_, path);
-  }
-  bool opened = false;
-  if (set.IsMsx()) {
-    opened = reader_.OpenMsxFile();
-  } else if (set.IsMes()) {
-    opened = OpenMesFile();
-  } else {
-    return OpenOutcome::kCancelled;
-  }
+  RemoveStaleFiles(FolderOf(path));
+  OfferRecovery(workspace_.ui_text, dialogs_, path);
+  const bool opened = set.IsMsx() ? reader_.OpenMsxFile() : OpenMesFile();
   rollback.Keep();
   return opened ? OpenOutcome::kOpened : OpenOutcome::kRefused;
 }

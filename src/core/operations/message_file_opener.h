@@ -15,7 +15,7 @@ namespace vendlingua {
 /// How File, Open ended.
 enum class OpenOutcome {
   kOpened,
-  kCancelled,  ///< no file was chosen, or one whose type is not known
+  kCancelled,  ///< no file was chosen, or one whose type is not known, which the status tells
   kRefused,    ///< the user was told why, or stopped an import: no language can be chosen
 };
 
@@ -31,6 +31,9 @@ class MessageFileOpener {
   /// Saves pending changes if the user wants it, asks for a file and opens it. Throws Error when
   /// the file cannot be opened; everything is then as it was.
   OpenOutcome Open();
+
+  /// The same with a file that was chosen elsewhere.
+  OpenOutcome Open(const std::filesystem::path& path);
 
   /// Imports the assembler source `path`, whatever its name. Otherwise as Open.
   OpenOutcome Import(const std::filesystem::path& path);

@@ -47,6 +47,8 @@ SaveOutcome MessageFileWriter::Save() {
     workspace_.set.Modified = kFalse;
     workspace_.set.save_failed = true;
   }
+    // Another program may have taken the name of a new language: the next save asks for one.
+    workspace_.set.new_language_name.reset();
   return outcome;
 }
 
@@ -75,7 +77,8 @@ SaveOutcome MessageFileWriter::Write(const CopyPath& copy) {
   MessageSet& set = workspace_.set;
   std::optional<NameField> new_name;
   if (set.DestLang == 0) {
-    new_name = AskNewLanguageName(workspace_, dialogs_);
+    new_name =
+        set.new_language_name ? set.new_language_name : AskNewLanguageName(workspace_, dialogs_);
   }
   SaveOutcome outcome;
   if (set.IsMes() && !set.FileIsThere()) {
@@ -184,6 +187,7 @@ void MessageFileWriter::PatchMes(const std::optional<NameField>& new_name, const
   if (new_name && set.phase == Phase::kDestinationUnnamed) {
     set.phase = Phase::kDestinationOpen;
   }
+    set.new_language_name.reset();
   if (new_name && set.phase >= Phase::kOriginChosen) {
     reader_.Load(set.file_content);
   }

@@ -30,6 +30,7 @@ enum class InputPurpose {
   kMemoryLength,
   kNewLanguageName,
   kRenamedLanguageName,
+  kMessageNumber,
 };
 
 struct InputRequest {

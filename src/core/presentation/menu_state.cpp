@@ -8,12 +8,14 @@ void InitMenu(const UiText& ui_text, MenuState& menus) {
   menus.mnuOpen.caption = ui_text[UiTextId::kOpen];
   menus.mnuSave.caption = ui_text[UiTextId::kSave];
   menus.mnuSaas.caption = ui_text[UiTextId::kSaveAs];
+  menus.mnuRecent.caption = ui_text[UiTextId::kRecentFiles];
   menus.mnuDesk.caption = ui_text[UiTextId::kDesk];
   menus.mnuEsci.caption = ui_text[UiTextId::kExit];
   menus.mnuOrig.caption = ui_text[UiTextId::kOriginMenu];
   menus.mnuDest.caption = ui_text[UiTextId::kDestinationMenu];
   menus.mnuDes[0].caption = ui_text[UiTextId::kNewLanguageEntry];
   menus.mnuNew[0].caption = ui_text[UiTextId::kNewLanguageEntry];
+  menus.mnuNewLanguage.caption = ui_text[UiTextId::kNameNewLanguage];
   menus.mnuMake.caption = ui_text[UiTextId::kCompileMenu];
   menus.mnuTLCD.caption = ui_text[UiTextId::kDisplayTypeMenu];
   menus.mnuLCD[0].caption = ui_text[UiTextId::kDisplayNormal];
@@ -36,6 +38,7 @@ void EnableByPhase(const MessageSet& set, MenuState& menus) {
   menus.mnuNew[0].enabled = !file_open;
   menus.mnuDest.enabled = set.phase >= Phase::kOriginChosen;
   menus.mnuDes[0].enabled = set.IsMes() && !set.IsFull();
+  menus.mnuNewLanguage.enabled = set.IsMes() && !set.IsFull();
   menus.mnuTLCD.enabled = set.DestinationIsOpen();
   menus.mnuSaas.enabled = set.DestinationIsOpen();
   menus.mnuSave.enabled = set.FileIsThere();
@@ -52,13 +55,16 @@ void ShowLanguages(const Workspace& workspace, MenuState& menus) {
     menus.mnuDes[0].caption = names[0];
     menus.mnuNew[0].caption = names[0];
   }
+  menus.mnuori[0].checked = set.origin_language == 0;
   for (std::size_t k = 1; k < kLanguageEntries; ++k) {
+    const bool is_origin = set.origin_language == static_cast<int>(k);
+    const bool is_destination = set.DestinationIsOpen() && set.DestLang == k;
     const bool there = set.HoldsLanguage(static_cast<int>(k));
     const std::string name = there ? names[k] : "";
     const std::string start =
         set.IsMsx() && there ? workspace.ui_text[UiTextId::kCopyMenu] + " " + name : name;
-    menus.mnuori.at(k) = {.caption = name, .visible = there};
-    menus.mnuDes.at(k) = {.caption = name, .visible = there};
+    menus.mnuori.at(k) = {.caption = name, .visible = there, .checked = is_origin};
+    menus.mnuDes.at(k) = {.caption = name, .visible = there, .checked = is_destination};
     menus.mnuNew.at(k) = {.caption = start, .visible = there};
   }
 }

@@ -22,8 +22,9 @@ struct MenuState {
   /// Entry 0 is special, entries 1 to 100 are the languages of the file.
   using LanguageMenu = std::array<MenuEntry, kLanguageEntries>;
 
-  MenuEntry mnuFile, mnuOpen, mnuSave, mnuSaas, mnuDesk, mnuEsci;
+  MenuEntry mnuFile, mnuOpen, mnuSave, mnuSaas, mnuRecent, mnuDesk, mnuEsci;
   MenuEntry mnuOrig, mnuDest, mnuMake, mnuTLCD, mnuLingue;
+  MenuEntry mnuNewLanguage;
   MenuEntry mnuInf;
   MenuEntry mCopy, mnuAbor, mnuCopy, mnuUndo, mnuRedo;
   LanguageMenu mnuori;  ///< origin languages

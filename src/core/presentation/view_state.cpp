@@ -34,6 +34,9 @@ void ShowDestination(const Workspace& workspace, ViewState& view) {
   view.Label8Enabled[1] = true;
   view.Label9Visible = static_cast<int>(set.current_message) == set.NameMessage();
   view.Text1.enabled = true;
+  for (std::size_t cell = 0; cell < set.Width(); ++cell) {
+    view.Text1.board_cells.push_back(set.BoardFills(set.current_message, cell));
+  }
   view.Text1.text = workspace.window.typed.value_or(set.EditedText(set.current_message));
 }
 
@@ -60,6 +63,8 @@ ViewState ViewOf(const Workspace& workspace) {
   view.caption = set.CurrentFileName.empty() ? std::string(kApplicationTitle)
                                              : PathText(set.CurrentFileName.filename());
   view.status = workspace.window.status;
+  view.StatusState = DocumentStateOf(workspace);
+  view.next_step = NextStepOf(set);
   view.display_type = set.DisplayType;
   return view;
 }

@@ -6,9 +6,11 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "core/document/display_code.h"
 #include "core/document/workspace.h"
+#include "core/presentation/document_state.h"
 
 namespace vendlingua {
 
@@ -33,6 +35,7 @@ struct ViewState {
     std::size_t cells = 0;       ///< of a message
     std::size_t max_length = 0;  ///< characters; 0 for no limit
     bool enabled = false;
+    std::vector<bool> board_cells{};  ///< those that the board fills
   } Text1;
 
   struct {
@@ -47,6 +50,8 @@ struct ViewState {
   int height = 0;       ///< of the main window
   std::string caption;  ///< of the main window, UTF-8
   std::string status;   ///< how the last command ended, UTF-8
+  DocumentState StatusState;
+  std::optional<UiTextId> next_step;  ///< what to do now
   std::size_t display_type = 0;
 };
 

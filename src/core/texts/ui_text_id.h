@@ -246,6 +246,19 @@ enum class UiTextId : std::size_t {
   kUnsavedEditsQuestion,
   kUnsavedEditsDoNotFit,
   kEditsNotKept,
+  kHintOpen,
+  kHintOrigin,
+  kHintDestination,
+  kDetails,
+  kGoToMessage,
+  kGoToPrompt,
+  kNoSuchMessage,
+  kStepKeys,
+  kBoardWritesHere,
+  kNameNewLanguage,
+  kRecentFiles,
+  kHelp,
+  kDisplayTypeNotKept,
 };
 
 }  // namespace vendlingua

@@ -46,6 +46,7 @@ QWidget* CellsDelegate::createEditor(QWidget* parent, const QStyleOptionViewItem
                                      const QModelIndex& index) const {
   auto* editor = new CellsEdit(CellText(workspace_.set, messages_.MessageOf(index)), mode_, parent);
   editor->setFont(font_);
+  editor->SetDisplay(workspace_.set.DisplayType);
   editor->setAccessibleName(FromUtf8(workspace_.ui_text[UiTextId::kDestinationHeading]));
   connect(editor, &CellsEdit::Edited, this, &CellsDelegate::Edited);
   connect(editor, &CellsEdit::NoRoom, this, &CellsDelegate::NoRoom);

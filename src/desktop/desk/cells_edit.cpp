@@ -37,7 +37,6 @@ CellsEdit::CellsEdit(CellText text, CellText::Mode mode, QWidget* parent)
   setObjectName(QStringLiteral("DeskEdit"));
   setEnabled(true);
   QPalette colors = palette();
-  colors.setColor(QPalette::Base, Qt::transparent);
   colors.setColor(QPalette::Text, Qt::black);
   setPalette(colors);
   ShowCells(0);

@@ -4,19 +4,18 @@
 #include <QHBoxLayout>
 #include <QHeaderView>
 #include <QIcon>
-#include <QSettings>
 #include <QShortcut>
 #include <QSignalBlocker>
 #include <QVBoxLayout>
 #include <array>
 #include <utility>
 
-#include "core/desk/message_list.h"
 #include "core/desk/row_state.h"
 #include "core/texts/ui_sentence.h"
 #include "desktop/announce.h"
 #include "desktop/desk/preview_dialog.h"
 #include "desktop/qt_text.h"
+#include "desktop/user_settings.h"
 
 namespace vendlingua {
 namespace {
@@ -33,13 +32,6 @@ QString ColumnsKey() { return QStringLiteral("columns"); }
 QString PartsKey() { return QStringLiteral("parts"); }
 QString FilterKey() { return QStringLiteral("filter"); }
 
-// The user's own settings of this window, beside those that the program keeps in its settings file.
-QSettings DeskSettings() {
-  // NOLINTNEXTLINE(modernize-return-braced-init-list)
-  return QSettings(QSettings::NativeFormat, QSettings::UserScope, QStringLiteral("vendlingua"),
-                   QStringLiteral("desk"));
-}
-
 }  // namespace
 
 FrmDesk::FrmDesk(Engine& engine, Dialogs& dialogs, RunCommand run)
@@ -52,6 +44,7 @@ FrmDesk::FrmDesk(Engine& engine, Dialogs& dialogs, RunCommand run)
       parts_(new QSplitter(this)),
       table_(new DeskTable(workspace_, findings_, parts_)),
       finder_(new Finder(workspace_, *find_bar_, table_->messages())),
+      steps_(new MessageSteps(engine, dialogs, run_, *this)),
       side_(new DeskSide(engine, dialogs, findings_, run_, parts_)),
       status_(new QLabel(this)),
       progress_(new QLabel(this)) {
@@ -92,7 +85,7 @@ void FrmDesk::LayOut() {
 
 void FrmDesk::ConnectTable() {
   connect(table_, &DeskTable::MessageChosen, this, &FrmDesk::GoTo);
-  connect(table_, &DeskTable::NextToDoWanted, this, &FrmDesk::GoToNextToDo);
+  connect(table_, &DeskTable::NextToDoWanted, steps_, &MessageSteps::GoToNextToDo);
   connect(filter_, &QComboBox::currentIndexChanged, this, &FrmDesk::Filter);
   const CellsDelegate& cells = table_->cells();
   connect(&cells, &CellsDelegate::Edited, this, &FrmDesk::TextTyped);
@@ -169,7 +162,7 @@ void FrmDesk::SetCaptions() {
 }
 
 void FrmDesk::Restore() {
-  const QSettings settings = DeskSettings();
+  const UserSettings settings;
   resize(kFirstSize);
   restoreGeometry(settings.value(WindowKey()).toByteArray());
   table_->horizontalHeader()->restoreState(settings.value(ColumnsKey()).toByteArray());
@@ -180,7 +173,7 @@ void FrmDesk::Restore() {
 }
 
 void FrmDesk::Store() const {
-  QSettings settings = DeskSettings();
+  UserSettings settings;
   settings.setValue(WindowKey(), saveGeometry());
   settings.setValue(ColumnsKey(), table_->horizontalHeader()->saveState());
   settings.setValue(PartsKey(), parts_->saveState());
@@ -200,12 +193,6 @@ void FrmDesk::showEvent(QShowEvent* event) {
 
 void FrmDesk::GoTo(std::size_t message) {
   Run([&] { engine_.editing.GoTo(message); });
-}
-
-void FrmDesk::GoToNextToDo() {
-  if (const auto next = NextToDo(workspace_.set, workspace_.set.current_message)) {
-    GoTo(*next);
-  }
 }
 
 void FrmDesk::Filter(int filter) {

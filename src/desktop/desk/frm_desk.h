@@ -14,6 +14,7 @@
 #include "desktop/desk/desk_table.h"
 #include "desktop/desk/find_bar.h"
 #include "desktop/desk/finder.h"
+#include "desktop/message_steps.h"
 #include "desktop/run_command.h"
 
 namespace vendlingua {
@@ -47,7 +48,6 @@ class FrmDesk : public QWidget {
   void Store() const;
 
   void GoTo(std::size_t message);
-  void GoToNextToDo();
   void Filter(int filter);
   void Replace();
   void Tell(const std::string& status);
@@ -63,6 +63,7 @@ class FrmDesk : public QWidget {
   QSplitter* parts_;
   DeskTable* table_;
   Finder* finder_;
+  MessageSteps* steps_;
   DeskSide* side_;
   QLabel* status_;
   QLabel* progress_;

@@ -2,6 +2,8 @@
 
 #include <QList>
 
+#include "core/document/alphabet.h"
+
 namespace vendlingua {
 namespace {
 
@@ -38,6 +40,15 @@ std::optional<DisplayCode> FromWidgetCharacter(char32_t character) {
     return static_cast<DisplayCode>(character - kPrivateStart);
   }
   return ToDisplayCode(character);
+}
+
+DisplayCodes EnteredCodes(char32_t character, std::size_t display) {
+  if (const auto code = FromWidgetCharacter(character)) {
+    return {*code};
+  }
+  const DrawnText drawn =
+      Alphabet::Of(display).CodesOf(QString::fromUcs4(&character, 1).toStdString());
+  return drawn.unknown.empty() ? drawn.codes : DisplayCodes();
 }
 
 DisplayCodes FromWidgetText(const QString& text) {

@@ -2,6 +2,7 @@
 #define VENDLINGUA_DESKTOP_FONTS_WIDGET_TEXT_H_
 
 #include <QString>
+#include <cstddef>
 #include <optional>
 #include <span>
 
@@ -18,6 +19,10 @@ QString ToWidgetText(std::span<const DisplayCode> codes);
 
 /// The display code of a character that was typed, pasted or put there by ToWidgetCharacter.
 std::optional<DisplayCode> FromWidgetCharacter(char32_t character);
+
+/// The cells that a character which was typed or pasted enters as on display type `display`: its
+/// own code, or those that draw it there. None when that display lacks it.
+DisplayCodes EnteredCodes(char32_t character, std::size_t display);
 
 /// The display codes of a widget's text; characters that have none are left out.
 DisplayCodes FromWidgetText(const QString& text);

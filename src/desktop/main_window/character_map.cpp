@@ -104,6 +104,7 @@ void CharacterMap::MoveCursor(int code) {
     Highlight(false);
     cursor_ = code;
     Highlight(hasFocus());
+    emit CursorMoved(CellOf(code).geometry());
   }
 }
 

@@ -28,6 +28,9 @@ class CharacterMap : public QWidget {
   /// The mouse was pressed on the character of `code`.
   void Picked(DisplayCode code);
 
+  /// The cursor stands on the cell at `cell` now.
+  void CursorMoved(QRect cell);
+
   /// The character of `code` was chosen with the keyboard.
   void Typed(DisplayCode code);
 

@@ -6,11 +6,16 @@
 #include <QKeyEvent>
 #include <QMenu>
 #include <QMimeData>
+#include <QPainter>
+#include <QPalette>
 #include <algorithm>
 
 #include "core/presentation/twips.h"
+#include "desktop/fonts/cell_colors.h"
 #include "desktop/fonts/display_font.h"
 #include "desktop/fonts/widget_text.h"
+#include "desktop/main_window/file_drop.h"
+#include "desktop/message_steps.h"
 
 namespace vendlingua {
 namespace {
@@ -21,9 +26,9 @@ constexpr int kInnerMargin = 2;
 
 bool HoldsDraggedCode(const QMimeData& data) { return data.hasFormat(QString(kDraggedCodeType)); }
 
-// The code of a key that types a character, or of a key such as Backspace. A shortcut has none;
-// Control with Alt is how some keyboards type.
-std::optional<DisplayCode> CodeOf(const QKeyEvent& event) {
+// The code of a key that types a character on display type `display`, or of a key such as
+// Backspace. A shortcut has none; Control with Alt is how some keyboards type.
+std::optional<DisplayCode> CodeOf(const QKeyEvent& event, std::size_t display) {
   const auto characters = event.text().toUcs4();
   const bool shortcut = event.modifiers().testFlag(Qt::MetaModifier) ||
                         (event.modifiers().testFlag(Qt::ControlModifier) &&
@@ -31,13 +36,26 @@ std::optional<DisplayCode> CodeOf(const QKeyEvent& event) {
   if (characters.size() != 1 || shortcut || event.key() == Qt::Key_Delete) {
     return std::nullopt;
   }
-  return FromWidgetCharacter(characters.front());
+  const DisplayCodes codes = EnteredCodes(characters.front(), display);
+  return codes.empty() ? std::nullopt : std::optional(codes.back());
 }
 
 // The box itself takes nothing back and does nothing again: the window does, for all messages.
 bool TakesBack(const QKeyEvent& event) {
   return event.modifiers().testFlag(Qt::ControlModifier) &&
          (event.key() == Qt::Key_Z || event.key() == Qt::Key_Y);
+}
+
+// A cell of the board behind characters in the colour of the desktop's theme.
+QColor BoardCellBehind(const QColor& text) {
+  constexpr int kMidLightness = 128;
+  constexpr int kDarker = 220;  // percent
+  const QColor color(kBoardCell);
+  return text.lightness() < kMidLightness ? color : color.darker(kDarker);
+}
+
+bool IsForWindow(const QKeyEvent& event) {
+  return TakesBack(event) || MessageSteps::LeadsOn(event);
 }
 
 }  // namespace
@@ -48,6 +66,10 @@ DestinationEdit::DestinationEdit(QWidget* parent) : QLineEdit(parent) {
   // The first character begins at the left edge, as it does in the first origin cell.
   setTextMargins(-kInnerMargin, 0, -kInnerMargin, 0);
   setEnabled(false);
+  // The cells of the board are drawn behind the text.
+  QPalette colors = palette();
+  colors.setColor(QPalette::Base, Qt::transparent);
+  setPalette(colors);
   setValidator(&validator_);
   connect(&validator_, &DisplayTextValidator::Refused, this, &DestinationEdit::Refused);
   connect(this, &QLineEdit::textEdited, this, [this](const QString& text) {
@@ -59,6 +81,8 @@ DestinationEdit::DestinationEdit(QWidget* parent) : QLineEdit(parent) {
 }
 
 void DestinationEdit::Show(const ViewState& view) {
+  SetDisplay(view.display_type);
+  board_cells_ = view.Text1.board_cells;
   LimitLength(view.Text1.max_length == 0 ? kNoLimit : static_cast<int>(view.Text1.max_length));
   const bool opened = view.Text1.enabled && !isEnabled();
   setEnabled(view.Text1.enabled);
@@ -75,6 +99,11 @@ void DestinationEdit::Show(const ViewState& view) {
   }
 }
 
+void DestinationEdit::SetDisplay(std::size_t display) {
+  display_ = display;
+  validator_.SetDisplay(display);
+}
+
 // Setting a limit, even the same, moves the caret behind the text.
 void DestinationEdit::LimitLength(int limit) {
   if (limit != maxLength()) {
@@ -85,7 +114,7 @@ void DestinationEdit::LimitLength(int limit) {
 // Whatever the event changes takes the place of what is selected now.
 bool DestinationEdit::event(QEvent* event) {
   validator_.Expect(text().size() - selectionLength());
-  if (event->type() == QEvent::ShortcutOverride && TakesBack(*static_cast<QKeyEvent*>(event))) {
+  if (event->type() == QEvent::ShortcutOverride && IsForWindow(*static_cast<QKeyEvent*>(event))) {
     event->ignore();
     return false;
   }
@@ -107,7 +136,7 @@ void DestinationEdit::contextMenuEvent(QContextMenuEvent* event) {
 void DestinationEdit::dragEnterEvent(QDragEnterEvent* event) {
   if (HoldsDraggedCode(*event->mimeData())) {
     event->acceptProposedAction();
-  } else {
+  } else if (!HoldsFiles(*event->mimeData())) {
     QLineEdit::dragEnterEvent(event);
   }
 }
@@ -115,7 +144,7 @@ void DestinationEdit::dragEnterEvent(QDragEnterEvent* event) {
 void DestinationEdit::dragMoveEvent(QDragMoveEvent* event) {
   if (HoldsDraggedCode(*event->mimeData())) {
     event->acceptProposedAction();
-  } else {
+  } else if (!HoldsFiles(*event->mimeData())) {
     QLineEdit::dragMoveEvent(event);
   }
 }
@@ -131,6 +160,20 @@ void DestinationEdit::dropEvent(QDropEvent* event) {
   }
 }
 
+void DestinationEdit::paintEvent(QPaintEvent* event) {
+  {
+    QPainter painter(this);
+    const int pitch = PixelsFromTwips(kCellPitch);
+    const QColor color = BoardCellBehind(palette().color(QPalette::Text));
+    for (std::size_t cell = 0; cell < board_cells_.size(); ++cell) {
+      if (board_cells_[cell]) {
+        painter.fillRect(TextLeft() + static_cast<int>(cell) * pitch, 0, pitch, height(), color);
+      }
+    }
+  }
+  QLineEdit::paintEvent(event);
+}
+
 // Where the first character begins, in pixels: left of the edit box when the text is scrolled. The
 // caret stands in the middle of its rectangle.
 int DestinationEdit::TextLeft() const {
@@ -140,10 +183,12 @@ int DestinationEdit::TextLeft() const {
 
 // A dead key types its character through the input method.
 void DestinationEdit::inputMethodEvent(QInputMethodEvent* event) {
-  const DisplayCodes typed = FromWidgetText(event->commitString());
+  const QList<uint> typed = event->commitString().toUcs4();
+  const DisplayCodes codes =
+      typed.isEmpty() ? DisplayCodes() : EnteredCodes(typed.back(), display_);
   QLineEdit::inputMethodEvent(event);
-  if (!typed.empty()) {
-    emit CharacterTyped(typed.back());
+  if (!codes.empty()) {
+    emit CharacterTyped(codes.back());
   }
 }
 
@@ -155,7 +200,7 @@ void DestinationEdit::keyPressEvent(QKeyEvent* event) {
   if (TakeAltDigit(*event)) {
     return;
   }
-  const auto code = CodeOf(*event);
+  const auto code = CodeOf(*event, display_);
   edited_ = false;
   QLineEdit::keyPressEvent(event);
   if (code) {

@@ -7,6 +7,8 @@
 #include <QList>
 #include <QString>
 #include <QStringList>
+#include <cstddef>
+#include <vector>
 
 #include "core/document/display_code.h"
 #include "core/presentation/view_state.h"
@@ -31,6 +33,9 @@ class DestinationEdit : public QLineEdit {
   /// Shows the text of the view, the caret where it was; another message begins at its first
   /// character.
   void Show(const ViewState& view);
+
+  /// The letters of display type `display` can be typed.
+  void SetDisplay(std::size_t display);
 
  signals:
   /// The user changed the text.
@@ -57,6 +62,7 @@ class DestinationEdit : public QLineEdit {
   void inputMethodEvent(QInputMethodEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
   void keyReleaseEvent(QKeyEvent* event) override;
+  void paintEvent(QPaintEvent* event) override;
 
  private:
   int TextLeft() const;
@@ -67,6 +73,8 @@ class DestinationEdit : public QLineEdit {
 
   DisplayTextValidator validator_;
   QList<QAction*> menu_entries_;
+  std::vector<bool> board_cells_;  // that are drawn dark
+  std::size_t display_ = 0;
   QString alt_digits_;
   int message_ = 0;
   bool edited_ = false;  // by the key that is being pressed

@@ -12,12 +12,11 @@ QValidator::State DisplayTextValidator::validate(QString& input, int& caret) con
   int position = 0;
   int taken_before_caret = 0;
   for (const char32_t character : input.toUcs4()) {
-    const auto code = FromWidgetCharacter(character);
+    const DisplayCodes codes = EnteredCodes(character, display_);
     const QString text = QString::fromUcs4(&character, 1);
-    if (code) {
-      taken += ToWidgetCharacter(*code);
-      taken_before_caret += position < caret ? 1 : 0;
-    } else {
+    taken += ToWidgetText(codes);
+    taken_before_caret += position < caret ? static_cast<int>(codes.size()) : 0;
+    if (codes.empty()) {
       refused += text;
     }
     position += static_cast<int>(text.size());

@@ -3,6 +3,7 @@
 
 #include <QStringList>
 #include <QValidator>
+#include <cstddef>
 
 namespace vendlingua {
 
@@ -16,6 +17,9 @@ class DisplayTextValidator : public QValidator {
 
   State validate(QString& input, int& caret) const override;
 
+  /// The letters of display type `display` are taken, too.
+  void SetDisplay(std::size_t display) { display_ = display; }
+
   /// `length` characters stay of the text that stood there before the change that comes.
   void Expect(qsizetype length) { kept_length_ = length; }
 
@@ -25,6 +29,7 @@ class DisplayTextValidator : public QValidator {
 
  private:
   qsizetype kept_length_ = 0;
+  std::size_t display_ = 0;
 };
 
 }  // namespace vendlingua

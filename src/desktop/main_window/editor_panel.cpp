@@ -1,10 +1,11 @@
 #include "desktop/main_window/editor_panel.h"
 
+#include <QApplication>
 #include <QFontDatabase>
+#include <QKeySequence>
 #include <algorithm>
 
 #include "core/presentation/twips.h"
-#include "desktop/announce.h"
 #include "desktop/fonts/display_font.h"
 #include "desktop/fonts/widget_text.h"
 #include "desktop/qt_text.h"
@@ -69,12 +70,13 @@ QString WithoutMnemonic(const std::string& text) {
 EditorPanel::EditorPanel(QWidget* parent)
     : QWidget(parent),
       HScroll1_(new MessageSelector(this)),
-      Label6_(AddLabel(QStringLiteral("Label6"))),
+      Label6_(new MessageNumber(this)),
       Label7_(AddLabel(QStringLiteral("Label7"))),
       Command1_(new QPushButton(this)),
       Command2_(new QPushButton(this)),
+      map_area_(new QScrollArea(this)),
       edit_frame_(new QFrame(this)),
-      status_(AddLabel(QStringLiteral("Status"))) {
+      status_line_(new StatusLine(this)) {
   setObjectName(QStringLiteral("EditorPanel"));
   setFont(CaptionFont(*this));
   for (std::size_t i = 0; i < Label8_.size(); ++i) {
@@ -86,7 +88,7 @@ EditorPanel::EditorPanel(QWidget* parent)
     Label5_.at(i) = new OriginLabel(static_cast<int>(i), this);
   }
   Text1_ = new DestinationEdit(this);
-  map_ = new CharacterMap(this);
+  map_ = new CharacterMap(map_area_);
   Command1_->setObjectName(QStringLiteral("Command1"));
   Command2_->setObjectName(QStringLiteral("Command2"));
   PlaceControls();
@@ -102,7 +104,6 @@ QLabel* EditorPanel::AddLabel(const QString& name) {
 
 void EditorPanel::PlaceControls() {
   Label6_->setGeometry(kNumberPlace);
-  Label6_->setAlignment(Qt::AlignCenter);
   HScroll1_->setGeometry(kSelectorPlace);
   Label7_->setGeometry(kPreviewPlace);
   Label7_->setAlignment(Qt::AlignCenter);
@@ -114,15 +115,18 @@ void EditorPanel::PlaceControls() {
   ShowArrows(*Label9_[1]);
   Command1_->setGeometry(kHeightButtonPlace);
   Command2_->setGeometry(kMessageButtonPlace);
-  map_->setGeometry(QRect(QPoint((kPanelWidth - CharacterMap::MapSize().width()) / 2, kMapTop),
-                          CharacterMap::MapSize()));
+  map_->setFixedSize(CharacterMap::MapSize());
+  map_area_->setWidget(map_);
+  map_area_->setFrameShape(QFrame::NoFrame);
+  map_area_->setFocusPolicy(Qt::NoFocus);
+  map_area_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   edit_frame_->setFrameStyle(QFrame::StyledPanel | QFrame::Sunken);
   edit_frame_->setBackgroundRole(QPalette::Base);
   edit_frame_->setAutoFillBackground(true);
   edit_frame_->stackUnder(Text1_);
   SetTextWidth(0);
-  const std::array<QWidget*, 6> tab_order = {HScroll1_, Label5_[0], Text1_,
-                                             Command1_, Command2_,  map_};
+  const std::array<QWidget*, 7> tab_order = {HScroll1_, Label5_[0], Text1_,      Command1_,
+                                             Command2_, map_,       status_line_};
   for (std::size_t i = 1; i < tab_order.size(); ++i) {
     setTabOrder(tab_order.at(i - 1), tab_order.at(i));
   }
@@ -137,6 +141,9 @@ void EditorPanel::ConnectControls() {
   connect(Text1_, &DestinationEdit::CharacterDropped, this,
           [this](DisplayCode code, int x) { emit CharacterDropped(code, x, text_width_); });
   connect(map_, &CharacterMap::Picked, this, &EditorPanel::Preview);
+  connect(map_, &CharacterMap::CursorMoved, this, [this](QRect cell) {
+    map_area_->ensureVisible(cell.center().x(), cell.center().y(), cell.width(), cell.height());
+  });
   connect(map_, &CharacterMap::Typed, this, [this](DisplayCode code) {
     if (Text1_->isEnabled()) {
       Text1_->insert(ToWidgetCharacter(code));
@@ -149,6 +156,8 @@ void EditorPanel::ConnectControls() {
       emit CopyMenuWanted({PixelsFromTwips(1200 + 190 * index), PixelsFromTwips(600)});
     });
   }
+  connect(Label6_, &MessageNumber::Clicked, this, &EditorPanel::NumberClicked);
+  connect(status_line_, &StatusLine::DetailsWanted, this, &EditorPanel::DetailsWanted);
   connect(Command1_, &QPushButton::clicked, this, &EditorPanel::HeightToggled);
   connect(Command2_, &QPushButton::clicked, this, &EditorPanel::MessageAdded);
 }
@@ -163,31 +172,33 @@ void EditorPanel::Show(const ViewState& view, const UiText& ui_text) {
   Text1_->Show(view);
   edit_frame_->setEnabled(view.Text1.enabled);
   HScroll1_->Show(view);
-  Label6_->setText(QString::number(view.Label6));
-  Label6_->setAccessibleDescription(Label6_->text());
-  status_text_ = FromUtf8(view.status);
-  ShowStatus();
-  Announce(*status_, status_text_);
+  Label6_->Show(view.Label6, view.HScroll1.enabled);
+  status_line_->Show(view, ui_text);
   for (std::size_t i = 0; i < Label8_.size(); ++i) {
     Label8_.at(i)->setEnabled(view.Label8Enabled.at(i));
     Label9_.at(i)->setVisible(view.Label9Visible);
   }
   Command1_->setEnabled(view.Command1Enabled);
   Command2_->setVisible(view.Command2Visible);
-  map_->setVisible(view.height > WindowState::kCompactHeight);
+  map_area_->setVisible(view.height > WindowState::kCompactHeight);
 }
 
-// At the bottom of the window, whatever its height. A path that is too long shows its two ends.
-void EditorPanel::ShowStatus() {
-  status_->setGeometry(kLeft, height() - kStatusHeight, kRight - kLeft, kStatusHeight);
-  status_->setText(
-      status_->fontMetrics().elidedText(status_text_, Qt::ElideMiddle, status_->width()));
-  status_->setToolTip(status_text_);
-}
-
+// The status stands at the bottom of the window, whatever its height. The map has what is left.
 void EditorPanel::resizeEvent(QResizeEvent* event) {
   QWidget::resizeEvent(event);
-  ShowStatus();
+  const int map_left = (kPanelWidth - CharacterMap::MapSize().width()) / 2;
+  const int status_top = height() - kStatusHeight;
+  map_area_->setGeometry(map_left, kMapTop, width() - map_left, status_top - kMapTop);
+  status_line_->setGeometry(kLeft, status_top, kRight - kLeft, kStatusHeight);
+}
+
+// Over the cells it pages as it does over the selector.
+void EditorPanel::wheelEvent(QWheelEvent* event) {
+  if (event->position().y() < kMapTop) {
+    QApplication::sendEvent(HScroll1_, event);
+  } else {
+    QWidget::wheelEvent(event);
+  }
 }
 
 // The character map has a fixed set of characters: only another font changes it.
@@ -226,18 +237,16 @@ void EditorPanel::SetEditorCaptions(const UiText& ui_text) {
   Command1_->setText(FromUtf8(ui_text[UiTextId::kFont]));
   Text1_->setAccessibleName(WithoutMnemonic(ui_text[UiTextId::kDestinationHeading]));
   Label6_->setAccessibleName(FromUtf8(ui_text[UiTextId::kMessageNumber]));
+  Label6_->setToolTip(FromUtf8(ui_text[UiTextId::kGoToMessage]) + QStringLiteral(" (") +
+                      QKeySequence(Qt::CTRL | Qt::Key_G).toString(QKeySequence::NativeText) +
+                      QLatin1Char(')'));
   HScroll1_->setAccessibleName(FromUtf8(ui_text[UiTextId::kMessage]));
+  HScroll1_->setToolTip(FromUtf8(ui_text[UiTextId::kStepKeys]));
   map_->setAccessibleName(FromUtf8(ui_text[UiTextId::kCharacterMap]));
   Command1_->setAccessibleName(FromUtf8(ui_text[UiTextId::kCharacterMap]));
   Command1_->setToolTip(FromUtf8(ui_text[UiTextId::kCharacterMap]));
   Label7_->setAccessibleName(FromUtf8(ui_text[UiTextId::kCharacterPreview]));
-  status_->setAccessibleName(FromUtf8(ui_text[UiTextId::kStatus]));
-}
-
-void EditorPanel::Step(int messages) {
-  if (HScroll1_->isEnabled()) {
-    HScroll1_->setValue(HScroll1_->value() + messages);
-  }
+  status_line_->SetCaptions(ui_text);
 }
 
 void EditorPanel::Preview(DisplayCode code) {

@@ -5,6 +5,7 @@
 #include <QLabel>
 #include <QPoint>
 #include <QPushButton>
+#include <QScrollArea>
 #include <QWidget>
 #include <array>
 #include <optional>
@@ -12,8 +13,10 @@
 #include "core/presentation/view_state.h"
 #include "desktop/main_window/character_map.h"
 #include "desktop/main_window/destination_edit.h"
+#include "desktop/main_window/message_number.h"
 #include "desktop/main_window/message_selector.h"
 #include "desktop/main_window/origin_label.h"
+#include "desktop/main_window/status_line.h"
 
 namespace vendlingua {
 
@@ -34,9 +37,6 @@ class EditorPanel : public QWidget {
   /// Captions the controls in the interface language.
   void SetEditorCaptions(const UiText& ui_text);
 
-  /// One message back or forward, while the selector is enabled.
-  void Step(int messages);
-
  signals:
   void Scrolled(int value);
   void TextChanged(const DisplayCodes& text);
@@ -49,34 +49,38 @@ class EditorPanel : public QWidget {
   void CharactersRefused(const QStringList& characters);
   /// The copy menu is wanted at `position`, relative to this panel.
   void CopyMenuWanted(const QPoint& position);
+  /// The number of the message was clicked.
+  void NumberClicked();
+  /// The status is to be shown in full.
+  void DetailsWanted();
   void HeightToggled();
   void MessageAdded();
 
  protected:
   void resizeEvent(QResizeEvent* event) override;
+  void wheelEvent(QWheelEvent* event) override;
 
  private:
   void PlaceControls();
   void ConnectControls();
   QLabel* AddLabel(const QString& name);
   void ShowDisplayType(std::size_t type);
-  void ShowStatus();
   void SetTextWidth(int label_width);
   void Preview(DisplayCode code);
 
   std::array<OriginLabel*, kOriginCells> Label5_{};
   DestinationEdit* Text1_ = nullptr;
   MessageSelector* HScroll1_;
-  QLabel* Label6_;
+  MessageNumber* Label6_;
   QLabel* Label7_;
   std::array<QLabel*, 2> Label8_{};
   std::array<QLabel*, 2> Label9_{};
   QPushButton* Command1_;
   QPushButton* Command2_;
   CharacterMap* map_ = nullptr;
+  QScrollArea* map_area_;
   QFrame* edit_frame_;
-  QLabel* status_;
-  QString status_text_;
+  StatusLine* status_line_;
   std::optional<std::size_t> display_type_;
   int text_width_ = 0;  // pixels, of all cells of a message
 };

@@ -2,9 +2,8 @@
 
 #include <QCloseEvent>
 #include <QIcon>
-#include <QKeySequence>
 #include <QMenuBar>
-#include <QShortcut>
+#include <QScreen>
 #include <algorithm>
 #include <exception>
 #include <memory>
@@ -15,6 +14,7 @@
 #include "core/operations/outside_changes.h"
 #include "core/platform/errors.h"
 #include "core/presentation/twips.h"
+#include "desktop/main_window/file_drop.h"
 #include "desktop/qt_text.h"
 
 // Resources of a static library have to be asked for, outside of any namespace.
@@ -43,6 +43,9 @@ FrmMes::FrmMes(Engine& engine, QtDialogs& dialogs, ProgramStarter& starter)
       starter_(starter),
       menus_(new MainMenus(*menuBar(), *this)),
       panel_(new EditorPanel(this)),
+      steps_(new MessageSteps(
+          engine, dialogs, [this](const auto& command, QWidget& window) { RunIn(window, command); },
+          *this)),
       dialogs_seen_(dialogs.opened()) {
   RegisterIcons();
   setObjectName(QStringLiteral("FrmMes"));
@@ -53,7 +56,7 @@ FrmMes::FrmMes(Engine& engine, QtDialogs& dialogs, ProgramStarter& starter)
   setCentralWidget(panel_);
   ConnectMenus();
   ConnectPanel();
-  AddShortcuts();
+  steps_->AddPageKeys();
   panel_->OfferInEditMenu(menus_->HistoryEntries());
   typing_pause_.setSingleShot(true);
   typing_pause_.setInterval(kTypingPause);
@@ -77,6 +80,9 @@ void FrmMes::ConnectMenus() {
   run(&MainMenus::OriginChosen, [this](int i) { engine_.languages.ChooseOrigin(i); });
   run(&MainMenus::DestinationChosen, [this](int i) { engine_.languages.ChooseDestination(i); });
   run(&MainMenus::NewLanguageChosen, [this](int i) { engine_.languages.StartNewLanguage(i); });
+  run(&MainMenus::NamedLanguageWanted, [this] { engine_.languages.StartNamedLanguage(); });
+  run(&MainMenus::RecentChosen,
+      [this](const std::filesystem::path& file) { engine_.opener.Open(file); });
   run(&MainMenus::DisplayTypeChosen,
       [this](int i) { engine_.editing.ChooseDisplayType(static_cast<std::size_t>(i)); });
   run(&MainMenus::InterfaceLanguageChosen, [this](int i) { ChooseLanguage(i); });
@@ -100,6 +106,9 @@ void FrmMes::ConnectPanel() {
   run(&EditorPanel::KeyPressed, [this] { engine_.editing.KeyPressed(); });
   run(&EditorPanel::CharacterDropped,
       [this](DisplayCode code, int x, int box_width) { engine_.editing.Drop(code, x, box_width); });
+  connect(panel_, &EditorPanel::NumberClicked, steps_, &MessageSteps::AskForMessage);
+  connect(panel_, &EditorPanel::DetailsWanted, this, &FrmMes::ShowDetails);
+  connect(new FileDrop(*this), &FileDrop::Dropped, this, &FrmMes::OpenFile);
   run(&EditorPanel::HeightToggled, [this] { ToggleHeight(); });
   run(&EditorPanel::MessageAdded, [this] { engine_.editing.AddMessage(dialogs_); });
   connect(panel_, &EditorPanel::CopyMenuWanted, this,
@@ -116,15 +125,8 @@ void FrmMes::ConnectPanel() {
       Qt::QueuedConnection);
 }
 
-void FrmMes::AddShortcuts() {
-  const auto step = [this](QKeyCombination key, int messages) {
-    auto* shortcut = new QShortcut(QKeySequence(key), this);
-    connect(shortcut, &QShortcut::activated, this, [this, messages] { panel_->Step(messages); });
-  };
-  step(Qt::Key_PageUp, -1);
-  step(Qt::Key_PageDown, 1);
-  step(Qt::ALT | Qt::Key_Left, -1);
-  step(Qt::ALT | Qt::Key_Right, 1);
+void FrmMes::OpenFile(const std::filesystem::path& file) {
+  Run([&] { engine_.opener.Open(file); });
 }
 
 void FrmMes::RunIn(QWidget& window, const std::function<void()>& command) {
@@ -147,8 +149,9 @@ void FrmMes::Mirror() {
   qt_texts_.Follow(workspace);
   file_watch_.Follow(workspace.set.CurrentFileName);
   setWindowTitle(FromUtf8(view.caption));
-  setFixedSize(PixelsFromTwips(kWindowWidth), PixelsFromTwips(view.height));
+  setFixedSize(PixelsFromTwips(kWindowWidth), HeightOnScreen(PixelsFromTwips(view.height)));
   menus_->Show(MenusOf(workspace));
+  menus_->NoteFile(workspace.set);
   if (captions_ != workspace.ui_text) {
     captions_ = workspace.ui_text;
     panel_->SetEditorCaptions(captions_);
@@ -256,6 +259,20 @@ void FrmMes::ChangeText(const DisplayCodes& text) {
 void FrmMes::ToggleHeight() {
   const int down = PixelsFromTwips(engine_.editing.ToggleHeight());
   move(x(), std::max(y() + down, 0));
+}
+
+// On a low screen the character map scrolls.
+int FrmMes::HeightOnScreen(int wanted) const {
+  const int frame = frameGeometry().height() - height();
+  return std::min(wanted, screen()->availableGeometry().height() - frame);
+}
+
+void FrmMes::ShowDetails() {
+  const std::string status = engine_.workspace.window.status;
+  Run([&] {
+    engine_.workspace.window.status = status;
+    dialogs_.MessageBox({MessageIcon::kInformation, status, ""});
+  });
 }
 
 void FrmMes::OpenCompiler() {

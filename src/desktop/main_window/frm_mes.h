@@ -4,6 +4,7 @@
 #include <QMainWindow>
 #include <QPointer>
 #include <QTimer>
+#include <filesystem>
 #include <functional>
 #include <memory>
 
@@ -18,6 +19,7 @@
 #include "desktop/main_window/editor_panel.h"
 #include "desktop/main_window/file_watch.h"
 #include "desktop/main_window/main_menus.h"
+#include "desktop/message_steps.h"
 #include "desktop/postponed_close.h"
 
 namespace vendlingua {
@@ -34,6 +36,9 @@ class FrmMes : public QMainWindow {
   /// an edit.
   void KeepEdits();
 
+  /// Opens a file as File, Open does once it is chosen.
+  void OpenFile(const std::filesystem::path& file);
+
  protected:
   void changeEvent(QEvent* event) override;
   void closeEvent(QCloseEvent* event) override;
@@ -41,7 +46,6 @@ class FrmMes : public QMainWindow {
  private:
   void ConnectMenus();
   void ConnectPanel();
-  void AddShortcuts();
 
   /// Does what the user asked for. The one place where errors are shown.
   void Run(const std::function<void()>& command) { RunIn(*this, command); }
@@ -57,6 +61,8 @@ class FrmMes : public QMainWindow {
   void ChooseLanguage(int index);
   void ChangeText(const DisplayCodes& text);
   void ToggleHeight();
+  void ShowDetails();
+  int HeightOnScreen(int wanted) const;
   void OpenCompiler();
   void OpenDesk();
   void OpenInfo();
@@ -66,6 +72,7 @@ class FrmMes : public QMainWindow {
   ProgramStarter& starter_;
   MainMenus* menus_;
   EditorPanel* panel_;
+  MessageSteps* steps_;
   UiText captions_;                    ///< of the editor
   std::unique_ptr<FrmDesk> frm_desk_;  ///< from when it is opened first
   QPointer<FrmMake> frm_make_;

@@ -79,6 +79,9 @@ void MainMenus::BuildFileMenu(QMenuBar& menu_bar) {
   mnuSaas_->setShortcut(QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_S));
   connect(mnuSaas_, &QAction::triggered, this, &MainMenus::SaveAsChosen);
   mnuFile_->addSeparator();
+  mnuRecent_ = new RecentFiles(mnuFile_);
+  mnuFile_->addMenu(mnuRecent_);
+  connect(mnuRecent_, &RecentFiles::Chosen, this, &MainMenus::RecentChosen);
   mnuDesk_ = AddAction(*mnuFile_, "mnuDesk");
   mnuDesk_->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_L));
   connect(mnuDesk_, &QAction::triggered, this, &MainMenus::DeskChosen);
@@ -90,7 +93,7 @@ void MainMenus::BuildFileMenu(QMenuBar& menu_bar) {
 
 void MainMenus::BuildLanguageMenus(QMenuBar& menu_bar) {
   mnuOrig_ = AddMenu(menu_bar, "mnuOrig");
-  mnuori_ = AddArray(*mnuOrig_, "mnuori", 0, kLanguageEntries, &MainMenus::OriginChosen, false);
+  mnuori_ = AddArray(*mnuOrig_, "mnuori", 0, kLanguageEntries, &MainMenus::OriginChosen, true);
 
   mnuDest_ = AddMenu(menu_bar, "mnuDest");
   mnuDes0_ = mnuDest_->addMenu(QIcon(QStringLiteral(":/icons/plus.svg")), QString());
@@ -99,8 +102,11 @@ void MainMenus::BuildLanguageMenus(QMenuBar& menu_bar) {
   mnuNew_ =
       AddArray(*mnuDes0_, "mnuNew", 0, kLanguageEntries, &MainMenus::NewLanguageChosen, false);
   mnuDes_ =
-      AddArray(*mnuDest_, "mnuDes", 1, kLanguageEntries - 1, &MainMenus::DestinationChosen, false);
+      AddArray(*mnuDest_, "mnuDes", 1, kLanguageEntries - 1, &MainMenus::DestinationChosen, true);
   mnuDes_.insert(mnuDes_.begin(), mnuDes0_->menuAction());
+  mnuDest_->addSeparator();
+  mnuNewLanguage_ = AddAction(*mnuDest_, "mnuNewLanguage");
+  connect(mnuNewLanguage_, &QAction::triggered, this, &MainMenus::NamedLanguageWanted);
 }
 
 void MainMenus::BuildCopyMenu(QWidget& window) {
@@ -141,10 +147,12 @@ void MainMenus::Show(const MenuState& menus) {
   ShowEntry(*mnuOpen_, menus.mnuOpen);
   ShowEntry(*mnuSave_, menus.mnuSave);
   ShowEntry(*mnuSaas_, menus.mnuSaas);
+  ShowEntry(*mnuRecent_->menuAction(), menus.mnuRecent);
   ShowEntry(*mnuDesk_, menus.mnuDesk);
   ShowEntry(*mnuEsci_, menus.mnuEsci);
   ShowEntry(*mnuOrig_->menuAction(), menus.mnuOrig);
   ShowEntry(*mnuDest_->menuAction(), menus.mnuDest);
+  ShowEntry(*mnuNewLanguage_, menus.mnuNewLanguage);
   ShowEntry(*mnuMake_, menus.mnuMake);
   ShowEntry(*mnuTLCD_->menuAction(), menus.mnuTLCD);
   ShowEntry(*mnuLingue_->menuAction(), menus.mnuLingue);

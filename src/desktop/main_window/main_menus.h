@@ -7,9 +7,11 @@
 #include <QMenuBar>
 #include <QObject>
 #include <QPoint>
+#include <filesystem>
 #include <vector>
 
 #include "core/presentation/menu_state.h"
+#include "desktop/main_window/recent_files.h"
 
 namespace vendlingua {
 
@@ -22,6 +24,9 @@ class MainMenus : public QObject {
 
   /// Shows captions, visibility, enabled and checked states.
   void Show(const MenuState& menus);
+
+  /// The file that is open is a recent one from now on.
+  void NoteFile(const MessageSet& set) { mnuRecent_->Note(set); }
 
   /// Take an edit back and do it again; they belong into the menu of the edit box.
   QList<QAction*> HistoryEntries() const { return {mnuUndo_, mnuRedo_}; }
@@ -36,11 +41,14 @@ class MainMenus : public QObject {
   void OpenChosen();
   void SaveChosen();
   void SaveAsChosen();
+  void RecentChosen(const std::filesystem::path& file);
   void DeskChosen();
   void ExitChosen();
   void OriginChosen(int language);
   void DestinationChosen(int language);
   void NewLanguageChosen(int language);
+  /// A blank language is wanted, which is named first.
+  void NamedLanguageWanted();
   void CompilerChosen();
   void DisplayTypeChosen(int type);
   void InterfaceLanguageChosen(int index);
@@ -63,11 +71,13 @@ class MainMenus : public QObject {
   QAction* mnuOpen_ = nullptr;
   QAction* mnuSave_ = nullptr;
   QAction* mnuSaas_ = nullptr;
+  RecentFiles* mnuRecent_ = nullptr;
   QAction* mnuDesk_ = nullptr;
   QAction* mnuEsci_ = nullptr;
   QMenu* mnuOrig_ = nullptr;
   QMenu* mnuDest_ = nullptr;
   QMenu* mnuDes0_ = nullptr;
+  QAction* mnuNewLanguage_ = nullptr;
   QAction* mnuMake_ = nullptr;
   QMenu* mnuTLCD_ = nullptr;
   QMenu* mnuLingue_ = nullptr;

@@ -224,5 +224,32 @@ TEST_F(MesEditingTest, DoesNotMarkTheSetChangedForAKeyWithoutADestination) {
   EXPECT_EQ(set_.Modified, kFalse);
 }
 
+class BoardCellTest : public MesEditingTest {
+ protected:
+  BoardCellTest() {
+    workspace_.ui_text.Set(static_cast<std::size_t>(UiTextId::kBoardWritesHere), "the board's");
+    Show(1);
+  }
+
+  // What the status says when "No." becomes `text`; the board writes in the fifth and sixth cell.
+  std::string StatusOf(std::string_view text) {
+    window_.status.clear();
+    editing_.ChangeText(Codes(text));
+    return window_.status;
+  }
+};
+
+TEST_F(BoardCellTest, TypingThereIsTold) { EXPECT_EQ(StatusOf("No. X"), "the board's"); }
+
+TEST_F(BoardCellTest, BlanksThereAreNot) { EXPECT_EQ(StatusOf("No.  "), ""); }
+
+TEST_F(BoardCellTest, TypingBesideThemIsNot) { EXPECT_EQ(StatusOf("Nr. "), ""); }
+
+TEST_F(BoardCellTest, WhatStandsThereIsToldOnce) {
+  StatusOf("No. X");
+  EXPECT_EQ(StatusOf("Nr. X"), "");
+  EXPECT_EQ(StatusOf("Nr. XY"), "the board's");
+}
+
 }  // namespace
 }  // namespace vendlingua

@@ -122,6 +122,29 @@ TEST_F(MessageFileOpenerTest, IgnoresAFileOfAnotherType) {
   EXPECT_THAT(dialogs_.messages, IsEmpty());
 }
 
+TEST_F(MessageFileOpenerTest, SaysThatAFileOfAnotherTypeIsNone) {
+  engine_.workspace.ui_text.Set(static_cast<std::size_t>(UiTextId::kNoMessageFile), "no messages");
+  Open("TEST.TXT", "");
+  EXPECT_EQ(window_.status, "TEST.TXT: no messages");
+}
+
+TEST_F(MessageFileOpenerTest, OpensAFileThatWasChosenElsewhere) {
+  EditAFile();
+  const fs::path file = folder_.Write("OTHER.MES", MesFile().Bytes());
+  EXPECT_EQ(engine_.opener.Open(file), OpenOutcome::kOpened);
+  EXPECT_EQ(set_.CurrentFileName, file);
+  EXPECT_EQ(engine_.workspace.folders.current, folder_.path());
+  EXPECT_THAT(dialogs_.open_requests, IsEmpty());
+}
+
+TEST_F(MessageFileOpenerTest, OffersToSaveChangesBeforeItOpensAFileThatWasChosenElsewhere) {
+  EditAFile();
+  Modify();
+  dialogs_.yes_no_answers = {MessageAnswer::kYes};
+  engine_.opener.Open(folder_.Write("OTHER.MES", MesFile().Bytes()));
+  EXPECT_THAT(Slurp(folder_ / "EDITED.MES"), HasSubstr("NEW 11111222"));
+}
+
 TEST_F(MessageFileOpenerTest, OffersToSaveChangesBeforeItAsksForAFile) {
   EditAFile();
   Modify();

@@ -74,5 +74,18 @@ TEST_F(DisplayTypeTest, MarksTheSetChangedForAChoiceAfterLoading) {
   EXPECT_EQ(set_.Modified, kTrue);
 }
 
+TEST_F(DisplayTypeTest, SaysWhichTypesTheFileDoesNotKeep) {
+  workspace_.ui_text.Set(static_cast<std::size_t>(UiTextId::kDisplayTypeNotKept), "not kept");
+  set_.CurrentFileType = kMesType;
+  editing_.ChooseDisplayType(2);
+  EXPECT_EQ(window_.status, "");
+  editing_.ChooseDisplayType(3);
+  EXPECT_EQ(window_.status, "not kept");
+  window_.status.clear();
+  set_.CurrentFileType = kMsxType;
+  editing_.ChooseDisplayType(0);
+  EXPECT_EQ(window_.status, "not kept");
+}
+
 }  // namespace
 }  // namespace vendlingua
