@@ -19,9 +19,10 @@ STANDS_ON = {
     "core/document": FOR_ALL,
     "core/layout": (*FOR_ALL, "core/document"),
     "core/formats": (*FOR_ALL, "core/document"),
-    "core/operations": (*FOR_ALL, "core/document", "core/formats"),
+    "core/operations": (*FOR_ALL, "core/document", "core/formats", "core/marks"),
     "core/flash": (*FOR_ALL, "core/document", "core/formats"),
     "core/proof": (*FOR_ALL, "core/document"),
+    "core/marks": (*FOR_ALL, "core/document", "core/formats"),
     "core/checks": (*FOR_ALL, "core/document", "core/layout", "core/formats"),
     "core/exchange": (*FOR_ALL, "core/document", "core/layout", "core/formats"),
     "core/compare": (*FOR_ALL, "core/document", "core/formats"),
@@ -31,6 +32,7 @@ STANDS_ON = {
         "core/document",
         "core/formats",
         "core/proof",
+        "core/marks",
         "core/checks",
         "core/exchange",
         "core/transfer",
@@ -46,9 +48,9 @@ STANDS_ON = {
         "core/exchange",
         "core/compare",
         "core/transfer",
+        "core/desk",
     ),
     "core": ("core",),
-        "core/desk",
     "cli": ("core",),
     "manual": ("core", "cli"),
     "desktop": ("core",),
@@ -60,7 +62,12 @@ LIBRARIES = {
     "CLI11": re.compile(r"CLI/"),
     "nlohmann-json": re.compile(r"nlohmann/"),
 }
-MAY_USE = {"desktop": {"Qt"}, "cli": {"CLI11", "nlohmann-json"}, "manual": {"CLI11"}}
+MAY_USE = {
+    "desktop": {"Qt"},
+    "cli": {"CLI11", "nlohmann-json"},
+    "manual": {"CLI11"},
+    "core/marks": {"nlohmann-json"},
+}
 
 INCLUDE = re.compile(r'^\s*#\s*include\s+(?:"([^"]+)"|<([^>]+)>)', re.MULTILINE)
 
@@ -83,7 +90,7 @@ def problems_of(source: str, text: str) -> list[str]:
         if target and not any(target == a or target.startswith(a + "/") for a in allowed):
             problems.append(f"src/{source}: includes {own}, which does not stand below {folder}")
         for library, pattern in LIBRARIES.items():
-            if pattern.match(foreign) and library not in MAY_USE.get(folder.split("/")[0], set()):
+            if pattern.match(foreign) and library not in MAY_USE.get(folder, set()):
                 problems.append(f"src/{source}: includes <{foreign}>: {library} is not for this folder")
     return problems
 

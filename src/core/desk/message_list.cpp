@@ -1,14 +1,15 @@
 #include "core/desk/message_list.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "core/desk/row_state.h"
 
 namespace vendlingua {
 namespace {
 
-bool PassesFilter(const MessageSet& set, const LiveFindings& findings, std::size_t message,
-                  MessageFilter filter) {
+bool PassesFilter(const MessageSet& set, const LiveFindings& findings, const DocumentMarks& marks,
+                  std::size_t message, MessageFilter filter) {
   switch (filter) {
     case MessageFilter::kToDo:
       return IsToDo(set, message);
@@ -16,6 +17,8 @@ bool PassesFilter(const MessageSet& set, const LiveFindings& findings, std::size
       return IsChanged(set, message);
     case MessageFilter::kFindings:
       return !findings.Of(message).empty();
+    case MessageFilter::kMarked:
+      return !marks.Of(message).IsEmpty();
     case MessageFilter::kAll:
       break;
   }
@@ -26,8 +29,13 @@ bool TextIsBefore(const DisplayText& a, const DisplayText& b) {
   return std::ranges::lexicographical_compare(a.Cells(), b.Cells());
 }
 
-bool IsBefore(const MessageSet& set, const LiveFindings& findings, MessageOrder order,
-              std::size_t a, std::size_t b) {
+// What has only a remark stands before what has nothing.
+bool MarkIsBefore(const MessageMark& a, const MessageMark& b) {
+  return std::pair(a.mark, a.remark.empty()) < std::pair(b.mark, b.remark.empty());
+}
+
+bool IsBefore(const MessageSet& set, const LiveFindings& findings, const DocumentMarks& marks,
+              MessageOrder order, std::size_t a, std::size_t b) {
   switch (order) {
     case MessageOrder::kOrigin:
       return TextIsBefore(set.OriginText.at(a), set.OriginText.at(b));
@@ -37,6 +45,8 @@ bool IsBefore(const MessageSet& set, const LiveFindings& findings, MessageOrder 
       return CellsUsed(set, a) < CellsUsed(set, b);
     case MessageOrder::kState:
       return StateOf(set, findings, a) < StateOf(set, findings, b);
+    case MessageOrder::kMark:
+      return MarkIsBefore(marks.Of(a), marks.Of(b));
     case MessageOrder::kNumber:
       break;
   }
@@ -58,19 +68,19 @@ std::optional<std::size_t> NextToDoInSteps(const MessageSet& set, std::size_t me
 }  // namespace
 
 std::vector<std::size_t> ListMessages(const MessageSet& set, const LiveFindings& findings,
-                                      const ListWishes& wishes) {
+                                      const DocumentMarks& marks, const ListWishes& wishes) {
   std::vector<std::size_t> messages;
   if (set.phase < Phase::kOriginChosen) {
     return messages;
   }
   for (std::size_t message = 0; message < set.MessageCount(); ++message) {
-    if (PassesFilter(set, findings, message, wishes.filter)) {
+    if (PassesFilter(set, findings, marks, message, wishes.filter)) {
       messages.push_back(message);
     }
   }
   std::ranges::stable_sort(messages, [&](std::size_t a, std::size_t b) {
-    return wishes.descending ? IsBefore(set, findings, wishes.order, b, a)
-                             : IsBefore(set, findings, wishes.order, a, b);
+    return wishes.descending ? IsBefore(set, findings, marks, wishes.order, b, a)
+                             : IsBefore(set, findings, marks, wishes.order, a, b);
   });
   return messages;
 }

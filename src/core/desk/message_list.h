@@ -7,14 +7,15 @@
 
 #include "core/desk/live_findings.h"
 #include "core/document/message_set.h"
+#include "core/marks/document_marks.h"
 
 namespace vendlingua {
 
 /// Which messages are listed.
-enum class MessageFilter { kAll, kToDo, kChanged, kFindings };
+enum class MessageFilter { kAll, kToDo, kChanged, kFindings, kMarked };
 
 /// What they are sorted by; among equals by their numbers.
-enum class MessageOrder { kNumber, kOrigin, kDestination, kCells, kState };
+enum class MessageOrder { kNumber, kOrigin, kDestination, kCells, kState, kMark };
 
 struct ListWishes {
   MessageFilter filter = MessageFilter::kAll;
@@ -27,7 +28,7 @@ struct ListWishes {
 /// The numbers of the messages in the order in which they are listed; none before an origin is
 /// chosen.
 std::vector<std::size_t> ListMessages(const MessageSet& set, const LiveFindings& findings,
-                                      const ListWishes& wishes);
+                                      const DocumentMarks& marks, const ListWishes& wishes);
 
 /// The next message behind `message` that is to do, beginning anew behind the last one; nothing
 /// when no other is.

@@ -11,6 +11,7 @@
 #include "core/formats/mes_layout.h"
 #include "core/formats/mes_patch.h"
 #include "core/formats/msx_lines.h"
+#include "core/marks/marks_file.h"
 #include "core/operations/new_language.h"
 #include "core/platform/errors.h"
 #include "core/platform/files.h"
@@ -46,9 +47,9 @@ SaveOutcome MessageFileWriter::Save() {
     workspace_.window.status = workspace_.ui_text[UiTextId::kNotSaved] + " " + outcome.reason;
     workspace_.set.Modified = kFalse;
     workspace_.set.save_failed = true;
-  }
     // Another program may have taken the name of a new language: the next save asks for one.
     workspace_.set.new_language_name.reset();
+  }
   return outcome;
 }
 
@@ -186,8 +187,8 @@ void MessageFileWriter::PatchMes(const std::optional<NameField>& new_name, const
   });
   if (new_name && set.phase == Phase::kDestinationUnnamed) {
     set.phase = Phase::kDestinationOpen;
-  }
     set.new_language_name.reset();
+  }
   if (new_name && set.phase >= Phase::kOriginChosen) {
     reader_.Load(set.file_content);
   }
@@ -238,8 +239,10 @@ SaveOutcome MessageFileWriter::SaveAs() {
   }
   RequireReplaceable(path);
   Rollback rollback(workspace_);
+  const fs::path original = set.CurrentFileName;
   SaveOutcome outcome = Write(path);
   rollback.Keep();
+  CopyMarks(original, path);
   TellSaved();
   return outcome;
 }

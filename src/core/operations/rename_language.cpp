@@ -2,10 +2,13 @@
 
 #include <cstddef>
 #include <optional>
+#include <string>
+#include <utility>
 #include <vector>
 
 #include "core/document/name_field.h"
 #include "core/formats/mes_layout.h"
+#include "core/marks/marks_file.h"
 #include "core/operations/message_file_change.h"
 #include "core/operations/taken_names.h"
 #include "core/platform/errors.h"
@@ -52,11 +55,13 @@ std::vector<FilePatch> NamePatches(const MessageSet& set) {
 
 void RenameLanguage(Workspace& workspace, Dialogs& dialogs, int language, const NameField& name) {
   MessageSet& set = workspace.set;
-  set.language_names.at(static_cast<std::size_t>(language)) = name.Caption();
+  std::string& listed = set.language_names.at(static_cast<std::size_t>(language));
+  const std::string old_name = std::exchange(listed, name.Caption());
   set.LangStride = MesLangStride(set.MemLength, set.LangCount, set.Width());
   set.BlockLength = MesBlockLength(set.LastCol, set.LangStride);
   ChangeMessageFile(workspace, dialogs,
                     [&set](const std::string& /*content*/) { return NamePatches(set); });
+  RenameInMarks(set.CurrentFileName, old_name, name.Caption());
 }
 
 void RenameLanguage(Workspace& workspace, Dialogs& dialogs, int language) {

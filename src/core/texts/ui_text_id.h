@@ -259,6 +259,13 @@ enum class UiTextId : std::size_t {
   kRecentFiles,
   kHelp,
   kDisplayTypeNotKept,
+  kMark,
+  kNoMark,
+  kMarkedDone,
+  kNeedsWork,
+  kRemark,
+  kMarkedMessages,
+  kMarksUnreadable,
 };
 
 }  // namespace vendlingua

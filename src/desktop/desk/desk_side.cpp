@@ -21,15 +21,17 @@ QString MemoryKey() { return QStringLiteral("memory"); }
 
 }  // namespace
 
-DeskSide::DeskSide(Engine& engine, Dialogs& dialogs, const LiveFindings& findings, RunCommand run,
-                   QWidget* parent)
+DeskSide::DeskSide(Engine& engine, Dialogs& dialogs, const LiveFindings& findings,
+                   DocumentMarks& marks, RunCommand run, QWidget* parent)
     : QWidget(parent),
       engine_(engine),
       dialogs_(dialogs),
       workspace_(engine.workspace),
       findings_(findings),
+      marks_(marks),
       run_(std::move(run)),
       glass_(new GlassPanel(workspace_, this)),
+      mark_(new MarkPanel(this)),
       pages_(new QTabWidget(this)),
       suggestions_(new SuggestionsPage(workspace_, pages_)),
       findings_page_(new FindingsPage(pages_)),
@@ -41,8 +43,12 @@ DeskSide::DeskSide(Engine& engine, Dialogs& dialogs, const LiveFindings& finding
   auto* layout = new QVBoxLayout(this);
   layout->setContentsMargins(0, 0, 0, 0);
   layout->addWidget(glass_);
+  layout->addWidget(mark_);
   layout->addWidget(pages_, 1);
   connect(glass_, &GlassPanel::SaveWanted, this, &DeskSide::SavePicture);
+  connect(mark_, &MarkPanel::Marked, this, [this](std::size_t message, const MessageMark& mark) {
+    Run([&] { marks_.Put(message, mark); });
+  });
   ConnectSuggestions();
   ConnectFindings();
   ConnectLanguages();
@@ -75,6 +81,7 @@ void DeskSide::ConnectLanguages() {
 
 void DeskSide::Mirror() {
   glass_->Mirror();
+  mark_->Show(marks_, workspace_.set.current_message, workspace_.ui_text);
   suggestions_->Mirror();
   const std::vector<Finding> findings = findings_.All();
   findings_page_->Show(findings, workspace_.set.current_message);
@@ -87,6 +94,7 @@ void DeskSide::Mirror() {
 
 void DeskSide::SetCaptions(const UiText& ui_text) {
   glass_->SetCaptions(ui_text);
+  mark_->SetCaptions(ui_text);
   suggestions_->SetCaptions(ui_text);
   findings_page_->SetCaptions(ui_text);
   languages_->SetCaptions(ui_text);

@@ -10,10 +10,12 @@
 
 #include "core/desk/live_findings.h"
 #include "core/engine.h"
+#include "core/marks/document_marks.h"
 #include "core/texts/ui_sentence.h"
 #include "desktop/desk/findings_page.h"
 #include "desktop/desk/glass_panel.h"
 #include "desktop/desk/languages_page.h"
+#include "desktop/desk/mark_panel.h"
 #include "desktop/desk/suggestions_page.h"
 #include "desktop/run_command.h"
 
@@ -25,8 +27,8 @@ class DeskSide : public QWidget {
   Q_OBJECT
 
  public:
-  DeskSide(Engine& engine, Dialogs& dialogs, const LiveFindings& findings, RunCommand run,
-           QWidget* parent);
+  DeskSide(Engine& engine, Dialogs& dialogs, const LiveFindings& findings, DocumentMarks& marks,
+           RunCommand run, QWidget* parent);
 
   void Mirror();
   void SetCaptions(const UiText& ui_text);
@@ -35,6 +37,10 @@ class DeskSide : public QWidget {
 
   /// Mends the finding that is chosen.
   void Fix() { findings_page_->Fix(); }
+  /// Gives the current message the next mark.
+  void StepMark() { mark_->Step(); }
+  /// What is being typed counts before another message is shown.
+  void FinishRemark() { mark_->Finish(); }
   /// Takes a suggestion, or shows them first.
   void TakeSuggestion(int row);
 
@@ -54,8 +60,10 @@ class DeskSide : public QWidget {
   Dialogs& dialogs_;
   Workspace& workspace_;
   const LiveFindings& findings_;
+  DocumentMarks& marks_;
   RunCommand run_;
   GlassPanel* glass_;
+  MarkPanel* mark_;
   QTabWidget* pages_;
   SuggestionsPage* suggestions_;
   FindingsPage* findings_page_;

@@ -11,13 +11,15 @@ namespace vendlingua {
 namespace {
 
 constexpr int kNumberDigits = 5;
+constexpr int kStateLetters = 13;
 
 }  // namespace
 
-DeskTable::DeskTable(const Workspace& workspace, const LiveFindings& findings, QWidget* parent)
+DeskTable::DeskTable(const Workspace& workspace, const LiveFindings& findings,
+                     const DocumentMarks& marks, QWidget* parent)
     : QTableView(parent),
       workspace_(workspace),
-      messages_(new MessageTable(workspace, findings, this)),
+      messages_(new MessageTable(workspace, findings, marks, this)),
       cells_(new CellsDelegate(workspace, *messages_, this)) {
   setObjectName(QStringLiteral("DeskTable"));
   setModel(messages_);
@@ -77,6 +79,7 @@ void DeskTable::SetColumnWidths() {
   setColumnWidth(MessageTable::kOrigin, cells);
   setColumnWidth(MessageTable::kDestination, cells);
   setColumnWidth(MessageTable::kCells, letter * (kNumberDigits + 4));
+  setColumnWidth(MessageTable::kState, letter * kStateLetters);
 }
 
 void DeskTable::ShowCurrentMessage() {

@@ -16,7 +16,8 @@ class DeskTable : public QTableView {
   Q_OBJECT
 
  public:
-  DeskTable(const Workspace& workspace, const LiveFindings& findings, QWidget* parent);
+  DeskTable(const Workspace& workspace, const LiveFindings& findings, const DocumentMarks& marks,
+            QWidget* parent);
 
   /// Shows the document and its current message.
   void Mirror();

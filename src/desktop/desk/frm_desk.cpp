@@ -20,12 +20,13 @@
 namespace vendlingua {
 namespace {
 
-constexpr QSize kFirstSize(1080, 680);
+constexpr QSize kFirstSize(1140, 680);
 constexpr int kSuggestionKeys = 9;
 
 // By MessageFilter.
-constexpr std::array<UiTextId, 4> kFilters = {UiTextId::kAllMessages, UiTextId::kToDo,
-                                              UiTextId::kChangedMessages, UiTextId::kWithFindings};
+constexpr std::array<UiTextId, 5> kFilters = {UiTextId::kAllMessages, UiTextId::kToDo,
+                                              UiTextId::kChangedMessages, UiTextId::kWithFindings,
+                                              UiTextId::kMarkedMessages};
 
 QString WindowKey() { return QStringLiteral("window"); }
 QString ColumnsKey() { return QStringLiteral("columns"); }
@@ -42,10 +43,10 @@ FrmDesk::FrmDesk(Engine& engine, Dialogs& dialogs, RunCommand run)
       find_bar_(new FindBar(this)),
       filter_(new QComboBox(this)),
       parts_(new QSplitter(this)),
-      table_(new DeskTable(workspace_, findings_, parts_)),
+      table_(new DeskTable(workspace_, findings_, marks_, parts_)),
       finder_(new Finder(workspace_, *find_bar_, table_->messages())),
       steps_(new MessageSteps(engine, dialogs, run_, *this)),
-      side_(new DeskSide(engine, dialogs, findings_, run_, parts_)),
+      side_(new DeskSide(engine, dialogs, findings_, marks_, run_, parts_)),
       status_(new QLabel(this)),
       progress_(new QLabel(this)) {
   setObjectName(QStringLiteral("FrmDesk"));
@@ -61,6 +62,7 @@ FrmDesk::FrmDesk(Engine& engine, Dialogs& dialogs, RunCommand run)
   ConnectFinder();
   AddShortcuts();
   findings_.Follow(workspace_.set);
+  marks_.Follow(workspace_.set);
   table_->Mirror();
   Restore();
 }
@@ -119,6 +121,7 @@ void FrmDesk::AddShortcuts() {
   add(Qt::CTRL | Qt::Key_F, [this] { find_bar_->Begin(); });
   add(Qt::Key_F3, [this] { finder_->GoToNext(); });
   add(Qt::SHIFT | Qt::Key_F3, [this] { finder_->GoToPrevious(); });
+  add(Qt::CTRL | Qt::Key_M, [this] { side_->StepMark(); });
   add(Qt::Key_F4, [this] { side_->Fix(); });
   for (int row = 0; row < kSuggestionKeys; ++row) {
     add(QKeyCombination(Qt::CTRL, static_cast<Qt::Key>(Qt::Key_1 + row)),
@@ -134,6 +137,7 @@ void FrmDesk::Mirror() {
     SetCaptions();
   }
   findings_.Follow(workspace_.set);
+  marks_.Follow(workspace_.set);
   table_->Mirror();
   side_->Mirror();
   const std::string& status = workspace_.window.status;
@@ -181,7 +185,15 @@ void FrmDesk::Store() const {
   settings.setValue(FilterKey(), filter_->currentIndex());
 }
 
+void FrmDesk::changeEvent(QEvent* event) {
+  QWidget::changeEvent(event);
+  if (event->type() == QEvent::ActivationChange && !isActiveWindow()) {
+    side_->FinishRemark();
+  }
+}
+
 void FrmDesk::closeEvent(QCloseEvent* event) {
+  side_->FinishRemark();
   Store();
   QWidget::closeEvent(event);
 }

@@ -35,6 +35,7 @@ class FrmDesk : public QWidget {
   void TextTyped(const DisplayCodes& text);
 
  protected:
+  void changeEvent(QEvent* event) override;
   void closeEvent(QCloseEvent* event) override;
   void showEvent(QShowEvent* event) override;
 
@@ -58,6 +59,7 @@ class FrmDesk : public QWidget {
   Workspace& workspace_;
   RunCommand run_;
   LiveFindings findings_;
+  DocumentMarks marks_;
   FindBar* find_bar_;
   QComboBox* filter_;
   QSplitter* parts_;

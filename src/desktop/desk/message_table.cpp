@@ -12,8 +12,8 @@ namespace vendlingua {
 namespace {
 
 constexpr std::array<UiTextId, MessageTable::kColumns> kHeadings = {
-    UiTextId::kNumber, UiTextId::kOriginHeading, UiTextId::kDestinationHeading, UiTextId::kCells,
-    UiTextId::kState};
+    UiTextId::kNumber, UiTextId::kOriginHeading, UiTextId::kDestinationHeading,
+    UiTextId::kCells,  UiTextId::kState,         UiTextId::kMark};
 
 UiTextId WordFor(RowState state) {
   switch (state) {
@@ -32,10 +32,11 @@ UiTextId WordFor(RowState state) {
 }  // namespace
 
 MessageTable::MessageTable(const Workspace& workspace, const LiveFindings& findings,
-                           QObject* parent)
+                           const DocumentMarks& marks, QObject* parent)
     : QAbstractTableModel(parent),
       workspace_(workspace),
       findings_(findings),
+      marks_(marks),
       state_icons_{
           QIcon(QStringLiteral(":/icons/finding.svg")), QIcon(QStringLiteral(":/icons/todo.svg")),
           QIcon(QStringLiteral(":/icons/changed.svg")), QIcon(QStringLiteral(":/icons/done.svg"))} {
@@ -58,7 +59,7 @@ void MessageTable::Mirror() {
 void MessageTable::MakeList() {
   beginResetModel();
   source_ = CurrentSource();
-  messages_ = ListMessages(workspace_.set, findings_, wishes_);
+  messages_ = ListMessages(workspace_.set, findings_, marks_, wishes_);
   rows_.assign(workspace_.set.MessageCount(), -1);
   for (std::size_t row = 0; row < messages_.size(); ++row) {
     rows_[messages_[row]] = static_cast<int>(row);
@@ -129,7 +130,7 @@ QString MessageTable::TextOf(std::size_t message, int column) const {
   if (column == kCells) {
     return FromUtf8(fmt::format("{}/{}", CellsUsed(set, message), set.Width()));
   }
-  return StateTextOf(message);
+  return column == kState ? StateTextOf(message) : MarkTextOf(message);
 }
 
 QString MessageTable::StateTextOf(std::size_t message) const {
@@ -141,6 +142,17 @@ QString MessageTable::StateTextOf(std::size_t message) const {
   const auto& findings = findings_.Of(message);
   const auto urgent = std::ranges::min_element(findings, {}, &Finding::severity);
   return QStringLiteral("%1: %2").arg(word, FromUtf8(SentenceOf(*urgent, workspace_.ui_text)));
+}
+
+QString MessageTable::MarkTextOf(std::size_t message) const {
+  const MessageMark& mark = marks_.Of(message);
+  const QString remark = FromUtf8(mark.remark);
+  if (mark.mark == Mark::kNone) {
+    return remark;
+  }
+  const UiTextId id = mark.mark == Mark::kDone ? UiTextId::kMarkedDone : UiTextId::kNeedsWork;
+  const QString word = FromUtf8(workspace_.ui_text[id]);
+  return remark.isEmpty() ? word : QStringLiteral("%1: %2").arg(word, remark);
 }
 
 QString MessageTable::FindingsOf(std::size_t message) const {
@@ -170,7 +182,9 @@ QVariant MessageTable::data(const QModelIndex& index, int role) const {
                        static_cast<std::size_t>(StateOf(workspace_.set, findings_, message)))
                  : QVariant();
     case Qt::ToolTipRole:
-      return index.column() == kState ? QVariant(FindingsOf(message)) : QVariant();
+      return index.column() == kState  ? QVariant(FindingsOf(message))
+             : index.column() == kMark ? QVariant(MarkTextOf(message))
+                                       : QVariant();
     case Qt::TextAlignmentRole:
       return index.column() == kNumber || index.column() == kCells
                  ? QVariant::fromValue(Qt::Alignment(Qt::AlignRight | Qt::AlignVCenter))

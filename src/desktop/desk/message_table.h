@@ -14,6 +14,7 @@
 #include "core/desk/message_list.h"
 #include "core/desk/row_state.h"
 #include "core/document/workspace.h"
+#include "core/marks/document_marks.h"
 #include "desktop/desk/cell_painting.h"
 #include "desktop/desk/text_search.h"
 
@@ -26,10 +27,11 @@ class MessageTable : public QAbstractTableModel {
   Q_OBJECT
 
  public:
-  enum Column { kNumber, kOrigin, kDestination, kCells, kState };
-  static constexpr int kColumns = 5;
+  enum Column { kNumber, kOrigin, kDestination, kCells, kState, kMark };
+  static constexpr int kColumns = 6;
 
-  MessageTable(const Workspace& workspace, const LiveFindings& findings, QObject* parent);
+  MessageTable(const Workspace& workspace, const LiveFindings& findings, const DocumentMarks& marks,
+               QObject* parent);
 
   /// The document has changed.
   void Mirror();
@@ -62,9 +64,11 @@ class MessageTable : public QAbstractTableModel {
   QString TextOf(std::size_t message, int column) const;
   QString StateTextOf(std::size_t message) const;
   QString FindingsOf(std::size_t message) const;
+  QString MarkTextOf(std::size_t message) const;
 
   const Workspace& workspace_;
   const LiveFindings& findings_;
+  const DocumentMarks& marks_;
   std::array<QIcon, 4> state_icons_;  // by RowState
   ListWishes wishes_;
   TextSearch search_;

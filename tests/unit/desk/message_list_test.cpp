@@ -33,44 +33,48 @@ class MessageListTest : public testing::Test {
 
   MessageSet set_;
   LiveFindings findings_;
+  DocumentMarks marks_;
 };
 
 TEST_F(MessageListTest, ListsNothingWithoutAnOrigin) {
   set_.phase = Phase::kFileOpen;
-  EXPECT_THAT(ListMessages(set_, findings_, {}), IsEmpty());
+  EXPECT_THAT(ListMessages(set_, findings_, marks_, {}), IsEmpty());
 }
 
 TEST_F(MessageListTest, ListsAllMessagesByNumber) {
-  EXPECT_THAT(ListMessages(set_, findings_, {}), ElementsAre(0, 1, 2, 3));
-  EXPECT_THAT(ListMessages(set_, findings_, {.descending = true}), ElementsAre(3, 2, 1, 0));
+  EXPECT_THAT(ListMessages(set_, findings_, marks_, {}), ElementsAre(0, 1, 2, 3));
+  EXPECT_THAT(ListMessages(set_, findings_, marks_, {.descending = true}), ElementsAre(3, 2, 1, 0));
 }
 
 TEST_F(MessageListTest, ListsWhatIsToDo) {
-  EXPECT_THAT(ListMessages(set_, findings_, {.filter = MessageFilter::kToDo}), ElementsAre(1, 3));
+  EXPECT_THAT(ListMessages(set_, findings_, marks_, {.filter = MessageFilter::kToDo}),
+              ElementsAre(1, 3));
 }
 
 TEST_F(MessageListTest, ListsWhatWasChanged) {
   set_.SetText(2, Codes("LAIT"));
-  EXPECT_THAT(ListMessages(set_, findings_, {.filter = MessageFilter::kChanged}), ElementsAre(2));
+  EXPECT_THAT(ListMessages(set_, findings_, marks_, {.filter = MessageFilter::kChanged}),
+              ElementsAre(2));
 }
 
 TEST_F(MessageListTest, SortsByTheTexts) {
-  EXPECT_THAT(ListMessages(set_, findings_, {.order = MessageOrder::kOrigin}),
+  EXPECT_THAT(ListMessages(set_, findings_, marks_, {.order = MessageOrder::kOrigin}),
               ElementsAre(3, 1, 2, 0));
-  EXPECT_THAT(ListMessages(set_, findings_, {.order = MessageOrder::kDestination}),
+  EXPECT_THAT(ListMessages(set_, findings_, marks_, {.order = MessageOrder::kDestination}),
               ElementsAre(3, 1, 2, 0));
 }
 
 TEST_F(MessageListTest, SortsByTheCellsThatAreUsed) {
-  EXPECT_THAT(ListMessages(set_, findings_, {.order = MessageOrder::kCells}),
+  EXPECT_THAT(ListMessages(set_, findings_, marks_, {.order = MessageOrder::kCells}),
               ElementsAre(3, 0, 2, 1));
 }
 
 TEST_F(MessageListTest, EqualsStandByTheirNumbers) {
-  EXPECT_THAT(ListMessages(set_, findings_, {.order = MessageOrder::kState}),
+  EXPECT_THAT(ListMessages(set_, findings_, marks_, {.order = MessageOrder::kState}),
               ElementsAre(1, 3, 0, 2));
-  EXPECT_THAT(ListMessages(set_, findings_, {.order = MessageOrder::kState, .descending = true}),
-              ElementsAre(0, 2, 1, 3));
+  EXPECT_THAT(
+      ListMessages(set_, findings_, marks_, {.order = MessageOrder::kState, .descending = true}),
+      ElementsAre(0, 2, 1, 3));
 }
 
 TEST_F(MessageListTest, FindsTheNextToDoAllAround) {
