@@ -162,6 +162,24 @@ class DeskSuggestionsTest : public DeskTest {
     QCOMPARE(menu.actions().size(), 2);  // the entry that adds one, and a line below it
   }
 
+  void AMemoryFileThatIsGoneIsNamed() {
+    OpenDesk();
+    const auto file = desk_->folder / "MEMORY.MES";
+    std::filesystem::copy_file(Sample("FW0417AB.MES"), file);
+    ChooseMemoryFile(file);
+    auto& told = Part<QLabel>("DeskUnreadableMemory");
+    QVERIFY(!told.isVisible());
+    std::filesystem::remove(file);
+    desk_->program.Choose("mnuDes(2)");
+    QVERIFY(told.isVisible());
+    QCOMPARE(told.text(), Say(UiSentence(UiTextId::kUnreadableMemory, "MEMORY.MES")));
+    auto& menu = Part<QMenu>("DeskMemoryMenu");
+    emit menu.aboutToShow();
+    menu.actions().back()->trigger();
+    QVERIFY(!told.isVisible());
+    desk_->program.desk().close();
+  }
+
   void PretranslatesAfterAPreviewInOneStep() {
     InstallSamples();
     OpenDesk();

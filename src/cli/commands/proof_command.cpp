@@ -7,6 +7,7 @@
 #include "cli/checked_file.h"
 #include "cli/commands.h"
 #include "cli/options.h"
+#include "core/desk/proof_of.h"
 #include "core/platform/errors.h"
 #include "core/platform/files.h"
 #include "core/proof/glass_picture.h"
@@ -23,31 +24,8 @@ struct ProofOptions {
   std::string output;
 };
 
-std::vector<std::string> Lines(const std::vector<Finding>& findings) {
-  std::vector<std::string> lines;
-  lines.reserve(findings.size());
-  for (const Finding& finding : findings) {
-    lines.push_back(fmt::format("{}: {}", NameOf(finding.severity), finding.rule));
-  }
-  return lines;
-}
-
-DisplayCodes Cells(const CheckBasis& basis, std::size_t message, const DisplayText& text) {
-  const DisplayText shown = basis.WithPlaceholders(message, text);
-  const auto cells = shown.First(basis.width());
-  return {cells.begin(), cells.end()};
-}
-
-ProofLanguage ProofOf(const Session& session, const CheckedFile& file, int language) {
-  const CheckBasis& basis = file.basis();
-  const LanguageCheck check = file.CheckOf(language);
-  ProofLanguage proof{session.LanguageName(language), {}};
-  for (std::size_t message = 0; message < basis.MessageCount(); ++message) {
-    proof.messages.push_back({message, Cells(basis, message, basis.Origin(message)),
-                              Cells(basis, message, file.TextsOf(language).at(message)),
-                              Lines(check.FindingsOf(message))});
-  }
-  return proof;
+std::string InProofWords(const Finding& finding) {
+  return fmt::format("{}: {}", NameOf(finding.severity), finding.rule);
 }
 
 std::string Sheet(const Session& session, const CheckedFile& file,
@@ -56,7 +34,9 @@ std::string Sheet(const Session& session, const CheckedFile& file,
                    session.LanguageName(file.basis().origin_language()),
                    {}};
   for (const int language : languages) {
-    sheet.languages.push_back(ProofOf(session, file, language));
+    sheet.languages.push_back(ProofOf(file.basis(), file.CheckOf(language),
+                                      session.LanguageName(language), file.TextsOf(language),
+                                      InProofWords));
   }
   return FormatProofSheet(sheet, session.alphabet());
 }
@@ -73,7 +53,7 @@ std::string Picture(const Session& session, const CheckedFile& file, std::size_t
   const std::size_t first = message - message % kGlassRows;
   for (std::size_t row = first; row < first + kGlassRows; ++row) {
     if (row < file.basis().MessageCount()) {
-      rows.push_back(GlassCells(Cells(file.basis(), row, file.TextsOf(language).at(row))));
+      rows.push_back(GlassCells(ProofCells(file.basis(), row, file.TextsOf(language).at(row))));
     }
   }
   return GlassPicture(rows, session.alphabet());

@@ -1,6 +1,7 @@
 #ifndef VENDLINGUA_CORE_DESK_LANGUAGE_LIST_H_
 #define VENDLINGUA_CORE_DESK_LANGUAGE_LIST_H_
 
+#include <cstddef>
 #include <optional>
 #include <string>
 #include <vector>
@@ -17,6 +18,8 @@ struct ListedLanguage {
   /// Nothing for the origin, for what the file does not hold completely, and before an origin is
   /// chosen.
   std::optional<Progress> progress{};
+  /// Messages with errors or warnings, where they are counted.
+  std::optional<std::size_t> findings{};
   bool is_origin = false;
   bool is_destination = false;
 

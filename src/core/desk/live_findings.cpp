@@ -5,15 +5,11 @@
 #include "core/checks/language_check.h"
 #include "core/checks/language_texts.h"
 #include "core/checks/rules.h"
+#include "core/desk/missing_translation.h"
 #include "core/platform/errors.h"
 
 namespace vendlingua {
 namespace {
-
-// What the state of a row says already.
-bool IsAboutMissingTranslation(const Finding& finding) {
-  return finding.rule == "blank" || finding.rule == "same-as-origin";
-}
 
 int LanguageOf(const MessageSet& set) {
   return set.phase == Phase::kDestinationUnnamed ? kNewLanguage : set.DestLang;
@@ -128,6 +124,12 @@ const std::vector<Finding>& LiveFindings::Of(std::size_t message) const {
 
 bool LiveFindings::NeedsWork(std::size_t message) const {
   return vendlingua::NeedsWork(Of(message));
+}
+
+std::optional<std::size_t> LiveFindings::MessagesThatNeedWork() const {
+  return basis_ ? std::optional<std::size_t>(std::ranges::count_if(
+                      findings_, [](const auto& found) { return vendlingua::NeedsWork(found); }))
+                : std::nullopt;
 }
 
 std::vector<Finding> LiveFindings::All() const {

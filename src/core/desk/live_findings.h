@@ -29,6 +29,9 @@ class LiveFindings {
   /// translation is none.
   bool NeedsWork(std::size_t message) const;
 
+  /// How many messages have such a finding; nothing where nothing can be checked.
+  std::optional<std::size_t> MessagesThatNeedWork() const;
+
   /// All of them, by message.
   std::vector<Finding> All() const;
 

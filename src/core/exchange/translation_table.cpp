@@ -76,7 +76,11 @@ std::size_t CellsOf(const TextRun& placeholder) {
 
 TranslationTable TableOf(const MessageSet& set, int language, int origin,
                          const Alphabet& alphabet) {
-  const MessageTexts texts = TextsOf(set, language);
+  return TableOf(set, language, TextsOf(set, language), origin, alphabet);
+}
+
+TranslationTable TableOf(const MessageSet& set, int language, const MessageTexts& texts, int origin,
+                         const Alphabet& alphabet) {
   const MessageTexts origins = TextsOf(set, origin);
   const RowMaker maker(set, alphabet);
   const std::vector<std::string> tags = LanguageTags(set);

@@ -60,6 +60,10 @@ struct TableReading {
 /// of `alphabet`. Throws Error when the file cannot be read.
 TranslationTable TableOf(const MessageSet& set, int language, int origin, const Alphabet& alphabet);
 
+/// The same of texts that may differ from the file's.
+TranslationTable TableOf(const MessageSet& set, int language, const MessageTexts& texts, int origin,
+                         const Alphabet& alphabet);
+
 }  // namespace vendlingua
 
 #endif  // VENDLINGUA_CORE_EXCHANGE_TRANSLATION_TABLE_H_

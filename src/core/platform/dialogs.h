@@ -40,7 +40,14 @@ struct InputRequest {
   std::string default_answer;
 };
 
-enum class FilePurpose { kOpenMessages, kSaveMessages, kFlashFile, kIdentifiedCopy, kPicture };
+enum class FilePurpose {
+  kOpenMessages,
+  kSaveMessages,
+  kFlashFile,
+  kIdentifiedCopy,
+  kPicture,
+  kTable
+};
 
 /// The files that a file dialog offers: those with `extension`, in upper or lower case.
 struct FileFilter {

@@ -266,6 +266,17 @@ enum class UiTextId : std::size_t {
   kRemark,
   kMarkedMessages,
   kMarksUnreadable,
+  kCompareWith,
+  kComparedWith,
+  kSameTexts,
+  kLanguageNotThere,
+  kTakeTexts,
+  kProofSheet,
+  kExport,
+  kImport,
+  kImportPreview,
+  kNothingChanges,
+  kTableRefused,
 };
 
 }  // namespace vendlingua

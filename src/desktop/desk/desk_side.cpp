@@ -30,12 +30,13 @@ DeskSide::DeskSide(Engine& engine, Dialogs& dialogs, const LiveFindings& finding
       findings_(findings),
       marks_(marks),
       run_(std::move(run)),
+      jobs_(engine, dialogs, *this),
       glass_(new GlassPanel(workspace_, this)),
       mark_(new MarkPanel(this)),
       pages_(new QTabWidget(this)),
       suggestions_(new SuggestionsPage(workspace_, pages_)),
       findings_page_(new FindingsPage(pages_)),
-      languages_(new LanguagesPage(workspace_, pages_)) {
+      languages_(new LanguagesPage(workspace_, findings_, pages_)) {
   pages_->setObjectName(QStringLiteral("DeskPages"));
   for (QWidget* page : std::initializer_list<QWidget*>{suggestions_, findings_page_, languages_}) {
     pages_->addTab(page, QString());
@@ -52,6 +53,7 @@ DeskSide::DeskSide(Engine& engine, Dialogs& dialogs, const LiveFindings& finding
   ConnectSuggestions();
   ConnectFindings();
   ConnectLanguages();
+  ConnectLanguageJobs();
 }
 
 void DeskSide::ConnectSuggestions() {
@@ -77,6 +79,17 @@ void DeskSide::ConnectLanguages() {
           [this](int language) { Run([&] { engine_.languages.StartNewLanguage(language); }); });
   connect(languages_, &LanguagesPage::RenameWanted, this,
           [this](int language) { Run([&] { RenameLanguage(workspace_, dialogs_, language); }); });
+}
+
+void DeskSide::ConnectLanguageJobs() {
+  const auto add = [this](auto wanted, void (LanguageJobs::*job)(int)) {
+    connect(languages_, wanted, this,
+            [this, job](int language) { Run([&] { (jobs_.*job)(language); }); });
+  };
+  add(&LanguagesPage::CompareWanted, &LanguageJobs::Compare);
+  add(&LanguagesPage::ProofWanted, &LanguageJobs::Proof);
+  add(&LanguagesPage::ExportWanted, &LanguageJobs::Export);
+  add(&LanguagesPage::ImportWanted, &LanguageJobs::Import);
 }
 
 void DeskSide::Mirror() {

@@ -14,6 +14,7 @@
 #include "core/texts/ui_sentence.h"
 #include "desktop/desk/findings_page.h"
 #include "desktop/desk/glass_panel.h"
+#include "desktop/desk/language_jobs.h"
 #include "desktop/desk/languages_page.h"
 #include "desktop/desk/mark_panel.h"
 #include "desktop/desk/suggestions_page.h"
@@ -48,6 +49,7 @@ class DeskSide : public QWidget {
   void ConnectFindings();
   void ConnectSuggestions();
   void ConnectLanguages();
+  void ConnectLanguageJobs();
 
   void ChangeTexts(const std::vector<NewText>& texts);
   void Pretranslate();
@@ -62,6 +64,7 @@ class DeskSide : public QWidget {
   const LiveFindings& findings_;
   DocumentMarks& marks_;
   RunCommand run_;
+  LanguageJobs jobs_;
   GlassPanel* glass_;
   MarkPanel* mark_;
   QTabWidget* pages_;

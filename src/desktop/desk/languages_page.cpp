@@ -1,11 +1,12 @@
 #include "desktop/desk/languages_page.h"
 
 #include <QApplication>
-#include <QHBoxLayout>
+#include <QGridLayout>
 #include <QHeaderView>
 #include <QPainter>
 #include <QStyledItemDelegate>
 #include <QVBoxLayout>
+#include <utility>
 
 #include "core/texts/ui_sentence.h"
 #include "desktop/qt_text.h"
@@ -15,6 +16,7 @@ namespace {
 
 constexpr int kNameColumn = 0;
 constexpr int kProgressColumn = 1;
+constexpr int kFindingsColumn = 2;
 constexpr int kDoneRole = Qt::UserRole;
 constexpr int kMessagesRole = Qt::UserRole + 1;
 constexpr int kRowMargin = 6;  // pixels
@@ -52,50 +54,70 @@ class ProgressDelegate : public QStyledItemDelegate {
 
 }  // namespace
 
-LanguagesPage::LanguagesPage(const Workspace& workspace, QWidget* parent)
+LanguagesPage::LanguagesPage(const Workspace& workspace, const LiveFindings& findings,
+                             QWidget* parent)
     : QWidget(parent),
       workspace_(workspace),
+      findings_(findings),
       list_(new QTreeWidget(this)),
-      open_(new QPushButton(this)),
-      new_(new QPushButton(this)),
-      rename_(new QPushButton(this)) {
+      open_(AddButton("DeskLanguageOpen", &LanguagesPage::OpenWanted)),
+      new_(AddButton("DeskLanguageNew", &LanguagesPage::NewWanted)),
+      rename_(AddButton("DeskLanguageRename", &LanguagesPage::RenameWanted)),
+      compare_(AddButton("DeskLanguageCompare", &LanguagesPage::CompareWanted)),
+      proof_(AddButton("DeskLanguageProof", &LanguagesPage::ProofWanted)),
+      export_(AddButton("DeskLanguageExport", &LanguagesPage::ExportWanted)),
+      import_(AddButton("DeskLanguageImport", &LanguagesPage::ImportWanted)) {
   list_->setObjectName(QStringLiteral("DeskLanguages"));
-  open_->setObjectName(QStringLiteral("DeskLanguageOpen"));
-  new_->setObjectName(QStringLiteral("DeskLanguageNew"));
-  rename_->setObjectName(QStringLiteral("DeskLanguageRename"));
   list_->setRootIsDecorated(false);
   list_->setUniformRowHeights(true);
-  list_->setColumnCount(2);
+  list_->setColumnCount(kFindingsColumn + 1);
   list_->setItemDelegateForColumn(kProgressColumn, new ProgressDelegate(list_));
-  list_->header()->setSectionResizeMode(kNameColumn, QHeaderView::ResizeToContents);
-  auto* buttons = new QHBoxLayout;
-  for (QPushButton* button : {open_, new_, rename_}) {
-    buttons->addWidget(button);
-  }
-  auto* layout = new QVBoxLayout(this);
-  layout->addWidget(list_, 1);
-  layout->addLayout(buttons);
-  const auto ask = [this](auto* button, void (LanguagesPage::*wanted)(int)) {
-    connect(button, &QPushButton::clicked, this, [this, wanted] {
-      if (const auto language = CurrentLanguage()) {
-        emit(this->*wanted)(*language);
-      }
-    });
-  };
-  ask(open_, &LanguagesPage::OpenWanted);
-  ask(new_, &LanguagesPage::NewWanted);
-  ask(rename_, &LanguagesPage::RenameWanted);
+  list_->header()->setStretchLastSection(false);
+  list_->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
+  list_->header()->setSectionResizeMode(kProgressColumn, QHeaderView::Stretch);
+  LayOut();
   connect(list_, &QTreeWidget::itemActivated, open_, &QPushButton::click);
   connect(list_, &QTreeWidget::currentItemChanged, this, &LanguagesPage::EnableButtons);
 }
 
+QPushButton* LanguagesPage::AddButton(const char* name, Wanted wanted) {
+  auto* button = new QPushButton(this);
+  button->setObjectName(QLatin1String(name));
+  connect(button, &QPushButton::clicked, this, [this, wanted] {
+    if (const auto language = CurrentLanguage()) {
+      emit(this->*wanted)(*language);
+    }
+  });
+  return button;
+}
+
+// As a language comes into being, and as it is exchanged.
+void LanguagesPage::LayOut() {
+  auto* buttons = new QGridLayout;
+  buttons->addWidget(open_, 0, 0);
+  buttons->addWidget(new_, 0, 1);
+  buttons->addWidget(rename_, 1, 0);
+  buttons->addWidget(compare_, 1, 1);
+  buttons->addWidget(export_, 2, 0);
+  buttons->addWidget(import_, 2, 1);
+  buttons->addWidget(proof_, 3, 0);
+  auto* layout = new QVBoxLayout(this);
+  layout->addWidget(list_, 1);
+  layout->addLayout(buttons);
+}
+
 void LanguagesPage::SetCaptions(const UiText& ui_text) {
-  list_->setHeaderLabels(
-      {FromUtf8(ui_text[UiTextId::kLanguage]), FromUtf8(ui_text[UiTextId::kProgressHeading])});
+  list_->setHeaderLabels({FromUtf8(ui_text[UiTextId::kLanguage]),
+                          FromUtf8(ui_text[UiTextId::kProgressHeading]),
+                          FromUtf8(ui_text[UiTextId::kFindings])});
   list_->setAccessibleName(FromUtf8(ui_text[UiTextId::kLanguages]));
   open_->setText(FromUtf8(ui_text[UiTextId::kOpenLanguage]));
   new_->setText(FromUtf8(ui_text[UiTextId::kNewFromLanguage]));
   rename_->setText(FromUtf8(ui_text[UiTextId::kRename]));
+  compare_->setText(FromUtf8(ui_text[UiTextId::kCompareWith]));
+  proof_->setText(FromUtf8(ui_text[UiTextId::kProofSheet]));
+  export_->setText(FromUtf8(ui_text[UiTextId::kExport]));
+  import_->setText(FromUtf8(ui_text[UiTextId::kImport]));
   shown_.clear();
 }
 
@@ -103,7 +125,7 @@ void LanguagesPage::Mirror() {
   if (!isVisible()) {
     return;
   }
-  std::vector<ListedLanguage> languages = ListLanguages(workspace_.set);
+  std::vector<ListedLanguage> languages = Languages();
   if (languages == shown_) {
     return;
   }
@@ -121,6 +143,16 @@ void LanguagesPage::Mirror() {
   EnableButtons();
 }
 
+std::vector<ListedLanguage> LanguagesPage::Languages() {
+  file_findings_.Follow(workspace_.set);
+  std::vector<ListedLanguage> languages = ListLanguages(workspace_.set);
+  for (ListedLanguage& language : languages) {
+    language.findings = language.is_destination ? findings_.MessagesThatNeedWork()
+                                                : file_findings_.Of(language.number);
+  }
+  return languages;
+}
+
 void LanguagesPage::ShowLanguage(QTreeWidgetItem& row, const ListedLanguage& language) {
   const UiText& ui_text = workspace_.ui_text;
   const Progress progress = language.progress.value_or(Progress());
@@ -133,6 +165,8 @@ void LanguagesPage::ShowLanguage(QTreeWidgetItem& row, const ListedLanguage& lan
   const UiSentence done(UiTextId::kProgress, progress.done, progress.messages);
   const std::string origin = language.is_origin ? ui_text[UiTextId::kOriginHeading] : "";
   row.setText(kProgressColumn, FromUtf8(language.progress ? done.In(ui_text) : origin));
+  row.setText(kFindingsColumn, language.findings ? QString::number(*language.findings) : QString());
+  row.setTextAlignment(kFindingsColumn, Qt::AlignRight | Qt::AlignVCenter);
 }
 
 std::optional<int> LanguagesPage::CurrentLanguage() const {
@@ -143,8 +177,11 @@ std::optional<int> LanguagesPage::CurrentLanguage() const {
 void LanguagesPage::EnableButtons() {
   const MessageSet& set = workspace_.set;
   const bool chosen = CurrentLanguage().has_value();
-  open_->setEnabled(chosen && set.phase >= Phase::kOriginChosen);
-  new_->setEnabled(chosen && set.phase >= Phase::kOriginChosen && set.IsMes() && !set.IsFull());
+  const bool has_origin = chosen && set.phase >= Phase::kOriginChosen;
+  for (QPushButton* button : {open_, compare_, proof_, export_, import_}) {
+    button->setEnabled(has_origin);
+  }
+  new_->setEnabled(has_origin && set.IsMes() && !set.IsFull());
   rename_->setEnabled(chosen && set.IsMes());
 }
 

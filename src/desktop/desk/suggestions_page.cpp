@@ -39,6 +39,7 @@ SuggestionsPage::SuggestionsPage(const Workspace& workspace, QWidget* parent)
       delegate_(new SuggestionDelegate(shown_, this)),
       list_(new QListWidget(this)),
       nothing_(new QLabel(this)),
+      unreadable_(new QLabel(this)),
       pretranslate_(new QPushButton(this)),
       memory_(new QToolButton(this)),
       memory_menu_(new QMenu(this)) {
@@ -49,6 +50,9 @@ SuggestionsPage::SuggestionsPage(const Workspace& workspace, QWidget* parent)
   memory_menu_->setObjectName(QStringLiteral("DeskMemoryMenu"));
   list_->setItemDelegate(delegate_);
   list_->setUniformItemSizes(true);
+  unreadable_->setObjectName(QStringLiteral("DeskUnreadableMemory"));
+  unreadable_->setTextFormat(Qt::PlainText);
+  unreadable_->setWordWrap(true);
   nothing_->setWordWrap(true);
   nothing_->setAlignment(Qt::AlignCenter);
   memory_->setMenu(memory_menu_);
@@ -61,6 +65,7 @@ SuggestionsPage::SuggestionsPage(const Workspace& workspace, QWidget* parent)
   auto* layout = new QVBoxLayout(this);
   layout->addWidget(list_, 1);
   layout->addWidget(nothing_, 1);
+  layout->addWidget(unreadable_);
   layout->addLayout(buttons);
   connect(list_, &QListWidget::itemActivated, this,
           [this](const QListWidgetItem* item) { Take(list_->row(item)); });
@@ -130,6 +135,7 @@ void SuggestionsPage::Mirror() {
   }
   memories_.Follow(workspace_.set);
   ShowSuggestions();
+  TellUnreadable();
   pretranslate_->setEnabled(workspace_.set.DestinationIsOpen());
 }
 
@@ -152,6 +158,16 @@ void SuggestionsPage::ShowSuggestions() {
   }
   list_->setVisible(!shown_.empty());
   nothing_->setVisible(shown_.empty());
+}
+
+void SuggestionsPage::TellUnreadable() {
+  QStringList sentences;
+  for (const std::filesystem::path& file : memories_.unreadable()) {
+    const UiSentence sentence(UiTextId::kUnreadableMemory, PathText(file.filename()));
+    sentences += FromUtf8(sentence.In(workspace_.ui_text));
+  }
+  unreadable_->setText(sentences.join(QLatin1Char('\n')));
+  unreadable_->setVisible(!sentences.isEmpty());
 }
 
 ShownSuggestion SuggestionsPage::Shown(const Suggestion& suggestion, std::size_t place) const {

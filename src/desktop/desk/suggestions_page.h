@@ -54,6 +54,7 @@ class SuggestionsPage : public QWidget {
   void FillMemoryMenu();
   void ChangeMemoryFiles(std::vector<std::filesystem::path> files);
   void ShowSuggestions();
+  void TellUnreadable();
   ShownSuggestion Shown(const Suggestion& suggestion, std::size_t place) const;
   QString NameOf(const MemorySource& source) const;
 
@@ -64,6 +65,7 @@ class SuggestionsPage : public QWidget {
   SuggestionDelegate* delegate_;
   QListWidget* list_;
   QLabel* nothing_;
+  QLabel* unreadable_;
   QPushButton* pretranslate_;
   QToolButton* memory_;
   QMenu* memory_menu_;

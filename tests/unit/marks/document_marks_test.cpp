@@ -5,6 +5,7 @@
 #include <filesystem>
 #include <string>
 
+#include "core/operations/rename_language.h"
 #include "core/platform/errors.h"
 #include "support/engine_test.h"
 
@@ -147,6 +148,13 @@ TEST_F(DocumentMarksTest, AFailedWriteChangesNothing) {
   EXPECT_THROW(marks_.Put(2, kDoneMark), FileError);
   fs::rename(folder_.path().string() + ".away", folder_.path());
   EXPECT_TRUE(marks_.Of(2).IsEmpty());
+  EXPECT_EQ(marks_.Of(1), kDoneMark);
+}
+
+TEST_F(DocumentMarksTest, ALanguageKeepsThemUnderANewName) {
+  marks_.Put(1, kDoneMark);
+  RenameLanguage(engine_.workspace, dialogs_, 1, NameField::FromCaption("FURLAN"));
+  marks_.Follow(set_);
   EXPECT_EQ(marks_.Of(1), kDoneMark);
 }
 
