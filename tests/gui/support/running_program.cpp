@@ -1,6 +1,7 @@
 #include "gui/support/running_program.h"
 
 #include <QMenu>
+#include <algorithm>
 #include <filesystem>
 
 #include "core/operations/start_up.h"
@@ -13,6 +14,16 @@ namespace fs = std::filesystem;
 
 const fs::path kLanguagesFolder = VENDLINGUA_LANGUAGES_FOLDER;
 const fs::path kFontsFolder = VENDLINGUA_FONTS_FOLDER;
+
+// A user reaches an entry through the menus that hold it.
+bool IsInReach(const QAction& entry) {
+  const QObjectList holders = entry.associatedObjects();
+  return entry.isEnabled() && entry.isVisible() &&
+         std::all_of(holders.begin(), holders.end(), [](const QObject* holder) {
+           const auto* menu = qobject_cast<const QMenu*>(holder);
+           return menu == nullptr || IsInReach(*menu->menuAction());
+         });
+}
 
 }  // namespace
 
@@ -64,7 +75,7 @@ FrmDesk& RunningProgram::desk() {
 
 void RunningProgram::Choose(const char* name) {
   QAction& entry = Entry(name);
-  if (entry.isEnabled() && entry.isVisible()) {
+  if (IsInReach(entry)) {
     entry.trigger();
   }
 }
