@@ -106,6 +106,13 @@ class UnsavedEditsTest : public DeskTest {
     QCOMPARE(Slurp(path_), std::string(content_).replace(24 + 36 + 20, 4, "EDIT"));
   }
 
+  void AreOfferedFromWhereverTheFileIsOpened() {
+    EndAProgram(QStringLiteral("kept"), SIGKILL);
+    desk_->user.Yes();
+    desk_->program.window().OpenFile(path_);
+    QCOMPARE(desk_->Text1().text(), QStringLiteral("EDIT"));
+  }
+
   void AreWrittenHalfASecondAfterTheyWereTyped() {
     path_ = desk_->Edit(content_);
     desk_->Type("EDIT");

@@ -25,8 +25,6 @@ namespace {
 
 constexpr int kWindowWidth = 5205;  // twips
 constexpr int kTypingPause = 1000;  // milliseconds
-constexpr int kJournalPause =
-    500;  // the same: edits come one by one, and each write waits for the disk
 
 // All menus have to fit the width of the window in every language.
 constexpr QLatin1String kMenuBarStyle(
@@ -46,6 +44,7 @@ FrmMes::FrmMes(Engine& engine, QtDialogs& dialogs, ProgramStarter& starter)
       steps_(new MessageSteps(
           engine, dialogs, [this](const auto& command, QWidget& window) { RunIn(window, command); },
           *this)),
+      edit_keeper_(engine, [this] { Mirror(); }),
       dialogs_seen_(dialogs.opened()) {
   RegisterIcons();
   setObjectName(QStringLiteral("FrmMes"));
@@ -61,9 +60,6 @@ FrmMes::FrmMes(Engine& engine, QtDialogs& dialogs, ProgramStarter& starter)
   typing_pause_.setSingleShot(true);
   typing_pause_.setInterval(kTypingPause);
   connect(&typing_pause_, &QTimer::timeout, this, [this] { engine_.editing.EndTyping(); });
-  journal_pause_.setSingleShot(true);
-  journal_pause_.setInterval(kJournalPause);
-  connect(&journal_pause_, &QTimer::timeout, this, &FrmMes::KeepEdits);
   connect(&file_watch_, &FileWatch::Changed, this, &FrmMes::LookAtFile);
   dialogs_.Attach([this] { Mirror(); }, engine_.workspace.ui_text);
   Mirror();
@@ -74,15 +70,14 @@ void FrmMes::ConnectMenus() {
     connect(menus_, signal, this,
             [this, command](auto... arguments) { Run([&] { command(arguments...); }); });
   };
-  run(&MainMenus::OpenChosen, [this] { Open(); });
+  run(&MainMenus::OpenChosen, [this] { OfferEdits(engine_.opener.Open()); });
   run(&MainMenus::SaveChosen, [this] { engine_.writer.Save(); });
   run(&MainMenus::SaveAsChosen, [this] { engine_.writer.SaveAs(); });
   run(&MainMenus::OriginChosen, [this](int i) { engine_.languages.ChooseOrigin(i); });
   run(&MainMenus::DestinationChosen, [this](int i) { engine_.languages.ChooseDestination(i); });
   run(&MainMenus::NewLanguageChosen, [this](int i) { engine_.languages.StartNewLanguage(i); });
   run(&MainMenus::NamedLanguageWanted, [this] { engine_.languages.StartNamedLanguage(); });
-  run(&MainMenus::RecentChosen,
-      [this](const std::filesystem::path& file) { engine_.opener.Open(file); });
+  connect(menus_, &MainMenus::RecentChosen, this, &FrmMes::OpenFile);
   run(&MainMenus::DisplayTypeChosen,
       [this](int i) { engine_.editing.ChooseDisplayType(static_cast<std::size_t>(i)); });
   run(&MainMenus::InterfaceLanguageChosen, [this](int i) { ChooseLanguage(i); });
@@ -126,7 +121,13 @@ void FrmMes::ConnectPanel() {
 }
 
 void FrmMes::OpenFile(const std::filesystem::path& file) {
-  Run([&] { engine_.opener.Open(file); });
+  Run([&] { OfferEdits(engine_.opener.Open(file)); });
+}
+
+void FrmMes::OfferEdits(OpenOutcome outcome) {
+  if (outcome == OpenOutcome::kOpened) {
+    engine_.unsaved_edits.Offer();
+  }
 }
 
 void FrmMes::RunIn(QWidget& window, const std::function<void()>& command) {
@@ -168,29 +169,7 @@ void FrmMes::Mirror() {
   if (frm_make_) {
     frm_make_->Mirror();
   }
-  if (!journal_pause_.isActive() && engine_.unsaved_edits.IsBehind()) {
-    journal_pause_.start();
-  }
-}
-
-// One that cannot be written is told of once, until it can be.
-void FrmMes::KeepEdits() {
-  try {
-    engine_.unsaved_edits.Keep();
-    told_of_lost_journal_ = false;
-  } catch (const FileError& error) {
-    if (!std::exchange(told_of_lost_journal_, true)) {
-      const UiText& ui_text = engine_.workspace.ui_text;
-      engine_.workspace.window.status = ui_text[UiTextId::kEditsNotKept] + " " + error.In(ui_text);
-      Mirror();
-    }
-  }
-}
-
-void FrmMes::Open() {
-  if (engine_.opener.Open() == OpenOutcome::kOpened) {
-    engine_.unsaved_edits.Offer();
-  }
+  edit_keeper_.Follow();
 }
 
 // Not while a command works with the document.

@@ -16,6 +16,7 @@
 #include "desktop/dialogs/qt_dialogs.h"
 #include "desktop/dialogs/qt_texts.h"
 #include "desktop/information/frm_info.h"
+#include "desktop/main_window/edit_keeper.h"
 #include "desktop/main_window/editor_panel.h"
 #include "desktop/main_window/file_watch.h"
 #include "desktop/main_window/main_menus.h"
@@ -34,7 +35,7 @@ class FrmMes : public QMainWindow {
 
   /// Brings the journal of unsaved edits up to date now; otherwise that happens half a second after
   /// an edit.
-  void KeepEdits();
+  void KeepEdits() { edit_keeper_.Keep(); }
 
   /// Opens a file as File, Open does once it is chosen.
   void OpenFile(const std::filesystem::path& file);
@@ -56,7 +57,7 @@ class FrmMes : public QMainWindow {
   /// Another program may have changed the open file.
   void LookAtFile();
 
-  void Open();
+  void OfferEdits(OpenOutcome outcome);
   void Form_Activate();
   void ChooseLanguage(int index);
   void ChangeText(const DisplayCodes& text);
@@ -82,8 +83,7 @@ class FrmMes : public QMainWindow {
   FileWatch file_watch_;
   WindowTop window_top_;
   QTimer typing_pause_;
-  QTimer journal_pause_;
-  bool told_of_lost_journal_ = false;
+  EditKeeper edit_keeper_;
   int dialogs_seen_ = 0;
 };
 
