@@ -173,7 +173,7 @@ class MonkeyTest : public QObject {
       Do("remove the file", [&] { fs::remove(path); });
       return;
     } else if (content.size() > 200) {
-      content.replace(static_cast<std::size_t>(100 + chance_.Below(80)), 4, "they");
+      content.replace(std::size_t{100} + static_cast<std::size_t>(chance_.Below(80)), 4, "they");
     }
     Do("tamper " + std::to_string(kind), [&] { folder_.Write("A.MES", content); });
   }

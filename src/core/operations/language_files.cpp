@@ -24,7 +24,7 @@ bool IsLanguageFile(const fs::directory_entry& entry) {
          entry.is_regular_file(gone);
 }
 
-std::vector<Language> Languages(const fs::path& folder) {
+std::vector<Language> LanguagesIn(const fs::path& folder) {
   std::vector<Language> languages;
   std::error_code error;
   fs::directory_iterator entry(folder, error);
@@ -48,7 +48,7 @@ std::string LanguageFileName(const std::string& language) {
 
 std::vector<std::string> LanguageNames(const fs::path& folder) {
   std::vector<std::string> names;
-  for (const Language& language : Languages(folder)) {
+  for (const Language& language : LanguagesIn(folder)) {
     names.push_back(language.name);
   }
   names.erase(std::unique(names.begin(), names.end()), names.end());
@@ -61,7 +61,7 @@ fs::path LanguageFile(const fs::path& folder, const std::string& file_name) {
   if (fs::is_regular_file(folder / name, not_there)) {
     return folder / name;
   }
-  const std::vector<Language> languages = Languages(folder);
+  const std::vector<Language> languages = LanguagesIn(folder);
   const std::string wanted = PathText(name.stem());
   auto found = std::find_if(languages.begin(), languages.end(),
                             [&](const Language& language) { return language.name == wanted; });

@@ -4,6 +4,7 @@
 #include <QKeySequence>
 #include <algorithm>
 #include <array>
+#include <utility>
 
 #include "core/platform/errors.h"
 #include "core/texts/ui_sentence.h"
@@ -57,15 +58,20 @@ void MarkPanel::Show(const DocumentMarks& marks, std::size_t message, const UiTe
     return;
   }
   if (message != message_ && remark_->isModified()) {
-    // A key led on while the remark was typed.
-    const MessageMark typed = Entered();
-    QMetaObject::invokeMethod(
-        this, [this, left = message_, typed] { emit Marked(left, typed); }, Qt::QueuedConnection);
+    // A key led on while the remark was typed. What shows the document must not change it.
+    left_.push_back({message_, Entered()});
+    QMetaObject::invokeMethod(this, "TellLeftRemarks", Qt::QueuedConnection);
   }
   message_ = message;
   shown_ = mark;
   mark_->setCurrentIndex(EntryOf(mark.mark));
   remark_->setText(FromUtf8(mark.remark));
+}
+
+void MarkPanel::TellLeftRemarks() {
+  for (const LeftRemark& left : std::exchange(left_, {})) {
+    emit Marked(left.message, left.mark);
+  }
 }
 
 void MarkPanel::SetCaptions(const UiText& ui_text) {

@@ -5,6 +5,7 @@
 #include <QLineEdit>
 #include <QWidget>
 #include <cstddef>
+#include <vector>
 
 #include "core/marks/document_marks.h"
 #include "core/texts/ui_text.h"
@@ -31,6 +32,12 @@ class MarkPanel : public QWidget {
   void Marked(std::size_t message, const MessageMark& mark);
 
  private:
+  struct LeftRemark {
+    std::size_t message;
+    MessageMark mark;
+  };
+
+  Q_INVOKABLE void TellLeftRemarks();
   void TakeMark();
   MessageMark Entered() const;
 
@@ -38,6 +45,7 @@ class MarkPanel : public QWidget {
   QLineEdit* remark_;
   std::size_t message_ = 0;
   MessageMark shown_;
+  std::vector<LeftRemark> left_;
 };
 
 }  // namespace vendlingua

@@ -146,12 +146,12 @@ QString MessageTable::StateTextOf(std::size_t message) const {
 
 QString MessageTable::MarkTextOf(std::size_t message) const {
   const MessageMark& mark = marks_.Of(message);
-  const QString remark = FromUtf8(mark.remark);
+  QString remark = FromUtf8(mark.remark);
   if (mark.mark == Mark::kNone) {
     return remark;
   }
   const UiTextId id = mark.mark == Mark::kDone ? UiTextId::kMarkedDone : UiTextId::kNeedsWork;
-  const QString word = FromUtf8(workspace_.ui_text[id]);
+  QString word = FromUtf8(workspace_.ui_text[id]);
   return remark.isEmpty() ? word : QStringLiteral("%1: %2").arg(word, remark);
 }
 
