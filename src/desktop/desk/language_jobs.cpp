@@ -104,7 +104,8 @@ void LanguageJobs::Compare(int language) {
   }
   const MessageSet other = ReadMessageFile(path);
   const std::string file = PathText(path.filename());
-  const std::string& name = workspace_.set.language_names.at(static_cast<std::size_t>(language));
+  // A copy: opening the language reads the names again.
+  const std::string name = workspace_.set.language_names.at(static_cast<std::size_t>(language));
   const auto found = std::ranges::find(other.language_names, name);
   if (found == other.language_names.end()) {
     Tell(UiSentence(UiTextId::kLanguageNotThere, file, name));
