@@ -55,8 +55,13 @@ DestinationOutcome Languages::StartNamedLanguage() {
 DestinationOutcome Languages::Open(int language, bool as_new) {
   MessageSet& set = workspace_.set;
   RequireEditableWidth();
+  const bool was_there = set.HoldsLanguage(language);
   if (!writer_.NonSave()) {
     return DestinationOutcome::kNotSaved;
+  }
+  // Before a destination is opened a save makes a new file, which has none of the older languages.
+  if (was_there && !set.HoldsLanguage(language)) {
+    return DestinationOutcome::kNothingChosen;
   }
   if (set.IsMes() && language == kNewLanguage && set.IsFull()) {
     const UiText& ui_text = workspace_.ui_text;

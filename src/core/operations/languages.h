@@ -10,7 +10,8 @@ namespace vendlingua {
 /// How the choice of a destination ended.
 enum class DestinationOutcome {
   kOpened,
-  kNothingChosen,  ///< entry 0, which has no effect of its own
+  kNothingChosen,  ///< entry 0, which has no effect of its own, or a language that the file is
+                   ///< without since it was saved first
   kNotSaved,       ///< pending changes could not be saved: they stay in the set
   kFileIsFull,     ///< the user was told that no further language can be added
 };

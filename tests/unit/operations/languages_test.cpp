@@ -238,6 +238,17 @@ TEST_F(MesLanguagesTest, KeepsWhatIsTypedForAnotherOrigin) {
   EXPECT_EQ(Slurp(folder_ / "FILE.MES").substr(24 + 36 + 20, 4), "new ");
 }
 
+// Without a destination that save makes a new file.
+TEST_F(MesLanguagesTest, OpensNoLanguageThatTheFileSavedBeforeIsWithout) {
+  engine_.editing.ChooseDisplayType(1);
+  dialogs_.yes_no_answers = {MessageAnswer::kYes};
+  dialogs_.input_answers = {"NEW"};
+  dialogs_.file_answers = {folder_ / "NEW.MES"};
+  EXPECT_EQ(engine_.languages.ChooseDestination(2), DestinationOutcome::kNothingChosen);
+  EXPECT_THAT(set_.language_names, testing::ElementsAre("Default", "NEW"));
+  EXPECT_FALSE(set_.DestinationIsOpen());
+}
+
 TEST_F(FullFileTest, DisablesTheNewDestinationWhenTheMenuOpens) {
   EXPECT_FALSE(menus().mnuDes[0].enabled);
 }
