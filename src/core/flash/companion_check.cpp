@@ -91,7 +91,8 @@ class CompanionChecker {
     if (!header || !IsCopyHeader(header->text)) {
       return;
     }
-    std::string_view records = std::string_view(copy).substr(header->text.size() + kCrLf.size());
+    std::string_view records = copy;
+    records.remove_prefix(std::min(records.size(), header->text.size() + kCrLf.size()));
     const std::string last_line = std::string(kLastCopyLine) + std::string(kCrLf);
     if (records.ends_with(last_line)) {
       records.remove_suffix(last_line.size());

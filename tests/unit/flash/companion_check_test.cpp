@@ -77,6 +77,11 @@ TEST_F(CompanionCheckTest, FindsACopyOfAnotherFlashFile) {
   EXPECT_THAT(Check(), ElementsAre("FW0267AB.MSX is no copy of it"));
 }
 
+TEST_F(CompanionCheckTest, FindsACopyThatEndsInItsHeader) {
+  folder_.Write("FW0267AB.MSX", header_.substr(0, header_.size() - 2));
+  EXPECT_THAT(Check(), ElementsAre("FW0267AB.MSX is no copy of it"));
+}
+
 TEST_F(CompanionCheckTest, MindsNoMsxFileThatIsNoCopy) {
   folder_.Write("FW0267AB.MSX", test::MsxFile(1));
   EXPECT_THAT(Check(), IsEmpty());
