@@ -242,8 +242,8 @@ SaveOutcome MessageFileWriter::SaveAs() {
   const fs::path original = set.CurrentFileName;
   SaveOutcome outcome = Write(path);
   rollback.Keep();
-  CopyMarks(original, path);
   TellSaved();
+  CopyMarks(original, path);
   return outcome;
 }
 

@@ -51,17 +51,24 @@ std::vector<FilePatch> NamePatches(const MessageSet& set) {
   return patches;
 }
 
-}  // namespace
-
-void RenameLanguage(Workspace& workspace, Dialogs& dialogs, int language, const NameField& name) {
+// Returns the old name.
+std::string RenameInFile(Workspace& workspace, Dialogs& dialogs, int language,
+                         const NameField& name) {
   MessageSet& set = workspace.set;
   std::string& listed = set.language_names.at(static_cast<std::size_t>(language));
-  const std::string old_name = std::exchange(listed, name.Caption());
+  std::string old_name = std::exchange(listed, name.Caption());
   set.LangStride = MesLangStride(set.MemLength, set.LangCount, set.Width());
   set.BlockLength = MesBlockLength(set.LastCol, set.LangStride);
   ChangeMessageFile(workspace, dialogs,
                     [&set](const std::string& /*content*/) { return NamePatches(set); });
-  RenameInMarks(set.CurrentFileName, old_name, name.Caption());
+  return old_name;
+}
+
+}  // namespace
+
+void RenameLanguage(Workspace& workspace, Dialogs& dialogs, int language, const NameField& name) {
+  const std::string old_name = RenameInFile(workspace, dialogs, language, name);
+  RenameInMarks(workspace.set.CurrentFileName, old_name, name.Caption());
 }
 
 void RenameLanguage(Workspace& workspace, Dialogs& dialogs, int language) {
@@ -72,15 +79,19 @@ void RenameLanguage(Workspace& workspace, Dialogs& dialogs, int language) {
                    MessageAnswer::kYes) {
     return;
   }
+  std::string old_name;
   try {
-    RenameLanguage(workspace, dialogs, language, *name);
+    old_name = RenameInFile(workspace, dialogs, language, *name);
   } catch (const FileChangedError& error) {
     dialogs.MessageBox({MessageIcon::kCritical, error.In(ui_text), "ERROR"});
+    return;
   } catch (const FileError&) {
     dialogs.MessageBox({MessageIcon::kCritical,
                         "File Error: This file is only reading!\nPlease change the property File",
                         "Error Property"});
+    return;
   }
+  RenameInMarks(workspace.set.CurrentFileName, old_name, name->Caption());
 }
 
 }  // namespace vendlingua

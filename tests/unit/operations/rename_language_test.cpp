@@ -112,6 +112,25 @@ TEST_F(RenameLanguageTest, AFileThatMayOnlyBeReadStaysAsItIs) {
   EXPECT_EQ(test::Slurp(file_), mes_.Bytes());
 }
 
+TEST_F(RenameLanguageTest, MarksThatCannotFollowAreNoFaultOfTheMessageFile) {
+  using std::filesystem::perms;
+  const auto marks = folder_.Write("A.MES.marks", R"({"format": "vendlingua-marks", "version": 1,
+    "marks": [{"language": "ENGLISH", "message": 0, "origin": "", "mark": "done", "remark": ""}]})");
+  std::filesystem::permissions(folder_.path(), perms::all);
+  std::filesystem::permissions(file_, perms::all);
+  std::filesystem::permissions(marks, perms::owner_read | perms::group_read | perms::others_read);
+  dialogs_.input_answers = {"polski"};
+  dialogs_.yes_no_answers = {MessageAnswer::kYes};
+  const test::OrdinaryUser ordinary_user;
+  if (!ordinary_user.holds()) {
+    GTEST_SKIP() << "this user may write every file";
+  }
+  EXPECT_THAT([this] { Rename(2); },
+              testing::ThrowsMessage<FileError>(testing::HasSubstr("A.MES.marks")));
+  EXPECT_THAT(dialogs_.messages, SizeIs(1)) << "the question alone";
+  EXPECT_EQ(test::Slurp(file_).substr(24 + 2 * mes_.BlockLength(), 6), "POLSKI");
+}
+
 TEST_F(RenameLanguageTest, AFileThatCannotBeWrittenKeepsTheNewNameOnTheScreen) {
   std::filesystem::remove(file_);
   dialogs_.input_answers = {"polski"};
