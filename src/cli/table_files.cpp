@@ -6,6 +6,7 @@
 
 #include "cli/session.h"
 #include "core/exchange/language_tags.h"
+#include "core/exchange/table_format.h"
 #include "core/platform/errors.h"
 
 namespace vendlingua::cli {
@@ -13,17 +14,12 @@ namespace {
 
 namespace fs = std::filesystem;
 
-bool IsTable(const fs::path& path) {
-  const fs::path extension = path.extension();
-  return extension == ".csv" || extension == ".xliff" || extension == ".xlf";
-}
-
 std::vector<fs::path> TablePaths(const std::string& folder) {
   std::error_code error;
   std::vector<fs::path> paths;
   for (fs::directory_iterator entry(folder, error), end; !error && entry != end;
        entry.increment(error)) {
-    if (IsTable(entry->path())) {
+    if (HasTableName(entry->path())) {
       paths.push_back(entry->path());
     }
   }

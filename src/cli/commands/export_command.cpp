@@ -5,9 +5,8 @@
 #include "cli/commands.h"
 #include "cli/options.h"
 #include "cli/standard_streams.h"
-#include "core/exchange/csv_table.h"
 #include "core/exchange/language_tags.h"
-#include "core/exchange/xliff_writer.h"
+#include "core/exchange/table_format.h"
 #include "core/platform/errors.h"
 #include "core/platform/files.h"
 
@@ -26,10 +25,8 @@ struct ExportOptions {
   std::string target_language;
 };
 
-TableFormat FormatOf(const ExportOptions& options) {
-  const std::string extension = fs::path(options.output).extension().string();
-  const bool is_xliff = extension == ".xliff" || extension == ".xlf";
-  return options.format.value_or(is_xliff ? TableFormat::kXliff : TableFormat::kCsv);
+TableFormat WantedFormat(const ExportOptions& options) {
+  return options.format.value_or(FormatOf(options.output));
 }
 
 void RequireUsable(const Session& session, const ExportOptions& options) {
@@ -45,13 +42,9 @@ void RequireUsable(const Session& session, const ExportOptions& options) {
   if (session.json_output && options.output == kStandardStream) {
     throw WrongUsage("--json and --output - would both write to standard output");
   }
-  if (!options.target_language.empty() && FormatOf(options) == TableFormat::kCsv) {
+  if (!options.target_language.empty() && WantedFormat(options) == TableFormat::kCsv) {
     throw WrongUsage("--target-language goes with XLIFF; a .csv table does not hold it");
   }
-}
-
-std::string Write(const TranslationTable& table, TableFormat format) {
-  return format == TableFormat::kXliff ? WriteXliff(table) : WriteCsv(table);
 }
 
 // A path and what is written there.
@@ -67,12 +60,12 @@ OutputFile OneLanguage(const Session& session, const ExportOptions& options, int
   if (!options.target_language.empty()) {
     table.target_language = options.target_language;
   }
-  return {options.output, Write(table, FormatOf(options))};
+  return {options.output, WriteTable(table, WantedFormat(options))};
 }
 
 std::vector<OutputFile> AllLanguages(const Session& session, const ExportOptions& options,
                                      int origin) {
-  const TableFormat format = FormatOf(options);
+  const TableFormat format = WantedFormat(options);
   const auto languages = static_cast<int>(session.set().language_names.size());
   std::vector<OutputFile> files;
   for (int language = 1; language < languages; ++language) {
@@ -80,7 +73,7 @@ std::vector<OutputFile> AllLanguages(const Session& session, const ExportOptions
     const TranslationTable table = TableOf(session.set(), language, origin, session.alphabet());
     const fs::path name =
         table.target_language + (format == TableFormat::kXliff ? ".xliff" : ".csv");
-    files.push_back({(options.folder / name).string(), Write(table, format)});
+    files.push_back({(options.folder / name).string(), WriteTable(table, format)});
   }
   return files;
 }

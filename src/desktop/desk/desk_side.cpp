@@ -4,11 +4,11 @@
 #include <initializer_list>
 #include <utility>
 
+#include "core/desk/derived_file.h"
 #include "core/formats/message_file.h"
 #include "core/operations/message_file_opener.h"
 #include "core/operations/rename_language.h"
 #include "core/platform/errors.h"
-#include "core/platform/files.h"
 #include "desktop/desk/preview_dialog.h"
 #include "desktop/qt_text.h"
 
@@ -173,7 +173,7 @@ void DeskSide::SavePicture(const QByteArray& png) {
                                          .overwrite_prompt = true,
                                          .folder = workspace_.folders.current});
     if (path) {
-      WriteFile(*path, png.toStdString());
+      WriteDerivedFile(workspace_.set, *path, png.toStdString());
       workspace_.window.status = ui_text[UiTextId::kSaved] + " " + PathText(path->filename());
     }
   });

@@ -9,12 +9,12 @@
 #include <string>
 
 #include "core/checks/language_texts.h"
+#include "core/desk/derived_file.h"
 #include "core/desk/finding_text.h"
 #include "core/desk/proof_of.h"
-#include "core/exchange/csv_table.h"
 #include "core/exchange/read_table.h"
+#include "core/exchange/table_format.h"
 #include "core/exchange/translation_plan.h"
-#include "core/exchange/xliff_writer.h"
 #include "core/formats/message_file.h"
 #include "core/formats/message_texts.h"
 #include "core/operations/message_file_opener.h"
@@ -28,10 +28,6 @@ namespace {
 
 std::vector<FileFilter> TableFilters() {
   return {{"XLIFF", "xliff"}, {"XLIFF", "xlf"}, {"CSV", "csv"}};
-}
-
-bool IsCsv(const std::filesystem::path& path) {
-  return ToQString(path.extension()).compare(QLatin1String(".csv"), Qt::CaseInsensitive) == 0;
 }
 
 DisplayCodes CellsOf(const MessageSet& set, const DisplayText& text) {
@@ -158,7 +154,7 @@ void LanguageJobs::Export(int language) {
   if (path) {
     const TranslationTable table =
         TableOf(set, language, CurrentTexts(language), Origin(), Alphabet::Of(set.DisplayType));
-    WriteFile(*path, IsCsv(*path) ? WriteCsv(table) : WriteXliff(table));
+    WriteDerivedFile(set, *path, WriteTable(table, FormatOf(*path)));
     workspace_.window.status =
         workspace_.ui_text[UiTextId::kSaved] + " " + PathText(path->filename());
   }
