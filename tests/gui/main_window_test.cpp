@@ -162,6 +162,7 @@ class MainWindowTest : public DeskTest {
     QVERIFY(!Get<QToolButton>("StatusDetails").isVisible());
     desk_->program.Choose("mnuSave");
     QVERIFY(Get<QToolButton>("StatusDetails").isVisible());
+    QVERIFY2(!State().contains(QChar(0x2026)), "the languages are whole or not there");
     const QString status = Status();
     Get<QToolButton>("StatusDetails").click();
     QCOMPARE(desk_->user.LastBox().text, status);

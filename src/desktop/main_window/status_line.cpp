@@ -1,7 +1,5 @@
 #include "desktop/main_window/status_line.h"
 
-#include <algorithm>
-
 #include "desktop/announce.h"
 #include "desktop/qt_text.h"
 
@@ -50,13 +48,16 @@ void StatusLine::Show(const ViewState& view, const UiText& ui_text) {
   Announce(*status_, status_text_);
 }
 
-// Of the languages stays what leaves half of the line to a status.
+// Beside a status half of the line is left to the state, where the languages stand whole or not at
+// all; alone it has all of the line.
 void StatusLine::ShowState() {
   const QFontMetrics metrics = state_->fontMetrics();
   const bool is_alone = status_text_.isEmpty() && hint_.isEmpty();
   const int room =
       (is_alone ? width() : width() / 2) - metrics.horizontalAdvance(place_) - 2 * kGap;
-  const QString languages = metrics.elidedText(languages_, Qt::ElideMiddle, std::max(room, 0));
+  const bool is_too_long = metrics.horizontalAdvance(languages_) > room;
+  const QString languages =
+      is_too_long && !is_alone ? QString() : metrics.elidedText(languages_, Qt::ElideMiddle, room);
   const QString gap = languages.isEmpty() ? QString() : QStringLiteral("  ");
   state_->setText(languages + gap + place_);
   const QString state = QStringLiteral("%1  %2").arg(languages_, place_).trimmed();
