@@ -29,3 +29,15 @@ if(VENDLINGUA_COVERAGE)
   target_compile_options(vendlingua_settings INTERFACE --coverage)
   target_link_options(vendlingua_settings INTERFACE --coverage)
 endif()
+
+# What users get stops at an overrun instead of going on with it. Compilers of distributions do some of
+# this by themselves, and define _FORTIFY_SOURCE, which must not be defined twice.
+if(CMAKE_BUILD_TYPE STREQUAL "Release" AND UNIX AND NOT APPLE)
+  include(CheckPIESupported)
+  check_pie_supported(LANGUAGES CXX)
+  set(CMAKE_POSITION_INDEPENDENT_CODE ON)
+  target_compile_options(vendlingua_settings INTERFACE
+    -fstack-protector-strong -fstack-clash-protection -U_FORTIFY_SOURCE -D_FORTIFY_SOURCE=2
+    -D_GLIBCXX_ASSERTIONS)
+  target_link_options(vendlingua_settings INTERFACE LINKER:-z,relro LINKER:-z,now)
+endif()

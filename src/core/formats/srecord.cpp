@@ -8,6 +8,7 @@ namespace vendlingua {
 namespace {
 
 constexpr std::size_t kBytesPerRecord = 16;
+constexpr std::size_t kCountEnd = 4;  // characters of type and count
 // "S2", count, address, data, checksum, CR LF: usually with 6 digits of address, at most with 16.
 constexpr std::size_t kUsualLineLength = 2 + 2 + 6 + 2 * kBytesPerRecord + 2 + 2;
 constexpr std::size_t kLongestLine = kUsualLineLength - 6 + 16;
@@ -86,6 +87,19 @@ std::size_t AddressBytesOf(char type) {
                                        line.size() - rest.size() + 1, rest.substr(0, 2)));
 }
 
+// The bytes behind the count: exactly those that the line holds, at least an address and a
+// checksum.
+std::size_t CountOf(std::string_view line, std::size_t address_size) {
+  const std::uint32_t count = line.size() < kCountEnd ? 0 : HexPairValue(line[2], line[3]);
+  if (count > kLastByte) {
+    ThrowForDigits(line);
+  }
+  if (count < address_size + 1 || line.size() != kCountEnd + 2 * count) {
+    ThrowForCount(line, count);
+  }
+  return count;
+}
+
 }  // namespace
 
 SRecordType SRecordTypeFor(std::uint32_t start) {
@@ -116,40 +130,30 @@ void ParseSRecord(std::string_view line, SRecord& record) {
     throw SRecordSyntaxError("does not begin with S and a digit");
   }
   record.type = line[1];
-  const std::size_t address_bytes = AddressBytesOf(record.type);
+  record.address_size = AddressBytesOf(record.type);
+  const std::size_t count = CountOf(line, record.address_size);
 
   // Pairs that are none leave their mark here and are looked for when all have been read.
   std::uint32_t marks = 0;
   std::uint32_t sum = 0;
-  std::size_t column = 2;
-  const auto next_byte = [&] {
-    const std::uint32_t value = HexPairValue(line[column], line[column + 1]);
-    column += 2;
+  const char* digits = line.data() + kCountEnd;
+  for (std::uint8_t& byte : std::span(record.bytes).first(count)) {
+    const std::uint32_t value = HexPairValue(digits[0], digits[1]);
+    digits += 2;
     marks |= value;
-    const auto byte = static_cast<std::uint8_t>(value);
+    byte = static_cast<std::uint8_t>(value);
     sum += byte;
-    return byte;
-  };
-  const std::size_t count = line.size() >= 4 ? next_byte() : 0;
-  if (marks <= kLastByte && (count < address_bytes + 1 || line.size() != 4 + 2 * count)) {
-    ThrowForCount(line, count);
   }
   if (marks > kLastByte) {
     ThrowForDigits(line);
   }
   record.address = 0;
-  for (std::size_t i = 0; i < address_bytes; ++i) {
-    record.address = (record.address << 8U) | next_byte();
+  for (const std::uint8_t byte : std::span(record.bytes).first(record.address_size)) {
+    record.address = (record.address << 8U) | byte;
   }
-  record.size = count - address_bytes - 1;
-  for (std::size_t i = 0; i < record.size; ++i) {
-    record.buffer[i] = next_byte();
-  }
-  record.sum = static_cast<std::uint8_t>(sum);
-  record.checksum = next_byte();
-  if (marks > kLastByte) {
-    ThrowForDigits(line);
-  }
+  record.size = count - record.address_size - 1;
+  record.checksum = record.bytes[count - 1];
+  record.sum = static_cast<std::uint8_t>(count + sum - record.checksum);
 }
 
 }  // namespace vendlingua

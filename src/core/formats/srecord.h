@@ -52,12 +52,15 @@ class SRecordSyntaxError : public std::runtime_error {
 struct SRecord {
   char type = '0';  ///< '0' to '9'
   std::uint32_t address = 0;
-  std::array<std::uint8_t, 255> buffer{};
-  std::size_t size = 0;       ///< data bytes
-  std::uint8_t checksum = 0;  ///< as written
-  std::uint8_t sum = 0;       ///< low byte of the sum of count, address and data
+  std::array<std::uint8_t, 255> bytes{};  ///< address, data and checksum
+  std::size_t address_size = 0;           ///< bytes of the address
+  std::size_t size = 0;                   ///< data bytes
+  std::uint8_t checksum = 0;              ///< as written
+  std::uint8_t sum = 0;                   ///< low byte of the sum of count, address and data
 
-  std::span<const std::uint8_t> Data() const { return std::span(buffer).first(size); }
+  std::span<const std::uint8_t> Data() const {
+    return std::span(bytes).subspan(address_size, size);
+  }
   bool ChecksumIsRight() const { return checksum == SRecordChecksum(sum); }
 };
 
