@@ -2,6 +2,7 @@
 
 #include <system_error>
 
+#include "core/platform/folder_of.h"
 #include "core/platform/links.h"
 
 namespace vendlingua {
@@ -12,8 +13,8 @@ namespace fs = std::filesystem;
 fs::path Destination(const fs::path& file) {
   std::error_code error;
   const fs::path path = FollowLinks(file);
-  fs::path canonical = fs::weakly_canonical(fs::absolute(path, error), error);
-  return error ? path : canonical;
+  const fs::path folder = fs::canonical(FolderOf(path), error);
+  return error ? path.lexically_normal() : folder / path.filename();
 }
 
 }  // namespace
