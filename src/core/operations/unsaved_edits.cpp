@@ -6,66 +6,22 @@
 #include <system_error>
 #include <utility>
 
+#include "core/formats/journal_files.h"
 #include "core/platform/errors.h"
 #include "core/platform/file_errors.h"
 #include "core/platform/files.h"
 #include "core/platform/record_bytes.h"
-#include "core/platform/temporary_name.h"
 
 namespace vendlingua {
 namespace {
 
 namespace fs = std::filesystem;
 
-constexpr const char* kJournalExtension = ".journal";
-// Edits that do not fit their file any more, for whoever wants to look at them.
-constexpr const char* kPutAsideExtension = ".old";
-constexpr std::uint64_t kJournalLimit = std::uint64_t{16} << 20U;
-
 // Links and "..": one file has one name here.
 fs::path PlaceOf(const fs::path& file) {
   std::error_code error;
   const fs::path place = fs::weakly_canonical(file, error);
   return error ? file : place;
-}
-
-std::vector<fs::path> JournalsIn(const fs::path& folder) {
-  std::vector<fs::path> journals;
-  std::error_code error;
-  fs::directory_iterator entry(folder, error);
-  for (; !error && entry != fs::directory_iterator(); entry.increment(error)) {
-    if (entry->path().extension() == kJournalExtension) {
-      journals.push_back(entry->path());
-    }
-  }
-  std::sort(journals.begin(), journals.end());
-  return journals;
-}
-
-// The journal at `path`, unless a running program writes it. It stays locked as long as `file` is
-// open.
-std::optional<EditJournal> TakeJournal(FileHandle& file, const fs::path& path) {
-  try {
-    OpenRegularFile(file, path, FileHandle::Access::kRead);
-    if (file.TryLock(FileHandle::LockKind::kExclusive) == std::errc::operation_would_block) {
-      return std::nullopt;
-    }
-    return ParseJournal(ReadWhole(file, path, kJournalLimit));
-  } catch (const FileError&) {
-    return std::nullopt;
-  }
-}
-
-void Remove(FileHandle& file, const fs::path& path) {
-  file.Close();
-  std::error_code ignored;
-  fs::remove(path, ignored);
-}
-
-void PutAside(FileHandle& file, const fs::path& path) {
-  file.Close();
-  std::error_code ignored;
-  fs::rename(path, fs::path(path).replace_extension(kPutAsideExtension), ignored);
 }
 
 // The message texts that the journal ends with.
@@ -160,15 +116,9 @@ void UnsavedEdits::Begin() {
   const std::vector<JournalEntry> entries = EntriesSince(kept);
   Drop();
   const fs::path& folder = workspace_.folders.journals;
-  std::error_code error;
-  fs::create_directories(folder, error);
-  path_ = folder / TemporaryName().replace_extension(kJournalExtension);
+  path_ = NewJournalPath(folder);
   file_.emplace();
-  error = file_->CreateNew(path_);
-  if (!error) {
-    file_->TryLock(FileHandle::LockKind::kExclusive);
-    error = file_->Write(ComposeJournalHead(kept.subject));
-  }
+  const std::error_code error = CreateJournal(*file_, path_, kept.subject);
   if (error) {
     Drop();
     ThrowFileError(path_, UiTextId::kCannotBeWritten, error);
@@ -207,7 +157,7 @@ void UnsavedEdits::WriteEntries(const std::vector<JournalEntry>& entries) {
 void UnsavedEdits::Drop() {
   if (file_) {
     if (file_->IsOpen()) {
-      Remove(*file_, path_);
+      RemoveJournal(*file_, path_);
     }
     file_.reset();
   }
@@ -235,15 +185,14 @@ bool UnsavedEdits::IsOfThisFile(const JournalSubject& subject) const {
 void UnsavedEdits::OfferJournal(const EditJournal& journal, FileHandle& file,
                                 const fs::path& path) {
   if (journal.entries.empty()) {
-    Remove(file, path);
+    RemoveJournal(file, path);
     return;
   }
   const UiText& ui_text = workspace_.ui_text;
   const std::string name = PathText(workspace_.set.CurrentFileName);
   if (!Fits(journal)) {
-    PutAside(file, path);
-    const UiSentence notice(UiTextId::kUnsavedEditsDoNotFit, name,
-                            PathText(fs::path(path).replace_extension(kPutAsideExtension)));
+    const fs::path put_aside = PutJournalAside(file, path);
+    const UiSentence notice(UiTextId::kUnsavedEditsDoNotFit, name, PathText(put_aside));
     dialogs_.MessageBox(
         {MessageIcon::kExclamation, notice.In(ui_text), ui_text[UiTextId::kUnsavedTitle]});
     return;
@@ -254,10 +203,10 @@ void UnsavedEdits::OfferJournal(const EditJournal& journal, FileHandle& file,
       dialogs_.MessageBox({MessageIcon::kQuestion, question.In(ui_text),
                            ui_text[UiTextId::kUnsavedTitle], MessageButtons::kYesNo});
   if (answer == MessageAnswer::kNo) {
-    Remove(file, path);
+    RemoveJournal(file, path);
   } else if (TakeOver(journal)) {
     Keep();
-    Remove(file, path);
+    RemoveJournal(file, path);
   }
 }
 
