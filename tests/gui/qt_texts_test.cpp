@@ -114,6 +114,17 @@ class QtTextsTest : public DeskTest {
     QCOMPARE(button, QStringLiteral("\u00D6ppna"));
   }
 
+  void AreOursWhereQtHasNone() {
+    Speak(QStringLiteral("svenska"));
+    QString folder;
+    desk_->user.on_dialog = [&](QDialog& dialog) {
+      folder = dialog.findChild<QLabel*>(QStringLiteral("lookInLabel"))->text();
+    };
+    desk_->user.Cancel();
+    desk_->program.Choose("mnuOpen");
+    QCOMPARE(folder, QStringLiteral("Leta i:"));
+  }
+
   void ChangeWithTheInterfaceLanguage() {
     Speak(QStringLiteral("deutsch"));
     QVERIFY(EditMenu().contains(QStringLiteral("Ausschneiden")));

@@ -277,6 +277,7 @@ enum class UiTextId : std::size_t {
   kImportPreview,
   kNothingChanges,
   kTableRefused,
+  kLookIn,
 };
 
 }  // namespace vendlingua

@@ -21,14 +21,15 @@ struct SharedText {
 };
 
 // Texts of Qt that are among the interface texts.
-constexpr std::array<SharedText, 8> kSharedTexts = {{{"&Yes", UiTextId::kYes},
+constexpr std::array<SharedText, 9> kSharedTexts = {{{"&Yes", UiTextId::kYes},
                                                      {"&No", UiTextId::kNo},
                                                      {"Cancel", UiTextId::kCancel},
                                                      {"Cu&t", UiTextId::kCut},
                                                      {"&Copy", UiTextId::kCopyText},
                                                      {"&Paste", UiTextId::kPaste},
                                                      {"Delete", UiTextId::kDelete},
-                                                     {"Select All", UiTextId::kSelectAll}}};
+                                                     {"Select All", UiTextId::kSelectAll},
+                                                     {"Look in:", UiTextId::kLookIn}}};
 
 class InterfaceTexts : public QTranslator {
  public:
