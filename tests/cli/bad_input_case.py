@@ -9,7 +9,8 @@ from __future__ import annotations
 import shutil
 from dataclasses import dataclass
 
-from support import DONE, REFUSED, CliTest, MesFile, msx_file, s_records, snapshot
+from message_files import MesFile, msx_file, s_records
+from support import DONE, REFUSED, CliTest, snapshot
 
 MES = MesFile(flags=b"03", mem_start=0xFF8000)
 MSX_CONTENT = msx_file(1)

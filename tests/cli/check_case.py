@@ -4,7 +4,8 @@ from __future__ import annotations
 
 import json
 
-from support import CliTest, MesFile, Result
+from message_files import MesFile
+from support import CliTest, Result
 
 RULES = (
     "placeholder-lost",

@@ -4,7 +4,8 @@ from __future__ import annotations
 
 from collections.abc import Sequence
 
-from support import CliTest, MesFile, Result
+from message_files import MesFile
+from support import CliTest, Result
 
 NO_NAME_LIST = 1  # header flag: the firmware lists the languages itself
 MHX_FAMILY = 2  # header flag: flash files are .MHX files

@@ -21,7 +21,7 @@ from bad_input_case import (
     VERIFY,
     BadInputCase,
 )
-from support import header, s_record, s_records
+from message_files import header, s_record, s_records
 
 
 class ContentTest(BadInputCase):

@@ -10,7 +10,8 @@ import os
 import subprocess
 import unittest
 
-from support import DONE, PROGRAM, REFUSED, WRONG_USAGE, CliTest, MesFile, limit_memory, msx_file
+from message_files import MesFile, msx_file
+from support import DONE, PROGRAM, REFUSED, WRONG_USAGE, CliTest, limit_memory
 
 SIZE = int(os.environ.get("BOUNDS_MIB", "2")) << 20
 TIMEOUT_SECONDS = 120

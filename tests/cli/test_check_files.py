@@ -7,17 +7,8 @@ import shutil
 import unittest
 
 from check_case import CheckCase, language_file
-from support import (
-    MSX_NAME_MESSAGE,
-    REFUSED,
-    SAMPLES,
-    MesFile,
-    header,
-    msx_at,
-    msx_file,
-    msx_header,
-    s_record,
-)
+from message_files import MSX_NAME_MESSAGE, MesFile, header, msx_at, msx_file, msx_header, s_record
+from support import REFUSED, SAMPLES
 
 
 class MsxTest(CheckCase):

@@ -5,7 +5,8 @@ from __future__ import annotations
 import unittest
 
 from compile_case import MHX_FAMILY, NO_NAME_LIST, CompileCase, flags, slots
-from support import MesFile, Result, decode_with_objcopy, decode_with_srec_cat, on_stderr, s_records
+from message_files import MesFile, decode_with_objcopy, decode_with_srec_cat, s_records
+from support import Result, on_stderr
 
 
 class FlashFileTest(CompileCase):

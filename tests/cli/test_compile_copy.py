@@ -5,7 +5,8 @@ from __future__ import annotations
 import unittest
 
 from compile_case import INFO_BOX, NO_NAME_LIST, CompileCase, flags, nine_languages
-from support import LAST_LINE_OF_NINE, REFUSED, MesFile, on_stderr, s_records
+from message_files import LAST_LINE_OF_NINE, MesFile, s_records
+from support import REFUSED, on_stderr
 
 
 class IdentifiedCopyTest(CompileCase):

@@ -4,7 +4,8 @@ from __future__ import annotations
 
 import unittest
 
-from support import LAST_LINE_OF_NINE, CliTest, msx_file, msx_header, msx_lines, on_stderr
+from message_files import LAST_LINE_OF_NINE, msx_file, msx_header, msx_lines
+from support import CliTest, on_stderr
 
 
 class CompileMsxTest(CliTest):

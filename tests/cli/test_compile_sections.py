@@ -5,7 +5,7 @@ from __future__ import annotations
 import unittest
 
 from compile_case import CompileCase, flags
-from support import MesFile
+from message_files import MesFile
 
 
 class SectionFilesOfCompileTest(CompileCase):

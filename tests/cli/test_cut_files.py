@@ -21,7 +21,8 @@ from bad_input_case import (
     VERIFY,
     BadInputCase,
 )
-from support import DONE, msx_at, msx_file, msx_header
+from message_files import msx_at, msx_file, msx_header
+from support import DONE
 
 
 class CutFileTest(BadInputCase):

@@ -6,7 +6,8 @@ import random
 import unittest
 
 from diff_case import DIFFERENT, SAME, TROUBLE, DiffCase
-from support import SAMPLES, MesFile, msx_file
+from message_files import MesFile, msx_file
+from support import SAMPLES
 
 
 class MessageFilesTest(DiffCase):

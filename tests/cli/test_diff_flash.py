@@ -7,7 +7,8 @@ import random
 import unittest
 
 from diff_case import DIFFERENT, SAME, TROUBLE, DiffCase
-from support import SAMPLES, MesFile, msx_file, s_records
+from message_files import MesFile, msx_file, s_records
+from support import SAMPLES
 
 
 class FlashFilesTest(DiffCase):

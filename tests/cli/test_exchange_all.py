@@ -4,7 +4,8 @@ from __future__ import annotations
 
 import unittest
 
-from support import CliTest, MesFile, msx_file
+from message_files import MesFile, msx_file
+from support import CliTest
 
 NAMES = (b"Default", b"ITALIANO", b"ENGLISH", b"ENGLISH")
 HEADER = b"message,origin,text\r\n"

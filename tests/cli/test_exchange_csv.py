@@ -5,17 +5,8 @@ from __future__ import annotations
 import subprocess
 import unittest
 
-from support import (
-    DONE,
-    PROGRAM,
-    REFUSED,
-    CliTest,
-    MesFile,
-    limit_memory,
-    msx_at,
-    msx_file,
-    s_record,
-)
+from message_files import MesFile, msx_at, msx_file, s_record
+from support import DONE, PROGRAM, REFUSED, CliTest, limit_memory
 
 HEADER = b"message,origin,text\r\n"
 MIB = 1 << 20

@@ -4,7 +4,8 @@ from __future__ import annotations
 
 import unittest
 
-from support import CliTest, MesFile
+from message_files import MesFile
+from support import CliTest
 
 HEADER = b"message,origin,text\r\n"
 

@@ -5,7 +5,8 @@ from __future__ import annotations
 import unittest
 import xml.etree.ElementTree as ET
 
-from support import CliTest, MesFile, Result, msx_file
+from message_files import MesFile, msx_file
+from support import CliTest, Result
 
 NAMESPACE = {"x": "urn:oasis:names:tc:xliff:document:1.2"}
 WIDE = MesFile(

@@ -6,7 +6,8 @@ import csv
 import io
 import unittest
 
-from support import CliTest, MesFile, Result, msx_at, msx_file, msx_message, s_record
+from message_files import MesFile, msx_at, msx_file, msx_message, s_record
+from support import CliTest, Result
 
 HEADER = b"message,origin,text\r\n"
 

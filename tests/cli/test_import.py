@@ -5,7 +5,8 @@ from __future__ import annotations
 import unittest
 
 from import_case import SOURCE, ImportCase, answers, block, source_of
-from support import MesFile, header, on_stderr
+from message_files import MesFile, header
+from support import on_stderr
 
 
 class ImportTest(ImportCase):

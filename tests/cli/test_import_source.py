@@ -5,7 +5,8 @@ from __future__ import annotations
 import unittest
 
 from import_case import SOURCE, ImportCase, answers, source_of
-from support import header, on_stderr
+from message_files import header
+from support import on_stderr
 
 
 class LabelTest(ImportCase):

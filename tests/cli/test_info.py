@@ -5,10 +5,9 @@ from __future__ import annotations
 import json
 import unittest
 
-from support import (
+from message_files import (
     LAST_LINE_OF_NINE,
     MSX_NAME_MESSAGE,
-    CliTest,
     MesFile,
     header,
     msx_at,
@@ -16,6 +15,7 @@ from support import (
     msx_header,
     msx_lines,
 )
+from support import CliTest
 
 
 class InfoOfMesFileTest(CliTest):

@@ -4,15 +4,8 @@ from __future__ import annotations
 
 import unittest
 
-from support import (
-    SAMPLES,
-    CliTest,
-    MesFile,
-    msx_file,
-    msx_lines,
-    s_record,
-    s_records,
-)
+from message_files import MesFile, msx_file, msx_lines, s_record, s_records
+from support import SAMPLES, CliTest
 
 COPY_HEADER = b"S013000044543032363741412020202020202020E9\r\n"  # of 0267AA
 

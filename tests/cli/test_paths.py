@@ -7,7 +7,8 @@ import shutil
 import unittest
 from collections.abc import Iterator
 
-from support import DONE, PROGRAM, REFUSED, WRONG_USAGE, Cli, CliTest, MesFile, Result, s_record
+from message_files import MesFile, s_record
+from support import DONE, PROGRAM, REFUSED, WRONG_USAGE, Cli, CliTest, Result
 
 NAMES = (
     b"x\xff\xfe y",  # in no encoding

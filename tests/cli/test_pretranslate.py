@@ -6,16 +6,8 @@ import csv
 import io
 import unittest
 
-from support import (
-    MSX_START,
-    SAMPLES,
-    CliTest,
-    MesFile,
-    Result,
-    msx_at,
-    msx_file,
-    s_record,
-)
+from message_files import MSX_START, MesFile, msx_at, msx_file, s_record
+from support import SAMPLES, CliTest, Result
 
 WIDTH = 8
 ORIGIN = (b"Fermo   ", b"Prova 12", b"Nr.   \xfe\xfe", b"Acqua   ", b"Nuovo   ")

@@ -9,7 +9,8 @@ import unittest
 import zlib
 from html.parser import HTMLParser
 
-from support import SAMPLES, CliTest, MesFile
+from message_files import MesFile
+from support import SAMPLES, CliTest
 
 
 class Labels(HTMLParser):

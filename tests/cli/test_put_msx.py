@@ -4,7 +4,8 @@ from __future__ import annotations
 
 import unittest
 
-from support import CliTest, msx_at, msx_file, msx_header
+from message_files import msx_at, msx_file, msx_header
+from support import CliTest
 
 
 class PutIntoMsxFileTest(CliTest):

@@ -7,7 +7,8 @@ import struct
 import unittest
 import zlib
 
-from support import REFUSED, CliTest, MesFile
+from message_files import MesFile
+from support import REFUSED, CliTest
 
 FILE = MesFile()
 BEFORE = FILE.content()

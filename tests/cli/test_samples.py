@@ -11,16 +11,8 @@ import tempfile
 import unittest
 from pathlib import Path
 
-from support import (
-    COMMANDS,
-    LAST_LINE_OF_NINE,
-    PROGRAM,
-    SAMPLES,
-    CliTest,
-    decode_with_objcopy,
-    decode_with_srec_cat,
-    header,
-)
+from message_files import LAST_LINE_OF_NINE, decode_with_objcopy, decode_with_srec_cat, header
+from support import COMMANDS, PROGRAM, SAMPLES, CliTest
 
 FILES = ("FW0417AB.MES", "FW0267AA.MES", "MP0417AA.MSX")
 LANGUAGES = (

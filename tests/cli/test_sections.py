@@ -4,7 +4,8 @@ from __future__ import annotations
 
 import unittest
 
-from support import CliTest, on_stderr, s_record, s_records
+from message_files import s_record, s_records
+from support import CliTest, on_stderr
 
 SIXTEEN = bytes(range(0x41, 0x51))
 

@@ -6,7 +6,8 @@ import json
 import shutil
 import unittest
 
-from support import SAMPLES, CliTest, MesFile, header, msx_at, msx_file
+from message_files import MesFile, header, msx_at, msx_file
+from support import SAMPLES, CliTest
 
 
 class StatsTest(CliTest):

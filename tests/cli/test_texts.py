@@ -4,7 +4,8 @@ from __future__ import annotations
 
 import unittest
 
-from support import CliTest, MesFile, msx_at, msx_file, msx_header, msx_message
+from message_files import MesFile, msx_at, msx_file, msx_header, msx_message
+from support import CliTest
 
 ALL_CODES = [bytes(range(start, start + 16)) for start in range(0, 256, 16)]
 

@@ -7,7 +7,8 @@ import io
 import unittest
 
 from firmware_revision import MESSAGES, Texts
-from support import SAMPLES, CliTest, MesFile, header
+from message_files import MesFile, header
+from support import SAMPLES, CliTest
 
 # Three messages of four cells.
 SOURCE = b" .SDATA\r\n ORG $6000\r\n DC.B 'Uno '\r\nMNLING DC.B 'Due '\r\n DC.B 'Tre '\r\n"

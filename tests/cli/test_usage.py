@@ -9,7 +9,8 @@ import subprocess
 import unittest
 from pathlib import Path
 
-from support import COMMANDS, PROGRAM, REFUSED, Cli, CliTest, MesFile, msx_file
+from message_files import MesFile, msx_file
+from support import COMMANDS, PROGRAM, REFUSED, Cli, CliTest
 
 # Every option and argument that a command cannot do without.
 COMPLETE = {

@@ -4,7 +4,7 @@ from __future__ import annotations
 
 import unittest
 
-from support import LAST_LINE_OF_NINE, MesFile, header, msx_at, msx_file, s_record, s_records
+from message_files import LAST_LINE_OF_NINE, MesFile, header, msx_at, msx_file, s_record, s_records
 from verify_case import VerifyCase
 
 

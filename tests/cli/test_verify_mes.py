@@ -4,7 +4,7 @@ from __future__ import annotations
 
 import unittest
 
-from support import MesFile, header
+from message_files import MesFile, header
 from verify_case import VerifyCase
 
 

@@ -17,7 +17,8 @@ from dataclasses import dataclass, field
 from pathlib import Path
 
 sys.path.insert(0, str(Path(__file__).resolve().parent.parent / "cli"))
-from support import PROGRAM, MesFile, msx_file  # noqa: E402
+from message_files import MesFile, msx_file  # noqa: E402
+from support import PROGRAM  # noqa: E402
 
 FAULTS = Path(os.environ.get("VENDLINGUA_FAULTS", "libvendlingua_faults.so"))
 LEFTOVER = re.compile(r"~.*\.undo|\.vendlingua-[0-9]+\.tmp")
@@ -117,6 +118,9 @@ class Scenario:
                 raise Lost(f"{label}: failed and left {name} changed: {done.err}")
 
     def recoverable(self) -> list[str]:
+        """The files that are changed in place; those of a set take the place of older ones."""
+        if self.is_set:
+            return []
         return [name for name in self.targets if name in self.before and name.endswith(("MES", "MSX"))]
 
     def judge_files(self, left: Files, label: str) -> None:

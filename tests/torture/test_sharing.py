@@ -15,7 +15,8 @@ from collections.abc import Iterable
 from pathlib import Path
 
 sys.path.insert(0, str(Path(__file__).resolve().parent.parent / "cli"))
-from support import PROGRAM, Cli, MesFile  # noqa: E402
+from message_files import MesFile  # noqa: E402
+from support import PROGRAM, Cli  # noqa: E402
 
 ROUNDS = int(os.environ.get("TORTURE_ROUNDS", "8"))
 SEED = int(os.environ.get("TORTURE_SEED", "455"))
