@@ -1,6 +1,7 @@
 #!/usr/bin/env python3
 """Measures Vendlingua beside srec_cat and objcopy on the same bytes, beside gettext and the Translate Toolkit
-on the same texts, and its windows beside Qt Linguist's, and writes docs/performance.md.
+on the same texts, its saves beside SQLite's, and its windows beside Qt Linguist's, and writes
+docs/performance.md.
 
 Figures of conversions are of whole processes: the median of their user + system time and the largest
 peak memory over several runs, the programs taking turns. scripts/measure.sh builds what this needs.
@@ -21,6 +22,7 @@ from pathlib import Path
 import measure_windows
 from measure_languages import measure_languages
 from measure_processes import Program, compare, run_once, table
+from measure_saves import measure_saves
 
 ROOT = Path(__file__).resolve().parent.parent
 PROGRAMS = ROOT / "build/bench/bin"
@@ -112,7 +114,7 @@ def duration(value: float, unit: str) -> str:
 
 def measure_engine() -> str:
     result = subprocess.run(
-        [str(BENCHES / "engine_bench"), "--benchmark_format=json"],
+        [str(BENCHES / "engine_bench"), "--benchmark_filter=-SaveChanged", "--benchmark_format=json"],
         capture_output=True,
         check=True,
         text=True,
@@ -133,6 +135,7 @@ def main() -> None:
         folder = Path(name)
         parts = [measure_records(folder), measure_sizes(folder), measure_compile(folder)]
         parts.append(measure_languages(folder, str(PROGRAMS / "vendlingua-cli")))
+    parts.append(measure_saves(BENCHES / "engine_bench", ROOT / "build"))
     parts.append(measure_engine())
     parts += [
         measure_windows.measure_starts(

@@ -58,6 +58,15 @@ class OpenSample : public benchmark::Fixture {
   }
 
  protected:
+  void SetAllTexts(DisplayCode code) {
+    MessageSet& set = engine_->workspace.set;
+    std::vector<NewText> texts;
+    for (std::size_t message = 0; message <= set.LastMsg; ++message) {
+      texts.push_back({message, DisplayCodes(set.Width(), code)});
+    }
+    set.SetTexts(texts);
+  }
+
   static unsigned Random() { return std::random_device()(); }
 
   fs::path folder_;
@@ -84,6 +93,19 @@ BENCHMARK_F(OpenSample, SaveLanguage)(benchmark::State& state) {
     engine_->writer.Save();
   }
 }
+
+// Every message of the language is another one each time.
+BENCHMARK_DEFINE_F(OpenSample, SaveChangedLanguage)(benchmark::State& state) {
+  DisplayCode code = 'A';
+  for (auto _ : state) {
+    state.PauseTiming();
+    code = code == 'A' ? 'B' : 'A';
+    SetAllTexts(code);
+    state.ResumeTiming();
+    engine_->writer.Save();
+  }
+}
+BENCHMARK_REGISTER_F(OpenSample, SaveChangedLanguage)->UseRealTime()->Unit(benchmark::kMillisecond);
 
 BENCHMARK_F(OpenSample, CompileNineLanguages)(benchmark::State& state) {
   for (std::size_t language = 1; language <= 9; ++language) {

@@ -7,10 +7,12 @@ namespace vendlingua {
 void EditHistory::Add(const Edit& edit, EditKind kind) {
   const bool types = kind == EditKind::kTyping;
   const bool grows =
-      typing_ && types && CanStepBack() && steps_[done_ - 1].back().message == edit.message;
+      typing_ && types && CanStepBack() && steps_[done_ - 1]->back().message == edit.message;
   if (grows) {
     steps_.resize(done_);
-    steps_.back().back().after = edit.after;
+    EditStep grown = *steps_.back();
+    grown.back().after = edit.after;
+    steps_.back() = std::make_shared<const EditStep>(std::move(grown));
   } else {
     Add({edit});
   }
@@ -19,19 +21,19 @@ void EditHistory::Add(const Edit& edit, EditKind kind) {
 
 void EditHistory::Add(EditStep step) {
   steps_.resize(done_);
-  steps_.push_back(std::move(step));
+  steps_.push_back(std::make_shared<const EditStep>(std::move(step)));
   done_ = steps_.size();
   EndTyping();
 }
 
 EditStep EditHistory::StepBack() {
   EndTyping();
-  return CanStepBack() ? steps_[--done_] : EditStep();
+  return CanStepBack() ? *steps_[--done_] : EditStep();
 }
 
 EditStep EditHistory::StepForward() {
   EndTyping();
-  return CanStepForward() ? steps_[done_++] : EditStep();
+  return CanStepForward() ? *steps_[done_++] : EditStep();
 }
 
 }  // namespace vendlingua

@@ -3,6 +3,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <memory>
 #include <vector>
 
 #include "core/document/display_text.h"
@@ -47,7 +48,8 @@ class EditHistory {
   bool CanStepForward() const { return done_ < steps_.size(); }
 
  private:
-  std::vector<EditStep> steps_;
+  // Steps never change, so that every snapshot of the set can share them.
+  std::vector<std::shared_ptr<const EditStep>> steps_;
   std::size_t done_ = 0;  // of them; those behind were taken back
   bool typing_ = false;   // the last one may grow
 };
