@@ -26,6 +26,13 @@ std::optional<ChangeRecord> ReadRecord(std::string_view bytes) {
   return reader.is_complete() && reader.at_end() ? std::optional(record) : std::nullopt;
 }
 
+// A power cut may leave a file of the right length that lacks any of its bytes: they read as 0.
+bool MayBeARecord(std::string_view bytes) {
+  const std::string_view line = bytes.substr(0, kFirstLine.size());
+  return std::equal(line.begin(), line.end(), kFirstLine.begin(),
+                    [](char byte, char ours) { return byte == ours || byte == '\0'; });
+}
+
 // Whether every change lies in the files that the record tells of.
 bool IsConsistent(const ChangeRecord& record) {
   return record.length_before <= record.length_after &&
@@ -116,13 +123,12 @@ std::string ComposeRecord(const ChangeRecord& record) {
   return bytes;
 }
 
-// A power cut may leave a file of the right length that holds nothing but 0.
 ParsedRecord ParseRecord(std::string_view bytes) {
-  const bool is_ours =
-      bytes.starts_with(kFirstLine) || kFirstLine.starts_with(bytes) ||
-      std::all_of(bytes.begin(), bytes.end(), [](char byte) { return byte == '\0'; });
-  if (bytes.size() < kFirstLine.size() + kNumberBytes || !is_ours) {
-    return {std::nullopt, is_ours};
+  if (!MayBeARecord(bytes)) {
+    return {std::nullopt, false};
+  }
+  if (!bytes.starts_with(kFirstLine) || bytes.size() < kFirstLine.size() + kNumberBytes) {
+    return {std::nullopt, true};
   }
   const std::string_view checked = bytes.substr(0, bytes.size() - kNumberBytes);
   if (RecordReader(bytes.substr(checked.size())).Number() != Checksum(checked)) {

@@ -78,6 +78,19 @@ TEST(ChangeRecord, IsUnfinishedWhereverItIsCut) {
   EXPECT_TRUE(ParseRecord(std::string(bytes.size(), '\0')).is_unfinished);
 }
 
+// A power cut leaves any part of it.
+TEST(ChangeRecord, IsUnfinishedWhereverBytesAreMissing) {
+  const std::string bytes = ComposeRecord(RecordOf(kBefore, After()));
+  for (std::size_t i = 0; i < bytes.size(); ++i) {
+    if (bytes[i] != '\0') {
+      std::string torn = bytes;
+      torn[i] = '\0';
+      EXPECT_FALSE(ParseRecord(torn).record) << i;
+      EXPECT_TRUE(ParseRecord(torn).is_unfinished) << i;
+    }
+  }
+}
+
 TEST(ChangeRecord, IsUnusableWithOneByteChanged) {
   const std::string bytes = ComposeRecord(RecordOf(kBefore, After()));
   for (std::size_t i = 0; i < bytes.size(); ++i) {
