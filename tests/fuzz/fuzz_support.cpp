@@ -38,6 +38,34 @@ void Edit(Engine& engine, Dialogs& dialogs, FuzzedDataProvider& choices) {
   engine.editing.ChooseDisplayType(choices.ConsumeIntegralInRange<std::size_t>(0, 3));
 }
 
+void RequireOpens(const fs::path& path, FuzzDialogs& dialogs) {
+  dialogs.files = {path};
+  const auto again = std::make_unique<Engine>(dialogs);
+  Require(again->opener.Open() == OpenOutcome::kOpened, "a saved file opens again");
+}
+
+void Save(Engine& engine, FuzzDialogs& dialogs, const fs::path& path, const std::string& before) {
+  if (engine.writer.Save().result == SaveOutcome::kFailed) {
+    Require(ReadFile(path) == before, "a save that fails leaves the file as it was");
+    return;
+  }
+  RequireOpens(path, dialogs);
+}
+
+void SaveAs(Engine& engine, FuzzDialogs& dialogs, const fs::path& path, const std::string& before) {
+  const fs::path copy = path.parent_path() / ("COPY" + path.extension().string());
+  dialogs.files = {copy};
+  try {
+    engine.writer.SaveAs();
+  } catch (const Error&) {
+    Require(!fs::exists(copy), "a copy that fails is not there");
+  }
+  Require(ReadFile(path) == before, "a copy leaves the file as it was");
+  if (fs::exists(copy)) {
+    RequireOpens(copy, dialogs);
+  }
+}
+
 }  // namespace
 
 void Require(bool condition, const char* what) {
@@ -126,13 +154,11 @@ void EditAndSave(const char* name, Input& input) {
     engine->languages.ChooseDestination(*destination);
   }
   Edit(*engine, dialogs, input.choices);
-  if (engine->writer.Save().result == SaveOutcome::kFailed) {
-    Require(ReadFile(path) == input.content, "a save that fails leaves the file as it was");
-    return;
+  if (input.choices.ConsumeBool()) {
+    SaveAs(*engine, dialogs, path, input.content);
+  } else {
+    Save(*engine, dialogs, path, input.content);
   }
-  dialogs.files = {path};
-  Engine again(dialogs);
-  Require(again.opener.Open() == OpenOutcome::kOpened, "a saved file opens again");
 }
 
 }  // namespace vendlingua::fuzz

@@ -8,6 +8,9 @@
 #include <vector>
 
 #include "core/formats/copy_header.h"
+#include "core/formats/edit_journal.h"
+#include "core/marks/marks_file.h"
+#include "core/platform/change_record.h"
 #include "support/message_files.h"
 
 namespace vendlingua {
@@ -131,6 +134,58 @@ std::vector<std::string> XliffTables() {
           start + unit + unit.substr(0, 60)};
 }
 
+// An undo file behind its first line, a byte 255, and the file beside it.
+std::vector<std::string> UndoFiles() {
+  const std::string before = MesFile().Bytes();
+  std::string after = before;
+  after.replace(50, 4, "new!");
+  const std::string record = ComposeRecord(RecordOf(before, after + "grown"));
+  const std::string file = "\xFF" + after.substr(0, 52) + before.substr(52);
+  const std::string first_line = "Vendlingua undo file 1\n";
+  return {record + file,
+          record.substr(first_line.size(), record.size() - first_line.size() - 4) + file,
+          record.substr(0, 30) + file, "\xFF" + before};
+}
+
+std::vector<std::string> Journals() {
+  const std::string head = ComposeJournalHead({"/a/FILE.MES", 130, 0x12345678, 0, 1});
+  const std::string entry = ComposeJournalEntry({2, DisplayText(), 2, 1});
+  return {head + entry + entry, head + entry.substr(0, 20), head.substr(0, 15), kChoices};
+}
+
+std::vector<std::string> MarksFiles() {
+  const KeptMarks marks = {{"ENGLISH", 12, "Caff\u00E8", {Mark::kNeedsWork, "too \"long\""}},
+                           {"DEUTSCH", 0, "", {Mark::kDone, ""}}};
+  return {MarksText(marks), MarksText({}), MarksText(marks).substr(0, 40), "[]",
+          "{\"marks\":1e99}"};
+}
+
+std::vector<std::string> Settings() {
+  return {"Lingua=italiano\r\n",
+          "Lingua=fran\xE7"
+          "ais\r\n",
+          "\xEF\xBB\xBFLingua=\u0440\r\n", "Lingua"};
+}
+
+// An argument a line.
+std::vector<std::string> CommandLines() {
+  return {"info\nA.MES",
+          "put\nA.MES\n--language\n1\n--message\n0\nabc",
+          "check\nA.MES\n--json",
+          "import\nA.ASM\n--output\nC.MES\n--name\nX",
+          "apply\nA.MES\n--language\n1\nA.csv",
+          "compile\nA.MES\n--languages\n1\n--output\nB.MHX\n--copy\nC.MSX",
+          "verify\nA.MHX",
+          "diff\nA.MES\nB.MES",
+          "export\nA.MES\n--language\n1\n--output\nx.xliff",
+          "new-language\nA.MES\n--name\nNEW",
+          "sections\nA.MHX",
+          "proof\nA.MES\n--output\np.html",
+          "texts\nA.MSX\n--language\n1",
+          "--help",
+          "rename\nA.MES\n--language\n1\n--name\nN"};
+}
+
 std::vector<std::string> WithChoices(std::vector<std::string> files) {
   for (std::string& file : files) {
     file += kChoices;
@@ -151,6 +206,12 @@ void WriteCorpus(const fs::path& folder) {
   Write(folder / "flash_compiler", WithChoices(both));
   Write(folder / "csv_table", CsvTables());
   Write(folder / "xliff", XliffTables());
+  Write(folder / "undo_file", UndoFiles());
+  Write(folder / "journal", Journals());
+  Write(folder / "marks", MarksFiles());
+  Write(folder / "settings", Settings());
+  Write(folder / "rename", WithChoices(MesFiles()));
+  Write(folder / "command_line", CommandLines());
 }
 
 }  // namespace
