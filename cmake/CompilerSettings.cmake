@@ -26,8 +26,8 @@ if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND CMAKE_CXX_COMPILER_VERSION VERSION_L
 endif()
 
 if(VENDLINGUA_COVERAGE)
-  target_compile_options(vendlingua_settings INTERFACE --coverage)
-  target_link_options(vendlingua_settings INTERFACE --coverage)
+  target_compile_options(vendlingua_settings INTERFACE -fprofile-instr-generate -fcoverage-mapping)
+  target_link_options(vendlingua_settings INTERFACE -fprofile-instr-generate)
 endif()
 
 # What users get stops at an overrun instead of going on with it. Compilers of distributions do some of
