@@ -169,8 +169,7 @@ SOURCE = b"".join(
     for texts in ((6, b"ABCD", b"EFGH"), (7, b"IJKL", b"MNOP"))
 )
 TABLE = b"message,origin,text\r\n0,,new\r\n2,,wxyz\r\n"
-IMPORT = (
-    "import",
+NEW_FILE = (
     "A.SRC",
     "--languages=2",
     "--language-message=1",
@@ -180,6 +179,7 @@ IMPORT = (
     "--name=TWO",
     "--output=NEW.MES",
 )
+IMPORT = ("import", *NEW_FILE)
 BOARD = MesFile(flags=b"03", mem_start=0xFF8000, width=16, stride=20, last_msg=19)
 COMPILED = ("FW0417AB.MHX", "FW0417AB.MSX", "FW0417AB.mtx", *(f"FW0417AB.SA{n}" for n in range(5)))
 
@@ -214,6 +214,13 @@ def scenarios() -> list[Scenario]:
             ("A.MES",),
         ),
         Scenario(
+            "rename",
+            ("rename", "A.MES", "--language=2", "--name=NEW"),
+            {"A.MES": MES.content()},
+            ("A.MES",),
+        ),
+        Scenario("display-type", ("display-type", "A.MES", "cyrillic"), {"A.MES": MES.content()}, ("A.MES",)),
+        Scenario(
             "export over an older table",
             ("export", "A.MES", "--language=1", "--output=t.csv"),
             {"A.MES": MES.content(), "t.csv": b"old"},
@@ -222,6 +229,12 @@ def scenarios() -> list[Scenario]:
         Scenario("import", IMPORT, {"A.SRC": SOURCE}, ("NEW.MES",)),
         Scenario(
             "import over an older file", IMPORT, {"A.SRC": SOURCE, "NEW.MES": b"old"}, ("NEW.MES",)
+        ),
+        Scenario(
+            "update",
+            ("update", *NEW_FILE, "--from=A.MES"),
+            {"A.SRC": SOURCE, "A.MES": MES.content()},
+            ("NEW.MES",),
         ),
         Scenario(
             "compile over older files",
