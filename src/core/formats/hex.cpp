@@ -9,7 +9,7 @@ namespace {
 
 constexpr std::string_view kDigits = "0123456789ABCDEF";
 
-constexpr std::array<std::uint16_t, 256> MakeDigitValues() {
+consteval std::array<std::uint16_t, 256> MakeDigitValues() {
   std::array<std::uint16_t, 256> values{};
   values.fill(kNoHexDigit);
   for (std::uint16_t value = 0; value < 16; ++value) {
@@ -22,7 +22,7 @@ constexpr std::array<std::uint16_t, 256> MakeDigitValues() {
   return values;
 }
 
-constexpr std::array<HexPair, 256> MakePairs() {
+consteval std::array<HexPair, 256> MakePairs() {
   std::array<HexPair, 256> pairs{};
   for (std::size_t byte = 0; byte < pairs.size(); ++byte) {
     pairs[byte] = {kDigits[byte >> 4U], kDigits[byte & 0xFU]};
