@@ -11,12 +11,12 @@ scripts/install-dependencies.sh $build_packages $test_packages
 TORTURE_SEED=${1:-$(date +%s)}
 export TORTURE_SEED
 export TORTURE_SHARE=1 TORTURE_STATES=20 TORTURE_ROUNDS=1000 TORTURE_KILLS=500 TORTURE_SIZES=40
-export BOUNDS_MIB=15 QTEST_FUNCTION_TIMEOUT=86400000
+export KILLED_WINDOWS=500 BOUNDS_MIB=15 QTEST_FUNCTION_TIMEOUT=86400000
 echo "== torture: seed $TORTURE_SEED"
 
 cmake --preset release -DVENDLINGUA_TESTS=ON >/dev/null
 cmake --build --preset release
-ctest --preset release --verbose --tests-regex '^torture\.|^cli\.bounds$'
+ctest --preset release --verbose --tests-regex '^torture\.|^cli\.bounds$|^gui\.killed_window_test$'
 
 cmake --preset asan -DVENDLINGUA_TESTS=ON >/dev/null
 cmake --build --preset asan
