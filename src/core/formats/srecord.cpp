@@ -94,7 +94,7 @@ std::size_t CountOf(std::string_view line, std::size_t address_size) {
   if (count > kLastByte) {
     ThrowForDigits(line);
   }
-  if (count < address_size + 1 || line.size() != kCountEnd + 2 * count) {
+  if (count < address_size + 1 || line.size() != kCountEnd + std::size_t{2} * count) {
     ThrowForCount(line, count);
   }
   return count;
