@@ -63,6 +63,9 @@ std::string DestinationName(const MessageSet& set) {
   if (set.phase != Phase::kDestinationUnnamed) {
     return set.language_names.at(set.DestLang);
   }
+  if (set.new_language_name) {
+    return set.new_language_name->Caption();
+  }
   const auto message = static_cast<std::size_t>(set.NameMessage());
   return message < set.MessageCount() ? ToUtf8(Trim(set.DestText[message].First(set.Width()))) : "";
 }

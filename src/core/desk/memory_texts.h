@@ -19,8 +19,8 @@ struct MemoryTexts {
 /// stores as blanks.
 DisplayText WithBoardCells(const MessageSet& set, std::size_t message, const DisplayText& text);
 
-/// The name of the language that is being edited, UTF-8: that of the file or, of a new one, what
-/// its name message says.
+/// The name of the language that is being edited, UTF-8: that of the file or, of a new one, the one
+/// that it was given when it was begun, else what its name message says.
 std::string DestinationName(const MessageSet& set);
 
 /// What was translated of the language that is being edited.

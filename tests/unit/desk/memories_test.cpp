@@ -172,6 +172,14 @@ TEST_F(MemoriesTest, TakeOnlyWhatBothDisplaysDraw) {
   EXPECT_THAT(Suggested(2), ElementsAre("Water   "));
 }
 
+TEST_F(MemoriesTest, CallANewLanguageByTheNameThatItWasGiven) {
+  const auto file = Memory("TEDESCO", {"Acqua", "", "", ""}, {"Wasser", "", "", ""});
+  dialogs_.input_answers = {"deutsch"};
+  engine_.languages.StartNamedLanguage();
+  Ask({file});
+  EXPECT_THAT(Suggested(0), ElementsAre("Wasser  "));
+}
+
 TEST_F(MemoriesTest, CallANewLanguageByItsNameMessage) {
   const auto samples = Memory("DEUTSCH", kItalian, {"Wasser", "Milch", "Wasser", ""});
   engine_.languages.StartNewLanguage(0);
