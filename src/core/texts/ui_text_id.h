@@ -278,6 +278,8 @@ enum class UiTextId : std::size_t {
   kNothingChanges,
   kTableRefused,
   kLookIn,
+  kSecondReference,
+  kNoSecondReference,
 };
 
 }  // namespace vendlingua

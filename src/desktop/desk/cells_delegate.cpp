@@ -12,6 +12,14 @@ namespace vendlingua {
 namespace {
 
 constexpr int kMargin = 6;
+constexpr int kGap = 2;  // between a text and the one below it
+
+void PaintCells(QPainter& painter, QPoint place, const ShownCells& cells) {
+  if (!cells.codes.empty()) {
+    PaintFields(painter, place, cells);
+    PaintCharacters(painter, place, cells);
+  }
+}
 
 }  // namespace
 
@@ -19,27 +27,30 @@ CellsDelegate::CellsDelegate(const Workspace& workspace, const MessageTable& mes
                              QObject* parent)
     : QStyledItemDelegate(parent), workspace_(workspace), messages_(messages) {}
 
-QPoint CellsDelegate::PlaceOfCells(const QRect& item) const {
-  return {item.x() + kMargin, item.y() + (item.height() - CellHeight()) / 2};
+// Origin and destination stand on one line, a second reference below the origin.
+QPoint CellsDelegate::PlaceOfCells(const QRect& item, int line) const {
+  const int lines = messages_.HasSecondReference() ? 2 : 1;
+  const int height = lines * CellHeight() + (lines - 1) * kGap;
+  return {item.x() + kMargin,
+          item.y() + (item.height() - height) / 2 + line * (CellHeight() + kGap)};
 }
 
 void CellsDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
                           const QModelIndex& index) const {
   const QStyle& style = option.widget != nullptr ? *option.widget->style() : *QApplication::style();
   style.drawControl(QStyle::CE_ItemViewItem, &option, painter, option.widget);
-  const ShownCells cells = messages_.CellsOf(index);
-  if (!cells.codes.empty()) {
-    painter->save();
-    painter->setFont(font_);
-    PaintFields(*painter, PlaceOfCells(option.rect), cells);
-    PaintCharacters(*painter, PlaceOfCells(option.rect), cells);
-    painter->restore();
-  }
+  painter->save();
+  painter->setFont(font_);
+  PaintCells(*painter, PlaceOfCells(option.rect, 0), messages_.CellsOf(index));
+  PaintCells(*painter, PlaceOfCells(option.rect, 1), messages_.SecondCellsOf(index));
+  painter->restore();
 }
 
 QSize CellsDelegate::sizeHint(const QStyleOptionViewItem& /*option*/,
                               const QModelIndex& /*index*/) const {
-  return SizeOfCells(messages_.Width()).grownBy({kMargin, kMargin / 2, kMargin, kMargin / 2});
+  const int below = messages_.HasSecondReference() ? kGap + CellHeight() : 0;
+  return SizeOfCells(messages_.Width())
+      .grownBy({kMargin, kMargin / 2, kMargin, kMargin / 2 + below});
 }
 
 QWidget* CellsDelegate::createEditor(QWidget* parent, const QStyleOptionViewItem& /*option*/,
@@ -67,7 +78,7 @@ void CellsDelegate::setModelData(QWidget* /*editor*/, QAbstractItemModel* /*mode
 
 void CellsDelegate::updateEditorGeometry(QWidget* editor, const QStyleOptionViewItem& option,
                                          const QModelIndex& /*index*/) const {
-  editor->setGeometry(QRect(PlaceOfCells(option.rect), SizeOfCells(messages_.Width())));
+  editor->setGeometry(QRect(PlaceOfCells(option.rect, 0), SizeOfCells(messages_.Width())));
 }
 
 bool CellsDelegate::eventFilter(QObject* watched, QEvent* event) {

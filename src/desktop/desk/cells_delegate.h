@@ -46,7 +46,8 @@ class CellsDelegate : public QStyledItemDelegate {
   bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
-  QPoint PlaceOfCells(const QRect& item) const;
+  /// Of the first line of cells in a row, or of the one below it.
+  QPoint PlaceOfCells(const QRect& item, int line) const;
 
   const Workspace& workspace_;
   const MessageTable& messages_;

@@ -11,15 +11,15 @@ namespace vendlingua {
 namespace {
 
 constexpr int kNumberDigits = 5;
-constexpr int kStateLetters = 13;
+constexpr int kStateLetters = 16;
 
 }  // namespace
 
 DeskTable::DeskTable(const Workspace& workspace, const LiveFindings& findings,
-                     const DocumentMarks& marks, QWidget* parent)
+                     const DocumentMarks& marks, const SecondReference& second, QWidget* parent)
     : QTableView(parent),
       workspace_(workspace),
-      messages_(new MessageTable(workspace, findings, marks, this)),
+      messages_(new MessageTable(workspace, findings, marks, second, this)),
       cells_(new CellsDelegate(workspace, *messages_, this)) {
   setObjectName(QStringLiteral("DeskTable"));
   setModel(messages_);
@@ -55,6 +55,7 @@ void DeskTable::Mirror() {
   messages_->Mirror();
   ShowDisplayType();
   SetColumnWidths();
+  SetRowHeight();
   ShowCurrentMessage();
 }
 
@@ -74,12 +75,19 @@ void DeskTable::SetColumnWidths() {
   width_ = workspace_.set.Width();
   const int cells = cells_->sizeHint({}, {}).width();
   const int letter = fontMetrics().horizontalAdvance(QLatin1Char('0'));
-  verticalHeader()->setDefaultSectionSize(cells_->sizeHint({}, {}).height());
   setColumnWidth(MessageTable::kNumber, letter * (kNumberDigits + 2));
   setColumnWidth(MessageTable::kOrigin, cells);
   setColumnWidth(MessageTable::kDestination, cells);
   setColumnWidth(MessageTable::kCells, letter * (kNumberDigits + 4));
   setColumnWidth(MessageTable::kState, letter * kStateLetters);
+}
+
+void DeskTable::SetRowHeight() {
+  const int height = cells_->sizeHint({}, {}).height();
+  if (verticalHeader()->defaultSectionSize() != height) {
+    verticalHeader()->setDefaultSectionSize(height);
+    scrollTo(currentIndex());
+  }
 }
 
 void DeskTable::ShowCurrentMessage() {

@@ -17,7 +17,7 @@ class DeskTable : public QTableView {
 
  public:
   DeskTable(const Workspace& workspace, const LiveFindings& findings, const DocumentMarks& marks,
-            QWidget* parent);
+            const SecondReference& second, QWidget* parent);
 
   /// Shows the document and its current message.
   void Mirror();
@@ -37,6 +37,7 @@ class DeskTable : public QTableView {
   void ShowDisplayType();
   void ShowCurrentMessage();
   void SetColumnWidths();
+  void SetRowHeight();
   void Enter(Qt::KeyboardModifiers modifiers);
 
   const Workspace& workspace_;

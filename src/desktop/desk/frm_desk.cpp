@@ -15,6 +15,7 @@
 #include "desktop/announce.h"
 #include "desktop/desk/preview_dialog.h"
 #include "desktop/qt_text.h"
+#include "desktop/desk/narrow_box.h"
 #include "desktop/user_settings.h"
 
 namespace vendlingua {
@@ -33,6 +34,7 @@ QString ColumnsKey() { return QStringLiteral("columns"); }
 QString PartsKey() { return QStringLiteral("parts"); }
 QString FilterKey() { return QStringLiteral("filter"); }
 
+QString SecondReferenceKey() { return QStringLiteral("second_reference"); }
 }  // namespace
 
 FrmDesk::FrmDesk(Engine& engine, Dialogs& dialogs, RunCommand run)
@@ -43,7 +45,8 @@ FrmDesk::FrmDesk(Engine& engine, Dialogs& dialogs, RunCommand run)
       find_bar_(new FindBar(this)),
       filter_(new QComboBox(this)),
       parts_(new QSplitter(this)),
-      table_(new DeskTable(workspace_, findings_, marks_, parts_)),
+      table_(new DeskTable(workspace_, findings_, marks_, second_, parts_)),
+      second_box_(new SecondReferenceBox(this)),
       finder_(new Finder(workspace_, *find_bar_, table_->messages())),
       steps_(new MessageSteps(engine, dialogs, run_, *this)),
       side_(new DeskSide(engine, dialogs, findings_, marks_, run_, parts_)),
@@ -76,6 +79,7 @@ void FrmDesk::LayOut() {
   auto* bottom = new QHBoxLayout;
   bottom->addWidget(status_, 1);
   bottom->addWidget(progress_);
+  top->addWidget(second_box_, 0, Qt::AlignTop);
   auto* layout = new QVBoxLayout(this);
   layout->addLayout(top);
   layout->addWidget(parts_, 1);
@@ -99,6 +103,7 @@ void FrmDesk::ConnectTable() {
   });
   // The edit box is still taking its new text when it refuses a character.
   connect(
+  connect(second_box_, &SecondReferenceBox::Chosen, this, &FrmDesk::ChooseSecondReference);
       &cells, &CellsDelegate::Refused, this,
       [this](const QStringList& characters) {
         Tell(workspace_.ui_text[UiTextId::kCharacterRefused] + " " +
@@ -148,7 +153,9 @@ void FrmDesk::Mirror() {
   const UiSentence done(UiTextId::kProgress, progress.done, progress.messages);
   progress_->setText(workspace_.set.DestinationIsOpen() ? FromUtf8(done.In(captions_)) : QString());
 }
+  second_.Follow(workspace_.set);
 
+  second_box_->Show(workspace_.set, second_.name());
 void FrmDesk::SetCaptions() {
   captions_ = workspace_.ui_text;
   const QSignalBlocker blocker(filter_);
@@ -166,6 +173,7 @@ void FrmDesk::SetCaptions() {
 }
 
 void FrmDesk::Restore() {
+  second_box_->SetCaptions(captions_);
   const UserSettings settings;
   resize(kFirstSize);
   restoreGeometry(settings.value(WindowKey()).toByteArray());
@@ -182,6 +190,7 @@ void FrmDesk::Store() const {
   settings.setValue(ColumnsKey(), table_->horizontalHeader()->saveState());
   settings.setValue(PartsKey(), parts_->saveState());
   side_->Store(settings);
+  second_.Choose(settings.value(SecondReferenceKey()).toString().toStdString());
   settings.setValue(FilterKey(), filter_->currentIndex());
 }
 
@@ -192,6 +201,7 @@ void FrmDesk::changeEvent(QEvent* event) {
   }
 }
 
+  settings.setValue(SecondReferenceKey(), FromUtf8(second_.name()));
 void FrmDesk::closeEvent(QCloseEvent* event) {
   side_->FinishRemark();
   Store();
@@ -221,6 +231,11 @@ void FrmDesk::Replace() {
 }
 
 void FrmDesk::Tell(const std::string& status) {
+void FrmDesk::ChooseSecondReference(const std::string& name) {
+  second_.Choose(name);
+  Mirror();
+}
+
   Run([&] { workspace_.window.status = status; });
 }
 

@@ -9,11 +9,13 @@
 #include <string>
 
 #include "core/desk/live_findings.h"
+#include "core/desk/second_reference.h"
 #include "core/engine.h"
 #include "desktop/desk/desk_side.h"
 #include "desktop/desk/desk_table.h"
 #include "desktop/desk/find_bar.h"
 #include "desktop/desk/finder.h"
+#include "desktop/desk/second_reference_box.h"
 #include "desktop/message_steps.h"
 #include "desktop/run_command.h"
 
@@ -50,6 +52,7 @@ class FrmDesk : public QWidget {
 
   void GoTo(std::size_t message);
   void Filter(int filter);
+  void ChooseSecondReference(const std::string& name);
   void Replace();
   void Tell(const std::string& status);
   void Run(const std::function<void()>& command) { run_(command, *this); }
@@ -60,8 +63,10 @@ class FrmDesk : public QWidget {
   RunCommand run_;
   LiveFindings findings_;
   DocumentMarks marks_;
+  SecondReference second_;
   FindBar* find_bar_;
   QComboBox* filter_;
+  SecondReferenceBox* second_box_;
   QSplitter* parts_;
   DeskTable* table_;
   Finder* finder_;

@@ -32,11 +32,13 @@ UiTextId WordFor(RowState state) {
 }  // namespace
 
 MessageTable::MessageTable(const Workspace& workspace, const LiveFindings& findings,
-                           const DocumentMarks& marks, QObject* parent)
+                           const DocumentMarks& marks, const SecondReference& second,
+                           QObject* parent)
     : QAbstractTableModel(parent),
       workspace_(workspace),
       findings_(findings),
       marks_(marks),
+      second_(second),
       state_icons_{
           QIcon(QStringLiteral(":/icons/finding.svg")), QIcon(QStringLiteral(":/icons/todo.svg")),
           QIcon(QStringLiteral(":/icons/changed.svg")), QIcon(QStringLiteral(":/icons/done.svg"))} {
@@ -96,19 +98,41 @@ ShownCells MessageTable::CellsOf(const QModelIndex& index) const {
   const MessageSet& set = workspace_.set;
   const std::size_t message = MessageOf(index);
   const bool origin = index.column() == kOrigin;
-  ShownCells cells;
   if (!origin && !set.DestinationIsOpen()) {
-    return cells;
+    return {};
   }
   const auto codes = (origin ? set.OriginText : set.DestText).at(message).First(set.Width());
-  cells.codes.assign(codes.begin(), codes.end());
-  for (std::size_t cell = 0; cell < codes.size(); ++cell) {
-    cells.board_fills.push_back(set.BoardFills(message, cell));
-  }
+  ShownCells cells = Shown(message, codes);
   if (search_.LooksAt(origin ? SearchedTexts::kOrigin : SearchedTexts::kDestination)) {
     cells.hits = search_.HitsIn(codes, Alphabet::Of(set.DisplayType));
   }
   return cells;
+}
+
+ShownCells MessageTable::SecondCellsOf(const QModelIndex& index) const {
+  const std::size_t message = MessageOf(index);
+  return index.column() == kOrigin && second_.IsThere() ? Shown(message, second_.Of(message))
+                                                        : ShownCells();
+}
+
+ShownCells MessageTable::Shown(std::size_t message, std::span<const DisplayCode> codes) const {
+  ShownCells cells;
+  cells.codes.assign(codes.begin(), codes.end());
+  for (std::size_t cell = 0; cell < codes.size(); ++cell) {
+    cells.board_fills.push_back(workspace_.set.BoardFills(message, cell));
+  }
+  return cells;
+}
+
+// As it is seen, the second reference included.
+QString MessageTable::SpokenTextOf(std::size_t message, int column) const {
+  const QString text = TextOf(message, column);
+  if (column != kOrigin || !second_.IsThere()) {
+    return text;
+  }
+  const Alphabet& alphabet = Alphabet::Of(workspace_.set.DisplayType);
+  return QStringLiteral("%1, %2: %3")
+      .arg(text, FromUtf8(second_.name()), FromUtf8(alphabet.TextOf(second_.Of(message))));
 }
 
 QString MessageTable::TextOf(std::size_t message, int column) const {
@@ -176,6 +200,8 @@ QVariant MessageTable::data(const QModelIndex& index, int role) const {
   switch (role) {
     case Qt::DisplayRole:
       return TextOf(message, index.column());
+    case Qt::AccessibleTextRole:
+      return SpokenTextOf(message, index.column());
     case Qt::DecorationRole:
       return index.column() == kState && workspace_.set.DestinationIsOpen()
                  ? state_icons_.at(

@@ -7,12 +7,14 @@
 #include <array>
 #include <cstddef>
 #include <optional>
+#include <span>
 #include <tuple>
 #include <vector>
 
 #include "core/desk/live_findings.h"
 #include "core/desk/message_list.h"
 #include "core/desk/row_state.h"
+#include "core/desk/second_reference.h"
 #include "core/document/workspace.h"
 #include "core/marks/document_marks.h"
 #include "desktop/desk/cell_painting.h"
@@ -31,7 +33,7 @@ class MessageTable : public QAbstractTableModel {
   static constexpr int kColumns = 6;
 
   MessageTable(const Workspace& workspace, const LiveFindings& findings, const DocumentMarks& marks,
-               QObject* parent);
+               const SecondReference& second, QObject* parent);
 
   /// The document has changed.
   void Mirror();
@@ -46,6 +48,9 @@ class MessageTable : public QAbstractTableModel {
   /// No index when the message is not listed.
   QModelIndex IndexOf(std::size_t message, int column) const;
   ShownCells CellsOf(const QModelIndex& index) const;
+  /// What the second reference says there; no cells beside the origin's column, and without one.
+  ShownCells SecondCellsOf(const QModelIndex& index) const;
+  bool HasSecondReference() const { return second_.IsThere(); }
   std::size_t Width() const { return workspace_.set.Width(); }
 
   int rowCount(const QModelIndex& parent = {}) const override;
@@ -61,7 +66,9 @@ class MessageTable : public QAbstractTableModel {
 
   Source CurrentSource() const;
   void MakeList();
+  ShownCells Shown(std::size_t message, std::span<const DisplayCode> codes) const;
   QString TextOf(std::size_t message, int column) const;
+  QString SpokenTextOf(std::size_t message, int column) const;
   QString StateTextOf(std::size_t message) const;
   QString FindingsOf(std::size_t message) const;
   QString MarkTextOf(std::size_t message) const;
@@ -69,6 +76,7 @@ class MessageTable : public QAbstractTableModel {
   const Workspace& workspace_;
   const LiveFindings& findings_;
   const DocumentMarks& marks_;
+  const SecondReference& second_;
   std::array<QIcon, 4> state_icons_;  // by RowState
   ListWishes wishes_;
   TextSearch search_;
