@@ -7,6 +7,7 @@
 #include <array>
 
 #include "desktop/announce.h"
+#include "desktop/desk/narrow_box.h"
 #include "desktop/qt_text.h"
 
 namespace vendlingua {
@@ -70,6 +71,7 @@ void FindBar::BuildFindRow() {
   for (std::size_t i = 0; i < kTexts.size(); ++i) {
     texts_->addItem(QString());
   }
+  LetBeNarrow(*texts_);
   expression_->setText(QStringLiteral(".*"));
   expression_->setCheckable(true);
   previous_->setArrowType(Qt::UpArrow);

@@ -4,6 +4,8 @@
 #include <QHBoxLayout>
 #include <QHeaderView>
 #include <QIcon>
+#include <QScreen>
+#include <QScrollArea>
 #include <QShortcut>
 #include <QSignalBlocker>
 #include <QVBoxLayout>
@@ -13,9 +15,9 @@
 #include "core/desk/row_state.h"
 #include "core/texts/ui_sentence.h"
 #include "desktop/announce.h"
+#include "desktop/desk/narrow_box.h"
 #include "desktop/desk/preview_dialog.h"
 #include "desktop/qt_text.h"
-#include "desktop/desk/narrow_box.h"
 #include "desktop/user_settings.h"
 
 namespace vendlingua {
@@ -32,9 +34,9 @@ constexpr std::array<UiTextId, 5> kFilters = {UiTextId::kAllMessages, UiTextId::
 QString WindowKey() { return QStringLiteral("window"); }
 QString ColumnsKey() { return QStringLiteral("columns"); }
 QString PartsKey() { return QStringLiteral("parts"); }
+QString SecondReferenceKey() { return QStringLiteral("second_reference"); }
 QString FilterKey() { return QStringLiteral("filter"); }
 
-QString SecondReferenceKey() { return QStringLiteral("second_reference"); }
 }  // namespace
 
 FrmDesk::FrmDesk(Engine& engine, Dialogs& dialogs, RunCommand run)
@@ -44,12 +46,12 @@ FrmDesk::FrmDesk(Engine& engine, Dialogs& dialogs, RunCommand run)
       run_(std::move(run)),
       find_bar_(new FindBar(this)),
       filter_(new QComboBox(this)),
+      second_box_(new SecondReferenceBox(this)),
       parts_(new QSplitter(this)),
       table_(new DeskTable(workspace_, findings_, marks_, second_, parts_)),
-      second_box_(new SecondReferenceBox(this)),
       finder_(new Finder(workspace_, *find_bar_, table_->messages())),
       steps_(new MessageSteps(engine, dialogs, run_, *this)),
-      side_(new DeskSide(engine, dialogs, findings_, marks_, run_, parts_)),
+      side_(new DeskSide(engine, dialogs, findings_, marks_, run_, this)),
       status_(new QLabel(this)),
       progress_(new QLabel(this)) {
   setObjectName(QStringLiteral("FrmDesk"));
@@ -73,17 +75,25 @@ FrmDesk::FrmDesk(Engine& engine, Dialogs& dialogs, RunCommand run)
 void FrmDesk::LayOut() {
   status_->setTextFormat(Qt::PlainText);
   status_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+  filter_->setSizeAdjustPolicy(QComboBox::AdjustToContents);
+  LetBeNarrow(*filter_);
   auto* top = new QHBoxLayout;
   top->addWidget(find_bar_, 1);
+  top->addWidget(second_box_, 0, Qt::AlignTop);
   top->addWidget(filter_, 0, Qt::AlignTop);
   auto* bottom = new QHBoxLayout;
   bottom->addWidget(status_, 1);
   bottom->addWidget(progress_);
-  top->addWidget(second_box_, 0, Qt::AlignTop);
   auto* layout = new QVBoxLayout(this);
   layout->addLayout(top);
   layout->addWidget(parts_, 1);
   layout->addLayout(bottom);
+  // On a low screen what stands beside the table scrolls.
+  auto* side = new QScrollArea(parts_);
+  side->setFrameShape(QFrame::NoFrame);
+  side->setFocusPolicy(Qt::NoFocus);
+  side->setWidgetResizable(true);
+  side->setWidget(side_);
   parts_->setChildrenCollapsible(false);
   parts_->setStretchFactor(0, 1);
   table_->setFocus();
@@ -93,6 +103,7 @@ void FrmDesk::ConnectTable() {
   connect(table_, &DeskTable::MessageChosen, this, &FrmDesk::GoTo);
   connect(table_, &DeskTable::NextToDoWanted, steps_, &MessageSteps::GoToNextToDo);
   connect(filter_, &QComboBox::currentIndexChanged, this, &FrmDesk::Filter);
+  connect(second_box_, &SecondReferenceBox::Chosen, this, &FrmDesk::ChooseSecondReference);
   const CellsDelegate& cells = table_->cells();
   connect(&cells, &CellsDelegate::Edited, this, &FrmDesk::TextTyped);
   connect(&cells, &CellsDelegate::NoRoom, this,
@@ -103,7 +114,6 @@ void FrmDesk::ConnectTable() {
   });
   // The edit box is still taking its new text when it refuses a character.
   connect(
-  connect(second_box_, &SecondReferenceBox::Chosen, this, &FrmDesk::ChooseSecondReference);
       &cells, &CellsDelegate::Refused, this,
       [this](const QStringList& characters) {
         Tell(workspace_.ui_text[UiTextId::kCharacterRefused] + " " +
@@ -143,7 +153,9 @@ void FrmDesk::Mirror() {
   }
   findings_.Follow(workspace_.set);
   marks_.Follow(workspace_.set);
+  second_.Follow(workspace_.set);
   table_->Mirror();
+  second_box_->Show(workspace_.set, second_.name());
   side_->Mirror();
   const std::string& status = workspace_.window.status;
   status_->setText(FromUtf8(status));
@@ -153,9 +165,7 @@ void FrmDesk::Mirror() {
   const UiSentence done(UiTextId::kProgress, progress.done, progress.messages);
   progress_->setText(workspace_.set.DestinationIsOpen() ? FromUtf8(done.In(captions_)) : QString());
 }
-  second_.Follow(workspace_.set);
 
-  second_box_->Show(workspace_.set, second_.name());
 void FrmDesk::SetCaptions() {
   captions_ = workspace_.ui_text;
   const QSignalBlocker blocker(filter_);
@@ -163,6 +173,7 @@ void FrmDesk::SetCaptions() {
   setWindowTitle(title);
   setAccessibleName(title);
   find_bar_->SetCaptions(captions_);
+  second_box_->SetCaptions(captions_);
   side_->SetCaptions(captions_);
   for (std::size_t i = 0; i < kFilters.size(); ++i) {
     filter_->setItemText(static_cast<int>(i), FromUtf8(captions_[kFilters.at(i)]));
@@ -173,13 +184,13 @@ void FrmDesk::SetCaptions() {
 }
 
 void FrmDesk::Restore() {
-  second_box_->SetCaptions(captions_);
   const UserSettings settings;
-  resize(kFirstSize);
+  resize(kFirstSize.boundedTo(screen()->availableSize()));
   restoreGeometry(settings.value(WindowKey()).toByteArray());
   table_->horizontalHeader()->restoreState(settings.value(ColumnsKey()).toByteArray());
   parts_->restoreState(settings.value(PartsKey()).toByteArray());
   side_->Restore(settings);
+  second_.Choose(settings.value(SecondReferenceKey()).toString().toStdString());
   filter_->setCurrentIndex(
       qBound(0, settings.value(FilterKey()).toInt(), static_cast<int>(kFilters.size()) - 1));
 }
@@ -190,7 +201,7 @@ void FrmDesk::Store() const {
   settings.setValue(ColumnsKey(), table_->horizontalHeader()->saveState());
   settings.setValue(PartsKey(), parts_->saveState());
   side_->Store(settings);
-  second_.Choose(settings.value(SecondReferenceKey()).toString().toStdString());
+  settings.setValue(SecondReferenceKey(), FromUtf8(second_.name()));
   settings.setValue(FilterKey(), filter_->currentIndex());
 }
 
@@ -201,7 +212,6 @@ void FrmDesk::changeEvent(QEvent* event) {
   }
 }
 
-  settings.setValue(SecondReferenceKey(), FromUtf8(second_.name()));
 void FrmDesk::closeEvent(QCloseEvent* event) {
   side_->FinishRemark();
   Store();
@@ -221,6 +231,11 @@ void FrmDesk::Filter(int filter) {
   table_->messages().SetFilter(static_cast<MessageFilter>(filter));
 }
 
+void FrmDesk::ChooseSecondReference(const std::string& name) {
+  second_.Choose(name);
+  Mirror();
+}
+
 void FrmDesk::Replace() {
   Run([&] {
     PreviewDialog dialog(workspace_, finder_->ReplacementPreview(), this);
@@ -231,11 +246,6 @@ void FrmDesk::Replace() {
 }
 
 void FrmDesk::Tell(const std::string& status) {
-void FrmDesk::ChooseSecondReference(const std::string& name) {
-  second_.Choose(name);
-  Mirror();
-}
-
   Run([&] { workspace_.window.status = status; });
 }
 

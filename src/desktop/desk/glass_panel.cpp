@@ -30,6 +30,7 @@ GlassPanel::GlassPanel(const Workspace& workspace, QWidget* parent)
   for (std::size_t i = 0; i < kBacklights.size(); ++i) {
     backlight_->addItem(QString());
   }
+  backlight_->setSizeAdjustPolicy(QComboBox::AdjustToContents);
   for (QToolButton* button : {copy_, save_}) {
     button->setFocusPolicy(Qt::StrongFocus);
     button->setAutoRaise(true);

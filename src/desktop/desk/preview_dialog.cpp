@@ -3,6 +3,7 @@
 #include <QDialogButtonBox>
 #include <QHeaderView>
 #include <QLabel>
+#include <QScreen>
 #include <QVBoxLayout>
 
 #include "desktop/fonts/display_font.h"
@@ -39,7 +40,7 @@ PreviewDialog::PreviewDialog(const Workspace& workspace, const Preview& preview,
   accept_->setEnabled(!Texts().empty());
   connect(table_, &QTableWidget::itemChanged, this,
           [this] { accept_->setEnabled(!Texts().empty()); });
-  resize(kPreviewSize);
+  resize(kPreviewSize.boundedTo(screen()->availableSize()));
 }
 
 void PreviewDialog::Fill(const Preview& preview, const QFont& display_font) {

@@ -1,0 +1,89 @@
+#include <QMainWindow>
+#include <QStyle>
+
+#include "desktop/desk/preview_dialog.h"
+#include "gui/support/desk_test.h"
+#include "gui/support/registered_test.h"
+
+namespace vendlingua::test {
+
+namespace {
+
+// A screen of 1366 x 768 at 200 %, less the title of a window.
+constexpr QSize kRoom(683, 384 - 30);
+
+}  // namespace
+
+/// Every window fits a small screen in every interface language.
+class SmallScreenTest : public DeskTest {
+  Q_OBJECT
+
+ private:
+  static void AddLanguageRows() {
+    QTest::addColumn<QByteArray>("entry");
+    for (int language = 0; language < 9; ++language) {
+      const QByteArray entry = "smnuLingue(" + QByteArray::number(language) + ")";
+      QTest::newRow(entry.constData()) << entry;
+    }
+  }
+
+  void Speak() {
+    QFETCH(QByteArray, entry);
+    desk_->program.Choose(entry.constData());
+  }
+
+  static void CheckThatItFits(const QWidget& window) {
+    const QSize smallest = window.minimumSizeHint().expandedTo(window.minimumSize());
+    const QString found = QStringLiteral("%1: %2 x %3")
+                              .arg(window.windowTitle())
+                              .arg(smallest.width())
+                              .arg(smallest.height());
+    QVERIFY2(smallest.width() <= kRoom.width() && smallest.height() <= kRoom.height(),
+             qPrintable(found));
+  }
+
+ private slots:
+  void TheDesk_data() { AddLanguageRows(); }
+  void TheDesk() {
+    Speak();
+    desk_->Edit(MesFile());
+    desk_->program.Choose("mnuDesk");
+    CheckThatItFits(desk_->program.desk());
+  }
+
+  void TheDeskIsNotLargerThanTheScreen() {
+    desk_->program.Choose("mnuDesk");
+    const QSize room = desk_->program.desk().screen()->availableSize();
+    QCOMPARE(desk_->program.desk().size().boundedTo(room), desk_->program.desk().size());
+  }
+
+  void ThePreview_data() { AddLanguageRows(); }
+  void ThePreview() {
+    Speak();
+    const PreviewDialog dialog(desk_->program.workspace(), Preview(), nullptr);
+    CheckThatItFits(dialog);
+  }
+
+  void TheCompiler_data() { AddLanguageRows(); }
+  void TheCompiler() {
+    Speak();
+    desk_->Edit(MesFile());
+    desk_->program.Choose("mnuMake");
+    CheckThatItFits(*desk_->program.compiler());
+  }
+
+  void TheInformation_data() { AddLanguageRows(); }
+  void TheInformation() {
+    Speak();
+    desk_->program.Choose("mnuInf");
+    CheckThatItFits(*desk_->program.info());
+  }
+};
+
+namespace {
+const RegisteredTest kSmallScreenTest("small_screen_test", RunTest<SmallScreenTest>);
+}  // namespace
+
+}  // namespace vendlingua::test
+
+#include "small_screen_test.moc"
