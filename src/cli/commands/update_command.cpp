@@ -1,3 +1,5 @@
+#include <cstddef>
+#include <filesystem>
 #include <memory>
 #include <set>
 #include <string>
@@ -7,6 +9,7 @@
 #include "cli/import_options.h"
 #include "cli/options.h"
 #include "core/formats/message_file.h"
+#include "core/marks/marks_file.h"
 #include "core/platform/errors.h"
 #include "core/platform/files.h"
 #include "core/platform/staged_file.h"
@@ -57,6 +60,20 @@ ImportOptions WithDefaults(ImportOptions options, const MessageSet& older) {
   return options;
 }
 
+// The new file is there by then: that its marks are not is no reason to fail.
+void CarryMarks(const MessageSet& older, const std::filesystem::path& output) try {
+  CopyMarks(older.CurrentFileName, output);
+  for (int k = 1; older.HoldsLanguage(k); ++k) {
+    const std::string& name = older.language_names[static_cast<std::size_t>(k)];
+    const std::string name_there = NameInUpdate(older, k);
+    if (name != name_there) {
+      RenameInMarks(output, name, name_there);
+    }
+  }
+} catch (const FileError& error) {
+  Session::Warn(error.what());
+}
+
 void RunUpdate(Session& session, const UpdateOptions& options) {
   const std::filesystem::path output = OutputPath(options.import);
   RefuseToOverwrite(options.from, output);
@@ -83,6 +100,7 @@ void RunUpdate(Session& session, const UpdateOptions& options) {
   }
   report.WriteTable(options.report);
   staged.Commit();
+  CarryMarks(older, output);
   session.Print({{"written", {PathText(output)}},
                  {"messages", report.messages()},
                  {"counts", report.counts()},
@@ -98,7 +116,8 @@ void AddUpdate(CLI::App& app, Session& session) {
       "update", "Make the .MES file of a new firmware with the languages of an older one.");
   command->footer(
       "Slots, memory and the first language are those of the older file where they are not given.\n"
-      "A message without a certain translation holds the text of the source.\n"
+      "A message without a certain translation holds the text of the source. The marks beside the\n"
+      "older file go along.\n"
       "Example: vendlingua-cli update firmware.src --from FW0417AB.MES --output FW0417AC.MES "
       "--report update.csv");
   AddImportOptions(*command, options->import);
