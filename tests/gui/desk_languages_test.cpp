@@ -1,32 +1,14 @@
-#include <QDesktopServices>
 #include <QPushButton>
 #include <QTabWidget>
 #include <QTableWidget>
 #include <QTreeWidget>
-#include <QUrl>
 
 #include "desktop/qt_path.h"
+#include "gui/support/browser.h"
 #include "gui/support/desk_test.h"
 #include "gui/support/registered_test.h"
 
 namespace vendlingua::test {
-
-/// Takes the place of the browser.
-class Browser : public QObject {
-  Q_OBJECT
-
- public:
-  Browser() { QDesktopServices::setUrlHandler(QStringLiteral("file"), this, "Open"); }
-  Browser(const Browser&) = delete;
-  Browser& operator=(const Browser&) = delete;
-  ~Browser() override { QDesktopServices::unsetUrlHandler(QStringLiteral("file")); }
-
-  QUrl opened;
-
- public slots:
-  // NOLINTNEXTLINE(readability-identifier-naming)
-  void Open(const QUrl& url) { opened = url; }
-};
 
 /// What is done with whole languages at the desk.
 class DeskLanguagesTest : public DeskTest {

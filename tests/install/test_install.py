@@ -22,7 +22,8 @@ LANGUAGES = {
 }
 FONTS = {"LCD.ttf", "LCD_CY.ttf", "LCD_HBR.ttf", "LCD_KTV.ttf"}
 SAMPLES = {"FW0417AB.MES"}
-FOLDERS = {"fonts", "samples"}
+FOLDERS = {"fonts", "guide", "samples"}
+GUIDE = Path(os.environ["SOURCES"]) / "docs/guide"
 PROGRAMS = {"vendlingua", "vendlingua-cli"}
 SETTINGS = "vendlingua.ini"
 LOCALE_VARIABLES = ("LANGUAGE", "LC_ALL", "LC_MESSAGES", "LANG")
@@ -52,6 +53,10 @@ def started(program: Path, home: Path, **environment: str) -> Iterator[subproces
 
 def names(folder: Path) -> set[str]:
     return {path.name for path in folder.iterdir()}
+
+
+def files_below(folder: Path) -> set[str]:
+    return {p.relative_to(folder).as_posix() for p in folder.rglob("*") if p.is_file()}
 
 
 class Openings:
@@ -89,11 +94,13 @@ class TreeTest(InstallTest):
         self.assertEqual(names(self.programs), PROGRAMS | LANGUAGES | FOLDERS)
         self.assertEqual(names(self.programs / "fonts"), FONTS)
         self.assertEqual(names(self.programs / "samples"), SAMPLES)
+        self.assertEqual(files_below(self.programs / "guide"), files_below(GUIDE))
 
     def test_the_build_tree_has_the_same_programs(self) -> None:
         self.assertEqual(names(BUILD / "bin") - {SETTINGS}, PROGRAMS | LANGUAGES | FOLDERS)
         self.assertEqual(names(BUILD / "bin/fonts"), FONTS)
         self.assertEqual(names(BUILD / "bin/samples"), SAMPLES)
+        self.assertEqual(files_below(BUILD / "bin/guide"), files_below(GUIDE))
 
     def test_links_in_bin_lead_to_the_programs(self) -> None:
         install(self.prefix)
@@ -102,6 +109,12 @@ class TreeTest(InstallTest):
             link = self.prefix / "bin" / name
             self.assertEqual(os.readlink(link), f"../lib/vendlingua/{name}")
             self.assertTrue(os.access(link, os.X_OK))
+
+    def test_the_guide_lies_among_the_documents_too(self) -> None:
+        install(self.prefix)
+        link = self.prefix / "share/doc/vendlingua/guide"
+        self.assertEqual(os.readlink(link), "../../../lib/vendlingua/guide")
+        self.assertTrue((link / "en/index.html").is_file())
 
     def test_the_links_of_the_documents_lead_somewhere(self) -> None:
         install(self.prefix)

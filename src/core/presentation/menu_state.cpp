@@ -22,6 +22,7 @@ void InitMenu(const UiText& ui_text, MenuState& menus) {
   menus.mnuLCD[1].caption = ui_text[UiTextId::kDisplayCyrillic];
   menus.mnuLCD[2].caption = "&KTV";
   menus.mnuLingue.caption = ui_text[UiTextId::kInterfaceLanguageMenu];
+  menus.mnuHelp.caption = ui_text[UiTextId::kHelp];
   menus.mnuInf.caption = "&?";
   menus.mCopy.caption = ui_text[UiTextId::kCopyMenu];
   menus.mnuAbor.caption = ui_text[UiTextId::kAbort];

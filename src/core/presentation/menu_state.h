@@ -25,6 +25,7 @@ struct MenuState {
   MenuEntry mnuFile, mnuOpen, mnuSave, mnuSaas, mnuRecent, mnuDesk, mnuEsci;
   MenuEntry mnuOrig, mnuDest, mnuMake, mnuTLCD, mnuLingue;
   MenuEntry mnuNewLanguage;
+  MenuEntry mnuHelp;
   MenuEntry mnuInf;
   MenuEntry mCopy, mnuAbor, mnuCopy, mnuUndo, mnuRedo;
   LanguageMenu mnuori;  ///< origin languages

@@ -16,6 +16,7 @@
 #include "core/presentation/twips.h"
 #include "desktop/main_window/file_drop.h"
 #include "desktop/qt_text.h"
+#include "desktop/users_guide.h"
 
 // Resources of a static library have to be asked for, outside of any namespace.
 static void RegisterIcons() { Q_INIT_RESOURCE(icons); }
@@ -86,6 +87,7 @@ void FrmMes::ConnectMenus() {
   run(&MainMenus::RedoChosen, [this] { engine_.editing.Redo(); });
   run(&MainMenus::CompilerChosen, [this] { OpenCompiler(); });
   run(&MainMenus::DeskChosen, [this] { OpenDesk(); });
+  run(&MainMenus::HelpChosen, [this] { OpenGuide(engine_.workspace); });
   run(&MainMenus::InfoChosen, [this] { OpenInfo(); });
   connect(menus_, &MainMenus::ExitChosen, this, &QWidget::close);
 }

@@ -58,9 +58,7 @@ MainMenus::MainMenus(QMenuBar& menu_bar, QWidget& window) : QObject(&window) {
   connect(mnuMake_, &QAction::triggered, this, &MainMenus::CompilerChosen);
   mnuTLCD_ = AddMenu(menu_bar, "mnuTLCD");
   mnuLCD_ = AddArray(*mnuTLCD_, "mnuLCD", 0, kDisplayTypes, &MainMenus::DisplayTypeChosen, true);
-  mnuLingue_ = AddMenu(menu_bar, "mnuLingue");
-  smnuLingue_ = AddArray(*mnuLingue_, "smnuLingue", 0, InterfaceLanguages::kMost,
-                         &MainMenus::InterfaceLanguageChosen, true);
+  BuildInterfaceMenu(menu_bar);
   mnuInf_ = AddAction(menu_bar, "mnuInf");
   connect(mnuInf_, &QAction::triggered, this, &MainMenus::InfoChosen);
   BuildCopyMenu(window);
@@ -107,6 +105,18 @@ void MainMenus::BuildLanguageMenus(QMenuBar& menu_bar) {
   mnuDest_->addSeparator();
   mnuNewLanguage_ = AddAction(*mnuDest_, "mnuNewLanguage");
   connect(mnuNewLanguage_, &QAction::triggered, this, &MainMenus::NamedLanguageWanted);
+}
+
+// The guide is in the interface language, too. Its key holds in every window of the program.
+void MainMenus::BuildInterfaceMenu(QMenuBar& menu_bar) {
+  mnuLingue_ = AddMenu(menu_bar, "mnuLingue");
+  smnuLingue_ = AddArray(*mnuLingue_, "smnuLingue", 0, InterfaceLanguages::kMost,
+                         &MainMenus::InterfaceLanguageChosen, true);
+  mnuLingue_->addSeparator();
+  mnuHelp_ = AddAction(*mnuLingue_, "mnuHelp");
+  mnuHelp_->setShortcut(QKeySequence(Qt::Key_F1));
+  mnuHelp_->setShortcutContext(Qt::ApplicationShortcut);
+  connect(mnuHelp_, &QAction::triggered, this, &MainMenus::HelpChosen);
 }
 
 void MainMenus::BuildCopyMenu(QWidget& window) {
@@ -156,6 +166,7 @@ void MainMenus::Show(const MenuState& menus) {
   ShowEntry(*mnuMake_, menus.mnuMake);
   ShowEntry(*mnuTLCD_->menuAction(), menus.mnuTLCD);
   ShowEntry(*mnuLingue_->menuAction(), menus.mnuLingue);
+  ShowEntry(*mnuHelp_, menus.mnuHelp);
   ShowEntry(*mnuInf_, menus.mnuInf);
   ShowEntry(*mCopy_->menuAction(), menus.mCopy);
   mCopy_->setTitle(FromUtf8(menus.mCopy.caption));

@@ -52,6 +52,7 @@ class MainMenus : public QObject {
   void CompilerChosen();
   void DisplayTypeChosen(int type);
   void InterfaceLanguageChosen(int index);
+  void HelpChosen();
   void InfoChosen();
   void CopyChosen();
   void UndoChosen();
@@ -62,6 +63,7 @@ class MainMenus : public QObject {
 
   void BuildFileMenu(QMenuBar& menu_bar);
   void BuildLanguageMenus(QMenuBar& menu_bar);
+  void BuildInterfaceMenu(QMenuBar& menu_bar);
   void BuildCopyMenu(QWidget& window);
   void BuildHistoryEntries(QWidget& window);
   std::vector<QAction*> AddArray(QMenu& menu, const char* name, std::size_t first,
@@ -81,6 +83,7 @@ class MainMenus : public QObject {
   QAction* mnuMake_ = nullptr;
   QMenu* mnuTLCD_ = nullptr;
   QMenu* mnuLingue_ = nullptr;
+  QAction* mnuHelp_ = nullptr;
   QAction* mnuInf_ = nullptr;
   QMenu* mCopy_ = nullptr;
   QAction* mnuAbor_ = nullptr;
