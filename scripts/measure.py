@@ -20,7 +20,7 @@ import tempfile
 from pathlib import Path
 
 import measure_windows
-from measure_languages import measure_languages
+from measure_languages import SAMPLE, Samples, measure_languages
 from measure_processes import Program, compare, run_once, table
 from measure_saves import measure_saves
 
@@ -130,6 +130,31 @@ def measure_engine() -> str:
     return "\n".join(rows) + "\n"
 
 
+def measure_window_programs(folder: Path) -> list[str]:
+    """The windows alone, and with the same 455 messages in German."""
+    samples = Samples(folder, str(PROGRAMS / "vendlingua-cli"))
+    german = samples.path("3.po")
+    ours = str(PROGRAMS / "vendlingua")
+    return [
+        measure_windows.measure_starts("Start", {"vendlingua": [ours], "Qt Linguist": [QT_LINGUIST]}),
+        measure_windows.measure_starts(
+            "Start with 455 messages",
+            {
+                "vendlingua": [ours, str(SAMPLE)],
+                "Qt Linguist": [QT_LINGUIST, german],
+                "Poedit": ["poedit", german],
+            },
+        ),
+        measure_windows.measure_latency(
+            "Command with the painting of the window", BENCHES / "window_latency"
+        ),
+        measure_windows.measure_latency(
+            "Command of the desk with the painting of both windows", BENCHES / "desk_latency"
+        ),
+        measure_windows.measure_desk_memory(BENCHES / "desk_latency"),
+    ]
+
+
 def main() -> None:
     with tempfile.TemporaryDirectory() as name:
         folder = Path(name)
@@ -137,12 +162,8 @@ def main() -> None:
         parts.append(measure_languages(folder, str(PROGRAMS / "vendlingua-cli")))
     parts.append(measure_saves(BENCHES / "engine_bench", ROOT / "build"))
     parts.append(measure_engine())
-    parts += [
-        measure_windows.measure_starts(
-            {"vendlingua": str(PROGRAMS / "vendlingua"), "Qt Linguist": QT_LINGUIST}
-        ),
-        measure_windows.measure_latency(BENCHES / "window_latency"),
-    ]
+    with tempfile.TemporaryDirectory() as name:
+        parts += measure_window_programs(Path(name))
     head = f"""# Performance
 
 Made by `scripts/measure.sh` in one run on {platform.machine()}, {os.cpu_count()} processors. User + system time of

@@ -42,9 +42,9 @@ def resident_kib(process: int) -> int:
     return int(next(line for line in status.splitlines() if line.startswith("VmRSS")).split()[1])
 
 
-def start_once(connection: display.Display, program: str) -> Start:
+def start_once(connection: display.Display, command: list[str]) -> Start:
     began = time.monotonic()
-    process = subprocess.Popen([program], stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
+    process = subprocess.Popen(command, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
     wait_for_paint(connection)
     first_paint_ms = 1000 * (time.monotonic() - began)
     time.sleep(SETTLING_SECONDS)
@@ -56,7 +56,7 @@ def start_once(connection: display.Display, program: str) -> Start:
     return start
 
 
-def measure_starts(programs: dict[str, str]) -> str:
+def measure_starts(title: str, programs: dict[str, list[str]]) -> str:
     # One connection for all runs: a server that loses its last client starts anew.
     connection = display.Display()
     connection.damage_query_version()
@@ -64,10 +64,10 @@ def measure_starts(programs: dict[str, str]) -> str:
     connection.sync()
     starts: dict[str, list[Start]] = {name: [] for name in programs}
     for _ in range(RUNS):
-        for name, program in programs.items():
-            starts[name].append(start_once(connection, program))
+        for name, command in programs.items():
+            starts[name].append(start_once(connection, command))
     rows = [
-        f"| Start, median of {RUNS} | first painted window | resident memory |",
+        f"| {title}, median of {RUNS} | first painted window | resident memory |",
         "|---|---|---|",
     ]
     for name, many in starts.items():
@@ -77,17 +77,22 @@ def measure_starts(programs: dict[str, str]) -> str:
     return "\n".join(rows) + "\n"
 
 
-def measure_latency(window_latency: Path) -> str:
-    result = subprocess.run(
-        [window_latency], check=True, stdout=subprocess.PIPE, stderr=subprocess.DEVNULL, text=True
-    )
-    rows = [
-        "| Command with the painting of the window | median | 99th percentile | longest |",
-        "|---|---|---|---|",
-    ]
-    for row in json.loads(result.stdout):
+def output_of(*command: str | Path) -> str:
+    quiet = subprocess.DEVNULL
+    result = subprocess.run(command, check=True, stdout=subprocess.PIPE, stderr=quiet, text=True)
+    return result.stdout
+
+
+def measure_latency(title: str, program: Path) -> str:
+    rows = [f"| {title} | median | 99th percentile | longest |", "|---|---|---|---|"]
+    for row in json.loads(output_of(program)):
         rows.append(
             f"| {row['name']} | {row['median']:.1f} ms | {row['p99']:.1f} ms "
             f"| {row['longest']:.1f} ms |"
         )
     return "\n".join(rows) + "\n"
+
+
+def measure_desk_memory(desk_latency: Path) -> str:
+    memory = statistics.median(int(output_of(desk_latency, "memory")) for _ in range(5))
+    return f"With the desk open on 455 messages the program occupies {memory / 1024:.1f} MiB.\n"

@@ -8,6 +8,6 @@ test_packages="libgtest-dev libgmock-dev librapidcheck-dev qt6-base-private-dev 
   desktop-file-utils appstream shared-mime-info libglib2.0-bin"
 package_packages="git dpkg-dev patchelf xz-utils"
 package_test_packages="lintian debootstrap debian-archive-keyring dpkg-dev xvfb x11-utils"
-bench_packages="libbenchmark-dev srecord binutils gettext translate-toolkit time linguist-qt6 python3 python3-xlib xvfb xauth"
+bench_packages="libbenchmark-dev srecord binutils gettext translate-toolkit time linguist-qt6 poedit python3 python3-xlib xvfb xauth"
 fuzz_packages="clang libclang-rt-14-dev"
 coverage_packages="clang llvm libclang-rt-14-dev"

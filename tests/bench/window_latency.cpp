@@ -7,13 +7,12 @@
 #include <QElapsedTimer>
 #include <QPushButton>
 #include <QScrollBar>
-#include <algorithm>
-#include <cstdio>
 #include <filesystem>
 #include <functional>
 #include <string>
 #include <vector>
 
+#include "bench/latency_rows.h"
 #include "gui/support/dialog_answerer.h"
 #include "gui/support/running_program.h"
 #include "support/temporary_folder.h"
@@ -28,10 +27,6 @@ constexpr int kInterfaceLanguagesShipped = 9;
 constexpr int kFileLanguages = 9;
 constexpr int kRuns = 500;
 constexpr int kCompileRuns = 50;
-
-double Milliseconds(const QElapsedTimer& timer) {
-  return static_cast<double>(timer.nsecsElapsed()) / 1e6;
-}
 
 class Latency {
  public:
@@ -58,7 +53,7 @@ class Latency {
             [&](int i) { Choose("smnuLingue", i % kInterfaceLanguagesShipped); });
     MeasureCompile();
     Measure("font of the character map", [&](int i) { Choose("mnuLCD", (i + 1) % 4); });
-    std::printf("[%s\n]\n", rows_.c_str());
+    rows_.Print();
   }
 
  private:
@@ -83,7 +78,7 @@ class Latency {
       times.push_back(Milliseconds(timer));
       QApplication::processEvents();
     }
-    AddRow(name, times);
+    rows_.Add(name, times);
   }
 
   void MeasureCompile() {
@@ -108,24 +103,14 @@ class Latency {
     }
     user_.on_dialog = nullptr;
     program_.compiler()->close();
-    AddRow("compile nine languages, from the last file dialog on", times);
-  }
-
-  void AddRow(const char* name, std::vector<double> times) {
-    std::sort(times.begin(), times.end());
-    char row[200];
-    std::snprintf(row, sizeof row,
-                  "%s\n  {\"name\": \"%s\", \"median\": %.3f, \"p99\": %.3f, \"longest\": %.3f}",
-                  rows_.empty() ? "" : ",", name, times[times.size() / 2],
-                  times[times.size() * 99 / 100], times.back());
-    rows_ += row;
+    rows_.Add("compile nine languages, from the last file dialog on", times);
   }
 
   fs::path samples_;
   TemporaryFolder folder_;
   DialogAnswerer user_;
   RunningProgram program_;
-  std::string rows_;
+  LatencyRows rows_;
 };
 
 }  // namespace
