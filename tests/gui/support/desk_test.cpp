@@ -25,7 +25,7 @@ void DeskTest::init() { desk_ = std::make_unique<Desk>(); }
 void DeskTest::cleanup() {
   const QStringList surprises = desk_->user.Surprises();
   desk_.reset();
-  QCOMPARE(surprises, QStringList());
+  QVERIFY2(surprises.isEmpty(), qPrintable(surprises.join(QLatin1Char('\n'))));
 }
 
 }  // namespace vendlingua::test

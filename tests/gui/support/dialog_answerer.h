@@ -39,6 +39,10 @@ class DialogAnswerer : public QObject {
   /// Accepts a file dialog as it stands.
   void Accept() { Expect(&DialogAnswerer::AcceptDialog); }
 
+  /// Does to a dialog what `answer` does, which tells whether it fits.
+  using Answer = std::function<bool(QDialog&)>;
+  void By(Answer answer) { Expect(std::move(answer)); }
+
   /// Called with every dialog before it is answered.
   std::function<void(QDialog&)> on_dialog;
 
@@ -72,8 +76,6 @@ class DialogAnswerer : public QObject {
   QStringList Surprises() const;
 
  private:
-  using Answer = std::function<bool(QDialog&)>;
-
   void Expect(Answer answer) { answers_.push_back(std::move(answer)); }
   void Poll();
   void AnswerNow(QDialog& dialog);
