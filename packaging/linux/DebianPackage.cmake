@@ -23,8 +23,6 @@ S-record flash files.
 The package holds the editor and vendlingua-cli, which does the same on the
 command line.")
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
-# Icons are drawn by a plugin of QtSvg, which no program is linked with.
-set(CPACK_DEBIAN_PACKAGE_DEPENDS libqt6svg6)
 set(CPACK_DEBIAN_PACKAGE_RECOMMENDS qt6-translations-l10n)
 set(CPACK_DEBIAN_PACKAGE_SUGGESTS "qt6-wayland, srecord")
 set(CPACK_DEBIAN_PACKAGE_CONTROL_STRICT_PERMISSION ON)

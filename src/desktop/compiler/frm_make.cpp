@@ -4,7 +4,6 @@
 #include <QFontDatabase>
 #include <QGridLayout>
 #include <QHBoxLayout>
-#include <QIcon>
 #include <QMouseEvent>
 #include <QScreen>
 #include <QScrollArea>
@@ -19,6 +18,7 @@
 #include "core/presentation/compiler_view.h"
 #include "desktop/announce.h"
 #include "desktop/element_name.h"
+#include "desktop/icon.h"
 #include "desktop/qt_text.h"
 
 namespace vendlingua {
@@ -56,7 +56,7 @@ FrmMake::FrmMake(const CompilerParts& parts, RunCommand run, QWidget* main_windo
   setObjectName(QStringLiteral("FrmMake"));
   setWindowTitle(QStringLiteral("MAkE"));
   setAccessibleName(windowTitle());
-  setWindowIcon(QIcon(QStringLiteral(":/icons/vendlingua.svg")));
+  setWindowIcon(ProgramIcon());
   setAttribute(Qt::WA_DeleteOnClose);
   SSTab1_->setObjectName(QStringLiteral("SSTab1"));
   BuildEntries();

@@ -7,6 +7,7 @@
 #include <algorithm>
 
 #include "core/desk/finding_text.h"
+#include "desktop/icon.h"
 #include "desktop/qt_text.h"
 
 namespace vendlingua {
@@ -71,8 +72,8 @@ void FindingsPage::OfferFix() {
 void FindingsPage::ShowRows() {
   list_->clear();
   QList<QTreeWidgetItem*> rows;
-  const QIcon needs_work(QStringLiteral(":/icons/finding.svg"));
-  const QIcon note(QStringLiteral(":/icons/note.svg"));
+  const QIcon needs_work = Icon(QLatin1String("finding"));
+  const QIcon note = Icon(QLatin1String("note"));
   for (const Finding& finding : shown_) {
     auto* row = new QTreeWidgetItem;
     const QString sentence = FromUtf8(SentenceOf(finding, ui_text_));

@@ -3,7 +3,6 @@
 #include <QCloseEvent>
 #include <QHBoxLayout>
 #include <QHeaderView>
-#include <QIcon>
 #include <QScreen>
 #include <QScrollArea>
 #include <QShortcut>
@@ -17,6 +16,7 @@
 #include "desktop/announce.h"
 #include "desktop/desk/narrow_box.h"
 #include "desktop/desk/preview_dialog.h"
+#include "desktop/icon.h"
 #include "desktop/qt_text.h"
 #include "desktop/user_settings.h"
 
@@ -55,7 +55,7 @@ FrmDesk::FrmDesk(Engine& engine, Dialogs& dialogs, RunCommand run)
       status_(new QLabel(this)),
       progress_(new QLabel(this)) {
   setObjectName(QStringLiteral("FrmDesk"));
-  setWindowIcon(QIcon(QStringLiteral(":/icons/vendlingua.svg")));
+  setWindowIcon(ProgramIcon());
   filter_->setObjectName(QStringLiteral("DeskFilter"));
   status_->setObjectName(QStringLiteral("DeskStatus"));
   progress_->setObjectName(QStringLiteral("DeskProgress"));

@@ -6,6 +6,7 @@
 
 #include "core/desk/finding_text.h"
 #include "core/document/alphabet.h"
+#include "desktop/icon.h"
 #include "desktop/qt_text.h"
 
 namespace vendlingua {
@@ -39,10 +40,8 @@ MessageTable::MessageTable(const Workspace& workspace, const LiveFindings& findi
       findings_(findings),
       marks_(marks),
       second_(second),
-      state_icons_{
-          QIcon(QStringLiteral(":/icons/finding.svg")), QIcon(QStringLiteral(":/icons/todo.svg")),
-          QIcon(QStringLiteral(":/icons/changed.svg")), QIcon(QStringLiteral(":/icons/done.svg"))} {
-}
+      state_icons_{Icon(QLatin1String("finding")), Icon(QLatin1String("todo")),
+                   Icon(QLatin1String("changed")), Icon(QLatin1String("done"))} {}
 
 MessageTable::Source MessageTable::CurrentSource() const {
   const MessageSet& set = workspace_.set;

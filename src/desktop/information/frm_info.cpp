@@ -11,6 +11,7 @@
 #include "core/presentation/revision_line.h"
 #include "core/presentation/twips.h"
 #include "core/version.h"
+#include "desktop/icon.h"
 
 namespace vendlingua {
 namespace {
@@ -33,7 +34,7 @@ FrmInfo::FrmInfo(QWidget* main_window) : QWidget(main_window, Qt::Window) {
   setWindowTitle(QStringLiteral("Program Info"));
   setAccessibleName(windowTitle());
   setAttribute(Qt::WA_DeleteOnClose);
-  const QIcon emblem(QStringLiteral(":/icons/vendlingua.svg"));
+  const QIcon emblem = ProgramIcon();
   setWindowIcon(emblem);
 
   auto* frame = new QGroupBox(QStringLiteral("Program Info"));

@@ -1,7 +1,6 @@
 #include "desktop/main_window/frm_mes.h"
 
 #include <QCloseEvent>
-#include <QIcon>
 #include <QMenuBar>
 #include <QScreen>
 #include <algorithm>
@@ -14,12 +13,10 @@
 #include "core/operations/outside_changes.h"
 #include "core/platform/errors.h"
 #include "core/presentation/twips.h"
+#include "desktop/icon.h"
 #include "desktop/main_window/file_drop.h"
 #include "desktop/qt_text.h"
 #include "desktop/users_guide.h"
-
-// Resources of a static library have to be asked for, outside of any namespace.
-static void RegisterIcons() { Q_INIT_RESOURCE(icons); }
 
 namespace vendlingua {
 namespace {
@@ -47,10 +44,9 @@ FrmMes::FrmMes(Engine& engine, QtDialogs& dialogs, ProgramStarter& starter)
           *this)),
       edit_keeper_(engine, [this] { Mirror(); }),
       dialogs_seen_(dialogs.opened()) {
-  RegisterIcons();
   setObjectName(QStringLiteral("FrmMes"));
   setAccessibleName(QStringLiteral("Vendlingua"));
-  setWindowIcon(QIcon(QStringLiteral(":/icons/vendlingua.svg")));
+  setWindowIcon(ProgramIcon());
   setContextMenuPolicy(Qt::NoContextMenu);
   menuBar()->setStyleSheet(kMenuBarStyle);
   setCentralWidget(panel_);

@@ -1,10 +1,10 @@
 #include "desktop/main_window/main_menus.h"
 
-#include <QIcon>
 #include <QKeySequence>
 #include <QString>
 
 #include "desktop/element_name.h"
+#include "desktop/icon.h"
 #include "desktop/qt_text.h"
 
 namespace vendlingua {
@@ -94,7 +94,7 @@ void MainMenus::BuildLanguageMenus(QMenuBar& menu_bar) {
   mnuori_ = AddArray(*mnuOrig_, "mnuori", 0, kLanguageEntries, &MainMenus::OriginChosen, true);
 
   mnuDest_ = AddMenu(menu_bar, "mnuDest");
-  mnuDes0_ = mnuDest_->addMenu(QIcon(QStringLiteral(":/icons/plus.svg")), QString());
+  mnuDes0_ = mnuDest_->addMenu(Icon(QLatin1String("plus")), QString());
   mnuDes0_->setObjectName(ElementName("mnuDes", 0));
   mnuDes0_->menuAction()->setObjectName(ElementName("mnuDes", 0));
   mnuNew_ =
