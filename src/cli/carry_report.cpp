@@ -7,6 +7,7 @@
 #include "core/exchange/csv_row.h"
 #include "core/platform/errors.h"
 #include "core/platform/files.h"
+#include "core/platform/path_of.h"
 #include "core/platform/same_file.h"
 
 namespace vendlingua::cli {
@@ -91,13 +92,13 @@ void CarryReport::WriteTable(const std::string& file) const {
     }
     AppendCsvRow(fields, table);
   }
-  WriteFile(file, table);
+  WriteFile(PathOf(file), table);
 }
 
 void RefuseTableInPlaceOf(std::initializer_list<std::filesystem::path> files,
                           const std::string& table) {
   for (const std::filesystem::path& file : files) {
-    if (!table.empty() && LeadToSameFile(file, table)) {
+    if (!table.empty() && LeadToSameFile(file, PathOf(table))) {
       throw CommandFailed(table + ": is read or written by this command; give another --report");
     }
   }

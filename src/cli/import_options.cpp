@@ -3,6 +3,7 @@
 #include "cli/options.h"
 #include "core/formats/message_file.h"
 #include "core/platform/errors.h"
+#include "core/platform/path_of.h"
 
 namespace vendlingua::cli {
 
@@ -24,13 +25,13 @@ void AddImportOptions(CLI::App& command, ImportOptions& options) {
 }
 
 std::filesystem::path OutputPath(const ImportOptions& options) {
-  std::filesystem::path output = WithDefaultExtension(options.output, "MES");
+  std::filesystem::path output = WithDefaultExtension(PathOf(options.output), "MES");
   if (MessageFileType(output) != kMesType) {
     throw CommandFailed(PathText(output) +
                         ": the file could not be opened again; its name must end in .MES and hold "
                         "no other dot");
   }
-  RefuseToOverwrite(options.source, output);
+  RefuseToOverwrite(PathOf(options.source), output);
   return output;
 }
 
@@ -45,7 +46,7 @@ void ImportSource(Session& session, const ImportOptions& options,
   inputs[InputPurpose::kMemoryLength] = {options.memory_length};
   inputs[InputPurpose::kNewLanguageName].assign(options.names.begin(), options.names.end());
   session.dialogs.files[FilePurpose::kSaveMessages] = place;
-  if (session.engine.opener.Import(options.source) != OpenOutcome::kOpened) {
+  if (session.engine.opener.Import(PathOf(options.source)) != OpenOutcome::kOpened) {
     throw CommandFailed(options.source + ": was not imported");
   }
 }

@@ -15,6 +15,7 @@
 #include "core/platform/errors.h"
 #include "core/platform/executable_folder.h"
 #include "core/platform/in_place_change.h"
+#include "core/platform/path_of.h"
 #include "core/texts/valid_utf8.h"
 
 namespace vendlingua::cli {
@@ -70,7 +71,8 @@ Session::Session() : engine(dialogs) {
   }
 }
 
-void Session::Open(const std::filesystem::path& file) {
+void Session::Open(const std::string& name) {
+  const std::filesystem::path file = PathOf(name);
   const std::string type = MessageFileType(file);
   if (!IsMessageFileType(type)) {
     throw FileError(file, UiTextId::kNoMessageFile);

@@ -38,7 +38,7 @@ class Session {
   }
 
   /// Opens a message file. Throws CommandFailed or Error when it is none.
-  void Open(const std::filesystem::path& file);
+  void Open(const std::string& name);
 
   /// Throws CommandFailed when language `language` is not there or cannot be changed.
   void RequireDestination(int language) const;

@@ -6,7 +6,16 @@
 
 #include "cli/refusal.h"
 #include "core/platform/files.h"
+#include "core/platform/path_of.h"
 #include "core/texts/valid_utf8.h"
+
+#ifdef _WIN32
+#include <fcntl.h>
+#include <io.h>
+#include <windows.h>
+
+#include <cstdio>
+#endif
 
 namespace vendlingua::cli {
 namespace {
@@ -26,17 +35,35 @@ std::string ReadStandardInput() {
 
 }  // namespace
 
+#ifdef _WIN32
+
+StreamsOfBytes::StreamsOfBytes() : console_code_page_(GetConsoleOutputCP()) {
+  for (std::FILE* stream : {stdin, stdout, stderr}) {
+    _setmode(_fileno(stream), _O_BINARY);
+  }
+  SetConsoleOutputCP(CP_UTF8);
+}
+
+StreamsOfBytes::~StreamsOfBytes() { SetConsoleOutputCP(console_code_page_); }
+
+#else
+
+StreamsOfBytes::StreamsOfBytes() = default;
+StreamsOfBytes::~StreamsOfBytes() = default;
+
+#endif
+
 std::string NameOf(const std::string& file) {
   return file == kStandardStream ? "standard input" : file;
 }
 
 std::string ReadInput(const std::string& file) {
-  return file == kStandardStream ? ReadStandardInput() : ReadFile(file);
+  return file == kStandardStream ? ReadStandardInput() : ReadFile(PathOf(file));
 }
 
 void WriteOutput(const std::string& file, std::string_view content) {
   if (file != kStandardStream) {
-    WriteFile(file, content);
+    WriteFile(PathOf(file), content);
   } else if (!(std::cout << content << std::flush)) {
     throw CommandFailed("standard output: cannot be written");
   }

@@ -6,6 +6,19 @@
 
 namespace vendlingua::cli {
 
+/// While it lives, the standard streams pass all bytes as they are, and a console takes them for
+/// UTF-8. Of the systems only Windows has to be told so.
+class StreamsOfBytes {
+ public:
+  StreamsOfBytes();
+  StreamsOfBytes(const StreamsOfBytes&) = delete;
+  StreamsOfBytes& operator=(const StreamsOfBytes&) = delete;
+  ~StreamsOfBytes();
+
+ private:
+  unsigned console_code_page_ = 0;  ///< what the console was used to
+};
+
 /// Stands for standard input or output where a file is named.
 inline constexpr std::string_view kStandardStream = "-";
 

@@ -8,6 +8,7 @@
 #include "core/exchange/language_tags.h"
 #include "core/exchange/table_format.h"
 #include "core/platform/errors.h"
+#include "core/platform/path_of.h"
 
 namespace vendlingua::cli {
 namespace {
@@ -17,7 +18,7 @@ namespace fs = std::filesystem;
 std::vector<fs::path> TablePaths(const std::string& folder) {
   std::error_code error;
   std::vector<fs::path> paths;
-  for (fs::directory_iterator entry(folder, error), end; !error && entry != end;
+  for (fs::directory_iterator entry(PathOf(folder), error), end; !error && entry != end;
        entry.increment(error)) {
     if (HasTableName(entry->path())) {
       paths.push_back(entry->path());

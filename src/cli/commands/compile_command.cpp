@@ -7,6 +7,7 @@
 #include "cli/commands.h"
 #include "cli/options.h"
 #include "core/platform/errors.h"
+#include "core/platform/path_of.h"
 
 namespace vendlingua::cli {
 namespace {
@@ -55,8 +56,8 @@ std::vector<std::string> TickLanguages(Session& session, const CompileOptions& o
 // The copy is asked for late; what cannot be written is refused before.
 void CheckCopy(const Session& session, const CompileOptions& options) {
   session.engine.compiler.CheckOutputs(
-      {WithDefaultExtension(options.output, FlashExtension(session.set())),
-       WithDefaultExtension(options.copy, "MSX")});
+      {WithDefaultExtension(PathOf(options.output), FlashExtension(session.set())),
+       WithDefaultExtension(PathOf(options.copy), "MSX")});
 }
 
 // Lines of a .MSX file reach the board as they are, damaged ones too.
@@ -121,8 +122,8 @@ void RequireOptionsOfMesFile(const Session& session, const CompileOptions& optio
 
 // Returns the warnings.
 std::vector<std::string> TakeOptions(Session& session, const CompileOptions& options) {
-  session.dialogs.files[FilePurpose::kFlashFile] = options.output;
-  session.dialogs.files[FilePurpose::kIdentifiedCopy] = options.copy;
+  session.dialogs.files[FilePurpose::kFlashFile] = PathOf(options.output);
+  session.dialogs.files[FilePurpose::kIdentifiedCopy] = PathOf(options.copy);
   if (session.set().IsMsx()) {
     RefuseOptionsOfMesFiles(options);
     return {};

@@ -7,6 +7,7 @@
 #include "core/formats/flash_file.h"
 #include "core/formats/message_file.h"
 #include "core/platform/errors.h"
+#include "core/platform/path_of.h"
 
 namespace vendlingua::cli {
 namespace {
@@ -18,8 +19,8 @@ struct DiffOptions {
 };
 
 void DiffMessageFiles(Session& session, const DiffOptions& options) {
-  const MessageSet a = ReadMessageFile(options.a);
-  const MessageSet b = ReadMessageFile(options.b);
+  const MessageSet a = ReadMessageFile(PathOf(options.a));
+  const MessageSet b = ReadMessageFile(PathOf(options.b));
   const MessageFileComparison comparison = CompareMessageFiles(a, b);
   const DiffTexts texts{session.AlphabetFor(a), session.AlphabetFor(b)};
   session.status = comparison.Same() ? ExitStatus::kDone : kDifferent;
@@ -27,18 +28,18 @@ void DiffMessageFiles(Session& session, const DiffOptions& options) {
 }
 
 FlashMemory ReadFlash(const std::string& file) {
-  if (MessageFileType(file) == kMesType) {
+  if (MessageFileType(PathOf(file)) == kMesType) {
     throw CommandFailed(file +
                         ": is no flash file; compile it, or compare two message files without "
                         "--dimensions");
   }
-  return ReadFlashFile(file).memory;
+  return ReadFlashFile(PathOf(file)).memory;
 }
 
 void DiffFlashFiles(Session& session, const DiffOptions& options) {
   std::optional<MessageSet> dimensions;
   if (!options.dimensions.empty()) {
-    dimensions = ReadMessageFile(options.dimensions);
+    dimensions = ReadMessageFile(PathOf(options.dimensions));
   } else if (session.display) {
     throw WrongUsage("--display goes with --dimensions; without, no text of flash files is shown");
   }
@@ -54,8 +55,8 @@ void DiffFlashFiles(Session& session, const DiffOptions& options) {
 }
 
 void RunDiff(Session& session, const DiffOptions& options) {
-  const bool are_message_files = IsMessageFileType(MessageFileType(options.a)) &&
-                                 IsMessageFileType(MessageFileType(options.b));
+  const bool are_message_files = IsMessageFileType(MessageFileType(PathOf(options.a))) &&
+                                 IsMessageFileType(MessageFileType(PathOf(options.b)));
   try {
     if (are_message_files && options.dimensions.empty()) {
       DiffMessageFiles(session, options);

@@ -9,6 +9,7 @@
 #include "core/exchange/table_format.h"
 #include "core/platform/errors.h"
 #include "core/platform/files.h"
+#include "core/platform/path_of.h"
 
 namespace vendlingua::cli {
 namespace {
@@ -26,7 +27,7 @@ struct ExportOptions {
 };
 
 TableFormat WantedFormat(const ExportOptions& options) {
-  return options.format.value_or(FormatOf(options.output));
+  return options.format.value_or(FormatOf(PathOf(options.output)));
 }
 
 void RequireUsable(const Session& session, const ExportOptions& options) {
@@ -72,15 +73,15 @@ std::vector<OutputFile> AllLanguages(const Session& session, const ExportOptions
     WarnIfItEndsEarly(session.set(), language);
     const TranslationTable table = TableOf(session.set(), language, origin, session.alphabet());
     const fs::path name =
-        table.target_language + (format == TableFormat::kXliff ? ".xliff" : ".csv");
-    files.push_back({(options.folder / name).string(), WriteTable(table, format)});
+        PathOf(table.target_language + (format == TableFormat::kXliff ? ".xliff" : ".csv"));
+    files.push_back({(PathOf(options.folder) / name).string(), WriteTable(table, format)});
   }
   return files;
 }
 
 void CreateFolder(const std::string& folder) {
   std::error_code error;
-  fs::create_directory(folder, error);
+  fs::create_directory(PathOf(folder), error);
   if (error) {
     throw CommandFailed(folder + ": the folder cannot be created: " + error.message());
   }
@@ -94,7 +95,7 @@ void RunExport(Session& session, const ExportOptions& options) {
                                             ? std::vector{OneLanguage(session, options, origin)}
                                             : AllLanguages(session, options, origin);
   for (const OutputFile& file : files) {
-    RefuseToOverwrite(options.file, file.path);
+    RefuseToOverwrite(PathOf(options.file), PathOf(file.path));
   }
   if (!options.folder.empty()) {
     CreateFolder(options.folder);

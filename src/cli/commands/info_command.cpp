@@ -14,6 +14,7 @@
 #include "core/formats/msx_file.h"
 #include "core/formats/text_lines.h"
 #include "core/platform/files.h"
+#include "core/platform/path_of.h"
 
 namespace vendlingua::cli {
 namespace {
@@ -74,10 +75,10 @@ void PrintMessageFile(Session& session, const InfoOptions& options) {
 }
 
 void PrintFlashFile(Session& session, const InfoOptions& options) {
-  const FlashFile file = ReadFlashFile(options.file);
+  const FlashFile file = ReadFlashFile(PathOf(options.file));
   const std::optional<MessageSet> dimensions =
       options.dimensions.empty() ? KnownDimensions(file)
-                                 : std::optional(ReadMessageFile(options.dimensions));
+                                 : std::optional(ReadMessageFile(PathOf(options.dimensions)));
   if (session.display && !dimensions) {
     throw WrongUsage("--display goes with --dimensions; the board of " + options.file +
                      " is not known");
@@ -86,21 +87,21 @@ void PrintFlashFile(Session& session, const InfoOptions& options) {
 }
 
 // The identified copy of a firmware whose .MSX files are no message files.
-bool IsForeignCopy(const std::string& path) {
+bool IsForeignCopy(const std::filesystem::path& path) {
   const std::string content = ReadFile(path);
   const auto first_line = TextLines(content).Next();
   return first_line && IsCopyHeader(first_line->text) && !IsMsxHeader(first_line->text);
 }
 
 bool HoldsFlashImage(const InfoOptions& options) {
-  const std::string type = MessageFileType(options.file);
+  const std::string type = MessageFileType(PathOf(options.file));
   if (type == kMesType) {
     return false;
   }
   if (type == kMsxType) {
-    return !options.dimensions.empty() || IsForeignCopy(options.file);
+    return !options.dimensions.empty() || IsForeignCopy(PathOf(options.file));
   }
-  if (!BeginsWithRecord(options.file)) {
+  if (!BeginsWithRecord(PathOf(options.file))) {
     throw CommandFailed(options.file + ": is no message file and no file of S-records");
   }
   return true;

@@ -4,6 +4,7 @@
 #include "cli/commands.h"
 #include "cli/options.h"
 #include "core/platform/errors.h"
+#include "core/platform/path_of.h"
 
 namespace vendlingua::cli {
 namespace {
@@ -27,7 +28,7 @@ void RunNewLanguage(Session& session, const NewLanguageOptions& options) {
     throw CommandFailed(options.file + ": a .MSX file cannot take a new language");
   }
   if (session.set().IsFull()) {
-    throw FileError(options.file, UiTextId::kFileHolds100Languages);
+    throw FileError(PathOf(options.file), UiTextId::kFileHolds100Languages);
   }
   RequireName(session.set(), kNewLanguage, options.name);
   const int from = session.FindLanguage(options.from.value_or("0"));

@@ -7,6 +7,7 @@
 #include "cli/options.h"
 #include "core/formats/message_file.h"
 #include "core/platform/errors.h"
+#include "core/platform/path_of.h"
 #include "core/transfer/carried_texts.h"
 
 namespace vendlingua::cli {
@@ -68,9 +69,9 @@ void Store(Session& session, int language, const std::vector<CarriedMessage>& me
 }
 
 void RunPretranslate(Session& session, const PretranslateOptions& options) {
-  RefuseTableInPlaceOf({options.file, options.from}, options.report);
+  RefuseTableInPlaceOf({PathOf(options.file), PathOf(options.from)}, options.report);
   session.Open(options.file);
-  const MessageSet older = ReadMessageFile(options.from);
+  const MessageSet older = ReadMessageFile(PathOf(options.from));
   RequireOneDisplay(session, older);
   const int language = session.FindLanguage(options.language);
   session.RequireDestination(language);

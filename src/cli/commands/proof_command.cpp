@@ -10,6 +10,7 @@
 #include "core/desk/proof_of.h"
 #include "core/platform/errors.h"
 #include "core/platform/files.h"
+#include "core/platform/path_of.h"
 #include "core/proof/glass_picture.h"
 #include "core/proof/proof_sheet.h"
 
@@ -67,12 +68,12 @@ void RunProof(Session& session, const ProofOptions& options) {
     throw WrongUsage("--png draws no origin; leave --origin out");
   }
   session.Open(options.file);
-  RefuseToOverwrite(options.file, options.output);
+  RefuseToOverwrite(PathOf(options.file), PathOf(options.output));
   const CheckedFile file(session, options.origin);
   const std::vector<int> languages = file.Chosen(session, options.languages);
-  WriteFile(options.output, options.picture
-                                ? Picture(session, file, *options.picture, languages.front())
-                                : Sheet(session, file, languages));
+  WriteFile(PathOf(options.output),
+            options.picture ? Picture(session, file, *options.picture, languages.front())
+                            : Sheet(session, file, languages));
   session.Print({{"written", {options.output}}}, options.output + "\n");
 }
 

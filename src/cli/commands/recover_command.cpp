@@ -4,12 +4,13 @@
 
 #include "cli/commands.h"
 #include "core/operations/recovery.h"
+#include "core/platform/path_of.h"
 
 namespace vendlingua::cli {
 namespace {
 
 void RunRecover(Session& session, const std::string& file) {
-  const bool put_back = Recover(file);
+  const bool put_back = Recover(PathOf(file));
   session.Print(
       {{"file", file}, {"recovered", put_back}},
       file + (put_back ? ": holds again what it held before the save that was interrupted\n"

@@ -7,6 +7,7 @@
 #include "core/flash/kept_files.h"
 #include "core/platform/errors.h"
 #include "core/platform/files.h"
+#include "core/platform/path_of.h"
 
 namespace vendlingua::cli {
 namespace {
@@ -33,13 +34,12 @@ bool IsWrongFile(const std::string& content, const SectionFiles& sections) {
 }
 
 void RunSections(Session& session, const SectionsOptions& options) {
-  const fs::path base =
-      options.output.empty() ? SectionBase(options.file) : fs::path(options.output);
-  RefuseToReplaceInput(options.file, base);
+  const fs::path file = PathOf(options.file);
+  const fs::path base = options.output.empty() ? SectionBase(file) : PathOf(options.output);
+  RefuseToReplaceInput(file, base);
   SectionFiles& sections = session.engine.section_files;
-  const std::string content = ReadFile(options.file);
-  if (!sections.ReadBack(options.file, content, session.dialogs,
-                         session.engine.workspace.ui_text)) {
+  const std::string content = ReadFile(file);
+  if (!sections.ReadBack(file, content, session.dialogs, session.engine.workspace.ui_text)) {
     throw CommandFailed(options.file + ": was not read to its end, no section file was written");
   }
   if (IsWrongFile(content, sections)) {

@@ -12,6 +12,7 @@
 #include "core/marks/marks_file.h"
 #include "core/platform/errors.h"
 #include "core/platform/files.h"
+#include "core/platform/path_of.h"
 #include "core/platform/staged_file.h"
 #include "core/transfer/language_update.h"
 
@@ -76,9 +77,10 @@ void CarryMarks(const MessageSet& older, const std::filesystem::path& output) tr
 
 void RunUpdate(Session& session, const UpdateOptions& options) {
   const std::filesystem::path output = OutputPath(options.import);
-  RefuseToOverwrite(options.from, output);
-  RefuseTableInPlaceOf({options.import.source, options.from, output}, options.report);
-  const MessageSet older = ReadMessageFile(options.from);
+  RefuseToOverwrite(PathOf(options.from), output);
+  RefuseTableInPlaceOf({PathOf(options.import.source), PathOf(options.from), output},
+                       options.report);
+  const MessageSet older = ReadMessageFile(PathOf(options.from));
   RequireDistinctNames(older);
   for (int language = 1; older.HoldsLanguage(language); ++language) {
     WarnIfItEndsEarly(older, language);

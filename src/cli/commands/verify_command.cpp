@@ -10,11 +10,12 @@
 #include "core/flash/companion_check.h"
 #include "core/formats/file_check.h"
 #include "core/platform/errors.h"
+#include "core/platform/path_of.h"
 
 namespace vendlingua::cli {
 namespace {
 
-Findings Check(const std::string& file) {
+Findings Check(const std::filesystem::path& file) {
   try {
     Findings findings = CheckFile(file);
     if (findings.empty() && IsFlashFile(file)) {
@@ -63,7 +64,7 @@ void RunVerify(Session& session, const std::vector<std::string>& files) {
   std::string text;
   std::string unsound;
   for (const std::string& file : files) {
-    const Findings findings = Check(file);
+    const Findings findings = Check(PathOf(file));
     report.push_back(AsJson(file, findings));
     text += AsLines(file, findings);
     if (!findings.empty()) {
