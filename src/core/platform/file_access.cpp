@@ -25,7 +25,8 @@ bool Has(Right right, const fs::path& path) {
   const HANDLE handle = CreateFileW(path.c_str(), access, kShareAll, nullptr, OPEN_EXISTING,
                                     FILE_FLAG_BACKUP_SEMANTICS, nullptr);
   if (handle == INVALID_HANDLE_VALUE) {
-    return false;
+    // Another program keeps it for itself, which is another matter.
+    return GetLastError() == ERROR_SHARING_VIOLATION;
   }
   CloseHandle(handle);
   return true;

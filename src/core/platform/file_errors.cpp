@@ -23,6 +23,9 @@ void ThrowFileError(const std::filesystem::path& file, const UiSentence& reason,
 }
 
 UiSentence ReasonOf(std::error_code error) {
+  if (error == std::errc::device_or_resource_busy) {
+    return UiSentence(UiTextId::kAnotherProgramUsesIt);
+  }
   return error ? UiSentence::Verbatim(error.message()) : UiSentence(UiTextId::kUnknownError);
 }
 

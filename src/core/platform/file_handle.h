@@ -84,6 +84,10 @@ class FileHandle {
   Handle handle_ = kNone;
 };
 
+/// Gives the file `from` the name `to`, in the same folder. What is there already is replaced at
+/// once: whoever opens `to` meanwhile gets the old file or the new one.
+std::error_code Rename(const std::filesystem::path& from, const std::filesystem::path& to);
+
 /// Returns when the names in `folder` are on the disk as they are now, or at once where the system
 /// has no way to say so.
 void FlushFolder(const std::filesystem::path& folder);

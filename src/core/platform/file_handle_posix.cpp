@@ -6,6 +6,7 @@
 #include <unistd.h>
 
 #include <cerrno>
+#include <cstdio>
 #include <utility>
 
 #include "core/platform/file_handle.h"
@@ -148,6 +149,10 @@ std::error_code FileHandle::Flush() {
 std::error_code FileHandle::Close() {
   const std::error_code error = ResultOf(close(std::exchange(handle_, kNone)));
   return error == std::errc::interrupted ? std::error_code() : error;
+}
+
+std::error_code Rename(const fs::path& from, const fs::path& to) {
+  return ResultOf(std::rename(from.c_str(), to.c_str()));
 }
 
 void FlushFolder(const fs::path& folder) {

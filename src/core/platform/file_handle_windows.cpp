@@ -23,6 +23,9 @@ std::error_code LastError() {
     case ERROR_FILE_EXISTS:
     case ERROR_ALREADY_EXISTS:
       return std::make_error_code(std::errc::file_exists);
+    case ERROR_SHARING_VIOLATION:
+    case ERROR_USER_MAPPED_FILE:
+      return std::make_error_code(std::errc::device_or_resource_busy);
     case ERROR_LOCK_VIOLATION:
     case ERROR_IO_PENDING:
       return std::make_error_code(std::errc::operation_would_block);
@@ -135,6 +138,19 @@ void FileHandle::BeginFlush() {}
 std::error_code FileHandle::Flush() { return ResultOf(FlushFileBuffers(handle_)); }
 
 std::error_code FileHandle::Close() { return ResultOf(CloseHandle(std::exchange(handle_, kNone))); }
+
+// Replacing keeps who may read the file, its attributes and the date of its creation.
+std::error_code Rename(const fs::path& from, const fs::path& to) {
+  constexpr DWORD kReplacing = MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH;
+  if (MoveFileExW(from.c_str(), to.c_str(), MOVEFILE_WRITE_THROUGH) != 0 ||
+      ReplaceFileW(to.c_str(), from.c_str(), nullptr, REPLACEFILE_IGNORE_MERGE_ERRORS, nullptr,
+                   nullptr) != 0) {
+    return {};
+  }
+  // It can fail when the old file is gone already, or because the file system knows no replacing.
+  const std::error_code error = LastError();
+  return MoveFileExW(from.c_str(), to.c_str(), kReplacing) != 0 ? std::error_code() : error;
+}
 
 void FlushFolder(const fs::path& /*folder*/) {}
 

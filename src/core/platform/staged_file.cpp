@@ -126,9 +126,7 @@ void StagedFile::Finish() {
 }
 
 void StagedFile::TakeName() {
-  std::error_code error;
-  fs::rename(staging_, place_, error);
-  RequireDone(target_, UiTextId::kCannotBeWritten, error);
+  RequireDone(target_, UiTextId::kCannotBeWritten, Rename(staging_, place_));
   committed_ = true;
 }
 

@@ -280,6 +280,7 @@ enum class UiTextId : std::size_t {
   kLookIn,
   kSecondReference,
   kNoSecondReference,
+  kAnotherProgramUsesIt,
 };
 
 }  // namespace vendlingua
