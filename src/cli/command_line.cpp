@@ -87,6 +87,8 @@ void AddGrammar(CLI::App& app, Session& session) {
   app.add_flag("--json", session.json_output, "print JSON for programs");
   app.require_subcommand(1);
   app.fallthrough();
+  // "/" begins a path everywhere.
+  app.allow_windows_style_options(false);
   AddInfo(app, session);
   AddTexts(app, session);
   AddPut(app, session);
