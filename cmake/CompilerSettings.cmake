@@ -25,6 +25,14 @@ if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND CMAKE_CXX_COMPILER_VERSION VERSION_L
     -Wno-array-bounds -Wno-restrict -Wno-stringop-overflow -Wno-stringop-overread)
 endif()
 
+# Keeps sources out of the unity build on Windows: they include windows.h, whose macros would give names in
+# others another meaning.
+function(keep_windows_apart)
+  if(WIN32)
+    set_source_files_properties(${ARGN} PROPERTIES SKIP_UNITY_BUILD_INCLUSION ON)
+  endif()
+endfunction()
+
 if(VENDLINGUA_COVERAGE)
   target_compile_options(vendlingua_settings INTERFACE -fprofile-instr-generate -fcoverage-mapping)
   target_link_options(vendlingua_settings INTERFACE -fprofile-instr-generate)
@@ -40,4 +48,7 @@ if(CMAKE_BUILD_TYPE STREQUAL "Release" AND UNIX AND NOT APPLE)
     -fstack-protector-strong -fstack-clash-protection -U_FORTIFY_SOURCE -D_FORTIFY_SOURCE=2
     -D_GLIBCXX_ASSERTIONS)
   target_link_options(vendlingua_settings INTERFACE LINKER:-z,relro LINKER:-z,now)
+elseif(CMAKE_BUILD_TYPE STREQUAL "Release" AND MINGW)
+  target_compile_options(vendlingua_settings INTERFACE -fstack-protector-strong -D_GLIBCXX_ASSERTIONS)
+  target_link_options(vendlingua_settings INTERFACE -fstack-protector-strong)
 endif()

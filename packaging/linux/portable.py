@@ -17,7 +17,8 @@ import sys
 import tempfile
 from pathlib import Path
 
-import contents
+from contents import COMPILED_IN, Packing, describe, package_of
+from qt_texts import add_qt_texts, qt_folder
 
 PROGRAMS = ("vendlingua", "vendlingua-cli")
 # What Qt loads while it runs, as far as these programs ask for it. None of it draws with OpenGL.
@@ -26,19 +27,31 @@ PLUGINS = (
     "platforms/libqoffscreen.so",
     "platforminputcontexts/libcomposeplatforminputcontextplugin.so",
     "platforminputcontexts/libibusplatforminputcontextplugin.so",
-    "iconengines/libqsvgicon.so",
 )
 # Every system with a C++ program has these, and they have to fit its kernel and to each other.
 OF_EVERY_SYSTEM = re.compile(r"lib(c|m|dl|pthread|rt|resolv|gcc_s|stdc\+\+)\.so\.")
-LANGUAGES = ("da", "de", "en", "es", "fr", "it", "nl", "pt", "sv")
+
+
+NOTICE = """Qt in this archive
+==================
+
+The windows are drawn by Qt {version}, (C) The Qt Company Ltd. and other contributors, which is used under the GNU
+Lesser General Public License, version 3 (licences/LGPL-3 and GPL-3). Its libraries and plugins, in lib/ and plugins/,
+are those of Debian, unchanged; so are all others there.
+
+Sources: {sources}
+Whoever got this archive can also have them from the Vendlingua developers for three years, for the cost of sending
+them: vendlingua@example.org.
+
+Another Qt: the programs load the libraries from lib/ while they start. Put your own build of the same or a later
+Qt 6 there, under the same names, or remove lib/, plugins/ and qt.conf to run with the Qt of your system.
+
+Every other library, with its version, source and licence, is listed in contents.spdx.json; licences/ has their texts.
+"""
 
 
 def run(*command: str | Path) -> str:
     return subprocess.run(command, check=True, stdout=subprocess.PIPE, text=True).stdout
-
-
-def qt_folder(name: str) -> Path:
-    return Path(run("qtpaths6", "--query", name).strip())
 
 
 def libraries_of(binaries: list[Path]) -> set[Path]:
@@ -64,19 +77,12 @@ def add_qt(tree: Path) -> list[Path]:
         copy(plugin, tree / "plugins" / plugin.relative_to(plugins))
     for library in libraries:
         copy(library, tree / "lib" / library.name)
-    texts = []
-    for language in LANGUAGES:
-        for kind in ("qtbase", "qt"):
-            texts += sorted(qt_folder("QT_INSTALL_TRANSLATIONS").glob(f"{kind}_{language}[._]*"))
-    # Some only lead to others, and those of English are empty.
-    texts = [text for text in texts if text.stat().st_size > 1000]
-    for text in texts:
-        copy(text, tree / "translations" / text.name)
+    texts = add_qt_texts(tree)
     (tree / "qt.conf").write_text("[Paths]\nPrefix = .\nPlugins = plugins\nTranslations = translations\n")
     return [*loaded, *libraries, *texts]
 
 
-def make_tree(build: Path, tree: Path) -> None:
+def make_tree(build: Path, tree: Path, version: str) -> None:
     with tempfile.TemporaryDirectory() as folder:
         installed = Path(folder)
         run("cmake", "--install", build, "--strip", "--prefix", installed)
@@ -89,7 +95,8 @@ def make_tree(build: Path, tree: Path) -> None:
     # these stay as the distribution built them.
     for name in PROGRAMS:
         run("patchelf", "--force-rpath", "--set-rpath", "$ORIGIN/lib", tree / name)
-    contents.describe(build, tree, origins)
+    packages = {package_of(file) for file in origins}
+    describe(tree, Packing(version, packages, set(COMPILED_IN), NOTICE, "packaging/linux/build"))
 
 
 def pack(tree: Path, archive: Path) -> None:
@@ -111,7 +118,7 @@ def main() -> None:
     name = f"vendlingua-{version}-linux-{platform.machine()}"
     with tempfile.TemporaryDirectory() as folder:
         tree = Path(folder) / name
-        make_tree(build, tree)
+        make_tree(build, tree, version)
         pack(tree, out / f"{name}.tar.xz")
 
 

@@ -11,6 +11,7 @@ import os
 import re
 import shutil
 import subprocess
+from dataclasses import dataclass
 from datetime import datetime, timezone
 from pathlib import Path
 from typing import Any
@@ -24,22 +25,16 @@ TEXTS = Path("/usr/share/common-licenses")
 QT_LICENCE = "LGPL-3.0-only OR GPL-2.0-only OR GPL-3.0-only"
 SNAPSHOT = "https://snapshot.debian.org/package"
 
-NOTICE = """Qt in this archive
-==================
 
-The windows are drawn by Qt {version}, (C) The Qt Company Ltd. and other contributors, which is used under the GNU
-Lesser General Public License, version 3 (licences/LGPL-3 and GPL-3). Its libraries and plugins, in lib/ and plugins/,
-are those of Debian, unchanged; so are all others there.
+@dataclass(frozen=True)
+class Packing:
+    """What went into an archive besides our own files."""
 
-Sources: {sources}
-Whoever got this archive can also have them from the Vendlingua developers for three years, for the cost of sending
-them: vendlingua@example.org.
-
-Another Qt: the programs load the libraries from lib/ while they start. Put your own build of the same or a later
-Qt 6 there, under the same names, or remove lib/, plugins/ and qt.conf to run with the Qt of your system.
-
-Every other library, with its version, source and licence, is listed in contents.spdx.json; licences/ has their texts.
-"""
+    version: str  # of the program
+    beside: set[str]  # the packages that lie beside the programs, as files
+    compiled_in: set[str]  # the packages that are part of the programs
+    notice: str  # what Qt's licence asks for, with places for {version} and {sources}
+    made_by: str
 
 
 def run(*command: str | Path) -> str:
@@ -97,21 +92,19 @@ def ours(version: str) -> dict[str, Any]:
     }
 
 
-def describe(build: Path, tree: Path, origins: list[Path]) -> None:
-    """Adds licences, notice and list to `tree`, which holds copies of the files `origins`."""
+def describe(tree: Path, packing: Packing) -> None:
+    """Adds licences, notice and list to `tree`."""
     licences = tree / "licences"
     licences.mkdir()
     for text in ("GPL-2", "GPL-3", "LGPL-2.1", "LGPL-3", "Apache-2.0"):
         shutil.copy(TEXTS / text, licences)
     texts: list[dict[str, str]] = []
-    names = sorted({package_of(file) for file in origins} | set(COMPILED_IN))
-    packages = [described(name, licences, texts) for name in names]
-    version = run(build / "bin/vendlingua-cli", "--version").split()[1]
+    packages = [described(name, licences, texts) for name in sorted(packing.beside | packing.compiled_in)]
     epoch = datetime.fromtimestamp(int(os.environ["SOURCE_DATE_EPOCH"]), timezone.utc)
     related = [
         {
             "spdxElementId": spdx_id("vendlingua"),
-            "relationshipType": "STATIC_LINK" if package["name"] in COMPILED_IN else "DYNAMIC_LINK",
+            "relationshipType": "STATIC_LINK" if package["name"] in packing.compiled_in else "DYNAMIC_LINK",
             "relatedSpdxElement": package["SPDXID"],
         }
         for package in packages
@@ -121,8 +114,8 @@ def describe(build: Path, tree: Path, origins: list[Path]) -> None:
         "dataLicense": "CC0-1.0",
         "SPDXID": "SPDXRef-DOCUMENT",
         "name": tree.name,
-        "creationInfo": {"created": epoch.strftime("%Y-%m-%dT%H:%M:%SZ"), "creators": ["Tool: packaging/linux/build"]},
-        "packages": [ours(version), *packages],
+        "creationInfo": {"created": epoch.strftime("%Y-%m-%dT%H:%M:%SZ"), "creators": [f"Tool: {packing.made_by}"]},
+        "packages": [ours(packing.version), *packages],
         "hasExtractedLicensingInfos": texts,
         "relationships": [
             {
@@ -139,5 +132,5 @@ def describe(build: Path, tree: Path, origins: list[Path]) -> None:
     (tree / "contents.spdx.json").write_text(listed, encoding="utf-8")
     qt = [package for package in packages if package["licenseDeclared"] == QT_LICENCE]
     sources = "\n         ".join(sorted({package["downloadLocation"] for package in qt}))
-    core = next(package["versionInfo"] for package in qt if package["name"] == "libqt6core6")
-    (tree / "NOTICE.txt").write_text(NOTICE.format(version=core, sources=sources), encoding="utf-8")
+    notice = packing.notice.format(version=qt[0]["versionInfo"], sources=sources)
+    (tree / "NOTICE.txt").write_text(notice, encoding="utf-8")
