@@ -6,6 +6,7 @@ import contextlib
 import json
 import os
 import resource
+import shutil
 import stat
 import subprocess
 import tempfile
@@ -47,10 +48,20 @@ REFUSED = 1
 WRONG_USAGE = 2
 
 
+def copy_program(folder: Path) -> Path:
+    """A copy of the program, which takes its texts from there."""
+    for_windows = PROGRAM.with_suffix(".exe")
+    if for_windows.exists():
+        shutil.copy(for_windows, folder)
+    return Path(shutil.copy(PROGRAM, folder))
+
+
 def limit_memory(file_size: int) -> None:
     """Lets a program that reads a file of this size have three times as much memory for its data, and
-    16 MiB; called in the program before it starts. Not under a sanitizer, which reserves terabytes."""
-    if b"__asan_init" not in PROGRAM.read_bytes():
+    16 MiB; called in the program before it starts. Not under a sanitizer, which reserves terabytes, and not
+    when a script runs it, whose system would be limited."""
+    program = PROGRAM.read_bytes()
+    if b"__asan_init" not in program and not program.startswith(b"#!"):
         limit = 3 * file_size + (16 << 20)
         resource.setrlimit(resource.RLIMIT_DATA, (limit, limit))
 

@@ -6,6 +6,7 @@ import unittest
 
 from compile_case import MHX_FAMILY, NO_NAME_LIST, CompileCase, flags, slots
 from message_files import MesFile, decode_with_objcopy, decode_with_srec_cat, s_records
+from on_windows import NO_DEVICES, not_on_windows
 from support import Result, on_stderr
 
 
@@ -241,6 +242,7 @@ class RefusedTest(CompileCase):
             err = self.refused_compile(MesFile(), "--languages=1,2", f"--output={output}")
             self.assertIn(f"{output}: ", err)
 
+    @not_on_windows(NO_DEVICES)
     def test_a_full_disk_is_reported(self) -> None:
         (self.folder / "FW0417AB.HEX").symlink_to("/dev/full")
         err = self.refused_compile(MesFile(), "--languages=1,2", self.OUTPUT)

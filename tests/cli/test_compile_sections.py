@@ -6,6 +6,7 @@ import unittest
 
 from compile_case import CompileCase, flags
 from message_files import MesFile
+from on_windows import NO_LINKS, ONLY_UNICODE, not_on_windows
 
 
 class SectionFilesOfCompileTest(CompileCase):
@@ -29,6 +30,7 @@ class SectionFilesOfCompileTest(CompileCase):
         self.compile(MesFile(flags=b"01", mem_start=0xFF8000), "FW0417AB.HEX")
         self.assertEqual(self.names(), ["A.MES", "FW0417AB.HEX", "FW0417AB.HSX"])
 
+    @not_on_windows(ONLY_UNICODE)
     def test_a_path_that_is_no_utf8_is_fine(self) -> None:
         self.write("A.MES", MesFile(flags=b"03", mem_start=0xFF8000).content())
         output = b"--output=FW0417AB\xe8.MHX"
@@ -36,6 +38,7 @@ class SectionFilesOfCompileTest(CompileCase):
         self.assertEqual((result.status, result.err), (0, ""))
 
 
+@not_on_windows(NO_LINKS)
 class SafeSectionFilesTest(CompileCase):
     """Section files take the place of no file of the same run."""
 

@@ -8,6 +8,7 @@ import unittest
 
 from diff_case import DIFFERENT, SAME, TROUBLE, DiffCase
 from message_files import MesFile, msx_file, s_records
+from on_windows import NO_DEVICES, not_on_windows
 from support import SAMPLES
 
 
@@ -138,6 +139,7 @@ class FlashFilesTest(DiffCase):
             self.write("B.hex", source.randbytes(size))
             self.assertIn("B.hex", self.trouble("A.hex", "B.hex"))
 
+    @not_on_windows(NO_DEVICES)
     def test_what_is_no_regular_file(self) -> None:
         (self.folder / "FOLDER.hex").mkdir()
         (self.folder / "DEVICE.hex").symlink_to("/dev/zero")

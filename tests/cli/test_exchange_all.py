@@ -5,6 +5,7 @@ from __future__ import annotations
 import unittest
 
 from message_files import MesFile, msx_file
+from on_windows import native
 from support import CliTest
 
 NAMES = (b"Default", b"ITALIANO", b"ENGLISH", b"ENGLISH")
@@ -21,12 +22,12 @@ class AllLanguagesTest(CliTest):
         printed = self.done("export", "A.MES", "--all=out").out
         names = ["en-x-lang3.csv", "en.csv", "it.csv"]
         self.assertEqual(sorted(p.name for p in (self.folder / "out").iterdir()), names)
-        self.assertEqual(printed, "out/it.csv\nout/en.csv\nout/en-x-lang3.csv\n")
+        self.assertEqual(printed, native("out/it.csv\nout/en.csv\nout/en-x-lang3.csv\n"))
         self.assertIn(b'"2","0222","3222"', self.read("out/en-x-lang3.csv"))
 
     def test_xliff_is_written_on_demand(self) -> None:
         printed = self.done("export", "A.MES", "--all=out", "--format=xliff", "--json").json
-        expected = ["out/it.xliff", "out/en.xliff", "out/en-x-lang3.xliff"]
+        expected = [native(f"out/{tag}.xliff") for tag in ("it", "en", "en-x-lang3")]
         self.assertEqual(printed, {"written": expected, "notices": []})
 
     def test_a_folder_that_is_there_is_used(self) -> None:
@@ -54,7 +55,7 @@ class AllLanguagesTest(CliTest):
         self.write("in/read.me", b"no table")
         printed = self.done("apply", "A.MES", "--all=in").out
         self.assertEqual(
-            printed, "in/en.csv:\n1 messages applied\nin/en-x-lang3.csv:\n2 messages applied\n"
+            printed, native("in/en.csv:\n1 messages applied\nin/en-x-lang3.csv:\n2 messages applied\n")
         )
         self.file.texts = {(2, 1): b"two ", (3, 0): b"a   ", (3, 2): b"b   "}
         self.assertEqual(self.read("A.MES"), self.file.content())
@@ -64,8 +65,8 @@ class AllLanguagesTest(CliTest):
         self.write("in/it.csv", HEADER)
         printed = self.done("apply", "A.MES", "--all=in", "--json").json
         tables = [
-            {"table": "in/it.csv", "language": 1, "applied": 0},
-            {"table": "in/en.csv", "language": 2, "applied": 1},
+            {"table": native("in/it.csv"), "language": 1, "applied": 0},
+            {"table": native("in/en.csv"), "language": 2, "applied": 1},
         ]
         self.assertEqual(printed, {"file": "A.MES", "tables": tables, "notices": []})
 
@@ -74,18 +75,19 @@ class AllLanguagesTest(CliTest):
         self.write("in/en.csv", HEADER + b"1,,good\r\n")
         self.write("in/it.csv", b"")
         err = self.refused("apply", "A.MES", "--all=in").err
-        self.assertIn("in/en-x-lang3.csv: row 2: message 1: ", err)
-        self.assertIn("in/it.csv: ", err)
+        self.assertIn(native("in/en-x-lang3.csv: row 2: message 1: "), err)
+        self.assertIn(native("in/it.csv: "), err)
 
     def test_a_table_of_no_language_is_refused(self) -> None:
         self.write("in/en.csv", HEADER)
         self.write("in/pl.csv", HEADER)
-        self.assertIn("in/pl.csv: A.MES has no language", self.refused("apply", "A.MES", "--all=in").err)
+        err = self.refused("apply", "A.MES", "--all=in").err
+        self.assertIn(native("in/pl.csv: A.MES has no language"), err)
 
     def test_two_tables_of_a_language_are_refused(self) -> None:
         self.write("in/en.csv", HEADER)
         self.write("in/en.xlf", HEADER)
-        self.assertIn("in/en.xlf: ", self.refused("apply", "A.MES", "--all=in").err)
+        self.assertIn(native("in/en.xlf: "), self.refused("apply", "A.MES", "--all=in").err)
 
     def test_a_folder_without_tables_is_refused(self) -> None:
         (self.folder / "in").mkdir()

@@ -6,6 +6,7 @@ import subprocess
 import unittest
 
 from message_files import MesFile, msx_at, msx_file, s_record
+from on_windows import NO_MODES, not_on_windows
 from support import DONE, PROGRAM, REFUSED, CliTest, limit_memory
 
 HEADER = b"message,origin,text\r\n"
@@ -131,6 +132,7 @@ class NoChangeTest(CliTest):
         printed = self.done("apply", "A.MES", "t.csv", "--language=1").out
         self.assertEqual(printed, "1 messages applied\n")
 
+    @not_on_windows(NO_MODES)
     def test_a_file_that_nothing_changes_in_is_not_written(self) -> None:
         name = self.write("A.MES", MesFile().content())
         (self.folder / name).chmod(0o444)

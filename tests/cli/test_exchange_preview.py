@@ -5,6 +5,7 @@ from __future__ import annotations
 import unittest
 
 from message_files import MesFile
+from on_windows import native
 from support import CliTest
 
 HEADER = b"message,origin,text\r\n"
@@ -70,7 +71,7 @@ class DryRunTest(CliTest):
         self.write("in/en.csv", HEADER + b"0,,x\r\n")
         with self.unchanged():
             printed = self.done("apply", "A.MES", "--all=in", "--dry-run").out
-        self.assertEqual(printed, "in/en.csv:\n    0 |2000|x   |\n1 messages would change\n")
+        self.assertEqual(printed, native("in/en.csv:\n    0 |2000|x   |\n1 messages would change\n"))
 
 
 class StandardStreamTest(CliTest):

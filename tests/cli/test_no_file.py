@@ -4,13 +4,13 @@ from __future__ import annotations
 
 import os
 import pwd
-import shutil
 import tempfile
 import unittest
 from pathlib import Path
 
 from bad_input_case import APPLY, READERS, BadInputCase
-from support import PROGRAM, REFUSED, Cli
+from on_windows import NO_DEVICES, NO_LINKS, NO_MODES, not_on_windows
+from support import REFUSED, Cli, copy_program
 
 
 class SoundFileTest(BadInputCase):
@@ -31,18 +31,21 @@ class NoFileTest(BadInputCase):
             (self.folder / reader.file).mkdir()
             self.assert_refused(reader)
 
+    @not_on_windows(NO_DEVICES)
     def test_a_pipe_that_nobody_writes_to(self) -> None:
         for reader in READERS:
             self.prepare(reader)
             os.mkfifo(self.folder / reader.file)
             self.assert_refused(reader)
 
+    @not_on_windows(NO_DEVICES)
     def test_a_device_without_end(self) -> None:
         for reader in READERS:
             self.prepare(reader)
             (self.folder / reader.file).symlink_to("/dev/zero")
             self.assert_refused(reader)
 
+    @not_on_windows(NO_LINKS)
     def test_a_link_to_itself(self) -> None:
         for reader in READERS:
             self.prepare(reader)
@@ -56,6 +59,7 @@ class NoFileTest(BadInputCase):
             self.assert_refused(reader)
 
 
+@not_on_windows(NO_MODES)
 class LockedFileTest(BadInputCase):
     """The program runs as a user who is bound by file modes, also where root runs the tests."""
 
@@ -66,7 +70,7 @@ class LockedFileTest(BadInputCase):
             self.addCleanup(programs.cleanup)
             Path(programs.name).chmod(0o755)
             self.folder.chmod(0o777)
-            program = Path(shutil.copy(PROGRAM, programs.name))
+            program = copy_program(Path(programs.name))
             self.cli = Cli(self.folder, program, user=pwd.getpwnam("nobody").pw_uid)
 
     def test_every_command_takes_the_file_while_it_is_not_locked(self) -> None:

@@ -3,14 +3,23 @@
 from __future__ import annotations
 
 import os
-import shutil
 import unittest
 from collections.abc import Iterator
 
 from message_files import MesFile, s_record
-from support import DONE, PROGRAM, REFUSED, WRONG_USAGE, Cli, CliTest, Result
+from on_windows import ONLY_UNICODE, ON_WINDOWS, not_on_windows
+from support import DONE, REFUSED, WRONG_USAGE, Cli, CliTest, Result, copy_program
 
-NAMES = (
+NAMES_ON_WINDOWS = (
+    "Wässer größer".encode(),
+    "Меню".encode(),
+    b"'quotes` %HOMEPATH% ^c;d&f",
+    b"%1 %2 %s %n %00",
+    b"-rf",
+    "\u202egnl.\U0001f600".encode(),
+    255 * b"x",
+)
+NAMES_ELSEWHERE = (
     b"x\xff\xfe y",  # in no encoding
     b"caff\xe8",  # in Windows-1252
     b"\xed\xa0\x80 \xc0\xaf",  # half of a surrogate pair, an overlong separator
@@ -25,6 +34,7 @@ NAMES = (
     255 * b"x",
     200 * b"y" + 2 * b"\xff",
 )
+NAMES = NAMES_ON_WINDOWS if ON_WINDOWS else NAMES_ELSEWHERE
 
 TABLE = b"message,origin,text\r\n1,,new\r\n"
 SOURCE = b"LABEL   DC.B 'ABCD'\r\n        DC.B 'EFGH'\r\n"
@@ -91,10 +101,12 @@ class PathsTest(CliTest):
                 self.text_of(REFUSED, *in_folder(folder, command))
                 self.text_of(REFUSED, *in_folder(folder, command), b"--json")
 
+    @not_on_windows(ONLY_UNICODE)
     def test_wrong_usage_is_told_in_text(self) -> None:
         for arguments in ((b"\xff",), (b"info", b"A.MES", b"\xff\xfe"), (b"info", b"--\xff", b"A.MES")):
             self.text_of(WRONG_USAGE, *arguments)
 
+    @not_on_windows(ONLY_UNICODE)
     def test_the_copy_has_the_name_of_the_flash_file(self) -> None:
         self.write("A.MES", MesFile(flags=b"03", mem_start=0xFF8000).content())
         output = b"--output=FW0417AB\xe8.MHX"
@@ -106,10 +118,9 @@ class PathsTest(CliTest):
         self.write("A.MHX", b"no record\r\n")
         for folder in self.folders():
             programs = self.folder / os.fsdecode(folder)
-            shutil.copy(PROGRAM, programs)
             lines = [b"line %d" % number for number in range(1, 80)]
             (programs / "english.lng").write_bytes(b"\r\n".join(lines))
-            self.cli = Cli(self.folder, programs / PROGRAM.name)
+            self.cli = Cli(self.folder, copy_program(programs))
             self.assertIn("line 38", self.text_of(REFUSED, b"sections", b"A.MHX").err)
 
     def folders(self) -> Iterator[bytes]:

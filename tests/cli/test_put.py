@@ -5,6 +5,7 @@ from __future__ import annotations
 import unittest
 
 from message_files import MesFile
+from on_windows import ONLY_UNICODE, not_on_windows
 from support import CliTest
 
 
@@ -102,6 +103,7 @@ class PutIntoMesFileTest(CliTest):
             arguments = ("A.MES", "--language=1", "--message=1", f"--text=a{character}")
             self.assertIn(f'"{character[-1]}"', self.refused("put", *arguments).err)
 
+    @not_on_windows(ONLY_UNICODE)
     def test_malformed_utf8_is_refused(self) -> None:
         self.write("A.MES", MesFile().content())
         for malformed in (
@@ -195,6 +197,7 @@ class PutIntoMesFileTest(CliTest):
         arguments = ("A.MES", "--language=1", "--message=0", "--text=x")
         self.assertIn("A.MES: a language block of 36 bytes", self.refused("put", *arguments).err)
 
+    @not_on_windows(ONLY_UNICODE)
     def test_a_path_that_is_no_utf8_is_fine(self) -> None:
         name = self.write(b"Caff\xe8.MES", MesFile().content())
         for text, flags in (("one", []), ("two", ["--json"])):

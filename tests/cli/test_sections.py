@@ -5,6 +5,7 @@ from __future__ import annotations
 import unittest
 
 from message_files import s_record, s_records
+from on_windows import ONLY_UNICODE, not_on_windows
 from support import CliTest, on_stderr
 
 SIXTEEN = bytes(range(0x41, 0x51))
@@ -181,6 +182,7 @@ class SectionsTest(CliTest):
         self.write("A.MHX", lines(s_record("2", 0xFF8000, b"x")))
         self.assertIn("no/A.mtx: ", self.refused("sections", "A.MHX", "--output=no/A").err)
 
+    @not_on_windows(ONLY_UNICODE)
     def test_a_path_that_is_no_utf8_is_fine(self) -> None:
         name = self.write(b"A\xe8.MHX", lines(s_record("2", 0xFF8000, b"x")))
         self.assertEqual(self.cli.run("sections", name).status, 0)

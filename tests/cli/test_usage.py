@@ -4,13 +4,12 @@ from __future__ import annotations
 
 import os
 import random
-import shutil
 import subprocess
 import unittest
-from pathlib import Path
 
 from message_files import MesFile, msx_file
-from support import COMMANDS, PROGRAM, REFUSED, Cli, CliTest
+from on_windows import NO_DEVICES, not_on_windows
+from support import COMMANDS, PROGRAM, REFUSED, Cli, CliTest, copy_program
 
 # Every option and argument that a command cannot do without.
 COMPLETE = {
@@ -176,6 +175,7 @@ class OutputTest(CliTest):
         memory = ("--languages=1", "--language-message=1", "--memory-start=1", "--memory-length=64")
         self.done("import", *memory, "--name", "NEW", "a.src", "--output", "B.MES")
 
+    @not_on_windows(NO_DEVICES)
     def test_output_that_cannot_be_written_fails(self) -> None:
         with open("/dev/full", "wb") as full:
             done = subprocess.run(
@@ -220,7 +220,7 @@ class OutputTest(CliTest):
 
     def run_a_copy_of_the_program(self) -> None:
         """Its language files are those of the test's folder."""
-        self.cli = Cli(self.folder, Path(shutil.copy(PROGRAM, self.folder)))
+        self.cli = Cli(self.folder, copy_program(self.folder))
 
     def assert_commands_work(self) -> None:
         self.done("info", "A.MES")

@@ -1,9 +1,22 @@
 #ifndef VENDLINGUA_TESTS_SUPPORT_ORDINARY_USER_H_
 #define VENDLINGUA_TESTS_SUPPORT_ORDINARY_USER_H_
 
+#ifndef _WIN32
 #include <unistd.h>
+#endif
 
 namespace vendlingua::test {
+
+#ifdef _WIN32
+
+/// Files have no permission bits that hold here.
+class OrdinaryUser {
+ public:
+  OrdinaryUser() {}
+  static bool holds() { return false; }
+};
+
+#else
 
 /// While it lives permission bits hold, for a test that is run by root, too: root goes on as a user
 /// without rights.
@@ -30,6 +43,8 @@ class OrdinaryUser {
 
   uid_t user_before_ = geteuid();
 };
+
+#endif
 
 }  // namespace vendlingua::test
 

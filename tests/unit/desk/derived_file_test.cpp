@@ -5,12 +5,14 @@
 #include <filesystem>
 
 #include "core/platform/errors.h"
+#include "support/skip_on_windows.h"
 #include "support/temporary_folder.h"
 
 namespace vendlingua {
 namespace {
 
 TEST(DerivedFileTest, NeverTakesThePlaceOfTheOpenFile) {
+  SKIP_ON_WINDOWS("links for everybody");
   const test::TemporaryFolder folder;
   MessageSet set;
   set.CurrentFileName = folder.Write("A.MES", "messages");

@@ -1,6 +1,7 @@
 #include <gmock/gmock.h>
 
 #include "core/flash/flash_compiler.h"
+#include "support/skip_on_windows.h"
 #include "unit/flash/flash_compiler_test.h"
 
 // No output takes the place of the message file or of another output of the same run. What can be
@@ -32,6 +33,7 @@ class SafeCompilationTest : public test::FlashCompilerTest {
 };
 
 TEST_F(SafeCompilationTest, KeepsTheMessageFileFromTheFlashFile) {
+  SKIP_ON_WINDOWS("links for everybody");
   OpenHexFile();
   Link("link.hex", "SET.MES");
   fs::create_hard_link(folder_ / "SET.MES", folder_ / "hard.hex");
@@ -41,12 +43,14 @@ TEST_F(SafeCompilationTest, KeepsTheMessageFileFromTheFlashFile) {
 }
 
 TEST_F(SafeCompilationTest, KeepsTheMessageFileFromTheNamedCopy) {
+  SKIP_ON_WINDOWS("links for everybody");
   OpenMhxFile();
   Link("FW0417AB.MSX", "SET.MES");
   ExpectRefusal("FW0417AB.MHX", "FW0417AB.MSX", "is the message file");
 }
 
 TEST_F(SafeCompilationTest, KeepsTheFlashFileFromTheNamedCopy) {
+  SKIP_ON_WINDOWS("links for everybody");
   OpenMhxFile();
   Link("FW0417AB.MSX", "FW0417AB.MHX");
   ExpectRefusal("FW0417AB.MHX", "FW0417AB.MSX", "is the flash file");
@@ -56,6 +60,7 @@ TEST_F(SafeCompilationTest, KeepsTheFlashFileFromTheNamedCopy) {
 }
 
 TEST_F(SafeCompilationTest, KeepsTheMessageFileFromTheSectionFiles) {
+  SKIP_ON_WINDOWS("links for everybody");
   OpenMhxFile();
   for (const char* name : {"F.mtx", "F.SA0", "F.SA1", "F.SA2", "F.SA3", "F.SA4"}) {
     Link(name, "SET.MES");
@@ -65,6 +70,7 @@ TEST_F(SafeCompilationTest, KeepsTheMessageFileFromTheSectionFiles) {
 }
 
 TEST_F(SafeCompilationTest, KeepsTheFlashFileFromTheSectionFiles) {
+  SKIP_ON_WINDOWS("links for everybody");
   OpenMhxFile();
   for (const char* name : {"F.mhx.mtx", "F.mhx.SA0", "F.mhx.SA4"}) {
     ExpectRefusal(name, name, "is the flash file");
@@ -74,12 +80,14 @@ TEST_F(SafeCompilationTest, KeepsTheFlashFileFromTheSectionFiles) {
 }
 
 TEST_F(SafeCompilationTest, KeepsTheNamedCopyFromTheSectionFiles) {
+  SKIP_ON_WINDOWS("links for everybody");
   OpenMhxFile();
   Link("FW0417AB.SA0", "FW0417AB.MSX");
   ExpectRefusal("FW0417AB.MHX", "FW0417AB.SA0", "is the identified copy");
 }
 
 TEST_F(SafeCompilationTest, LooksThroughLinksOfLinksAndFolders) {
+  SKIP_ON_WINDOWS("links for everybody");
   OpenMhxFile();
   fs::create_directory(folder_ / "sub");
   Link("here", ".");
@@ -89,6 +97,7 @@ TEST_F(SafeCompilationTest, LooksThroughLinksOfLinksAndFolders) {
 }
 
 TEST_F(SafeCompilationTest, LetsNoLinkThatLeadsToItselfBeTakenForAFileOfTheRun) {
+  SKIP_ON_WINDOWS("links for everybody");
   OpenMhxFile();
   Link("F.SA3", "F.SA3");
   EXPECT_THAT(ReasonOfRefusal({1, 2}, folder_ / "F.MHX"),
@@ -96,18 +105,21 @@ TEST_F(SafeCompilationTest, LetsNoLinkThatLeadsToItselfBeTakenForAFileOfTheRun) 
 }
 
 TEST_F(SafeCompilationTest, MindsNoSectionFilesInTheHexFamily) {
+  SKIP_ON_WINDOWS("links for everybody");
   OpenHexFile();
   Link("FW0417AB.SA1", "SET.MES");
   EXPECT_TRUE(Compile({1, 2}, folder_ / "FW0417AB.hex").completed);
 }
 
 TEST_F(SafeCompilationTest, MindsNoCopyThatIsNotMade) {
+  SKIP_ON_WINDOWS("links for everybody");
   OpenMhxFile();
   Link("FWX417AB.SA1", "FWX417AB.MSX");
   EXPECT_TRUE(Compile({1, 2}, folder_ / "FWX417AB.MHX").completed);
 }
 
 TEST_F(SafeCompilationTest, KeepsFilesThatLieBeside) {
+  SKIP_ON_WINDOWS("links for everybody");
   OpenMhxFile();
   folder_.Write("FW0417AB.MSX", "older");
   folder_.Write("OTHER", "other");
@@ -116,6 +128,7 @@ TEST_F(SafeCompilationTest, KeepsFilesThatLieBeside) {
 }
 
 TEST_F(SafeCompilationTest, KeepsTheFilesOfAMsxSourceFromTheSectionFiles) {
+  SKIP_ON_WINDOWS("links for everybody");
   Open("SOURCE.MSX", test::MsxFile(9));
   EXPECT_THAT(ReasonOfRefusal({}, folder_ / "F.SA0"), HasSubstr("F.SA0: is the flash file"));
   Link("F.mtx", "SOURCE.MSX");
@@ -126,6 +139,7 @@ TEST_F(SafeCompilationTest, KeepsTheFilesOfAMsxSourceFromTheSectionFiles) {
 
 // A file may come to lie where an output goes while the run goes on.
 TEST_F(SafeCompilationTest, LooksAgainBeforeItWritesTheCopy) {
+  SKIP_ON_WINDOWS("links for everybody");
   OpenHexFile();
   dialogs_.while_pending_events_run = [this] { Link("FW0417AB.HSX", "FW0417AB.hex"); };
   EXPECT_THAT(ReasonOfRefusal({1, 2}, folder_ / "FW0417AB.hex"), HasSubstr("is the flash file"));
@@ -133,6 +147,7 @@ TEST_F(SafeCompilationTest, LooksAgainBeforeItWritesTheCopy) {
 }
 
 TEST_F(SafeCompilationTest, LooksAgainBeforeItWritesTheSectionFiles) {
+  SKIP_ON_WINDOWS("links for everybody");
   OpenMhxFile();
   dialogs_.while_pending_events_run = [this] {
     if (!fs::exists(folder_ / "FW0417AB.SA0")) {
@@ -175,6 +190,7 @@ TEST_F(SafeNineLanguageCopyTest, KeepsTheMessageFileFromTheCopy) {
 }
 
 TEST_F(SafeNineLanguageCopyTest, KeepsTheFlashFileFromTheCopy) {
+  SKIP_ON_WINDOWS("links for everybody");
   OpenMes();
   Compile({1, 2, 3, 4, 5, 6, 7, 8, 9}, folder_ / "F.MHX", folder_ / "COPY.MSX");
   fs::remove(folder_ / "F.MHX");

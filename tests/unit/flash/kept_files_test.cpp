@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "core/platform/errors.h"
+#include "support/skip_on_windows.h"
 #include "support/temporary_folder.h"
 
 namespace vendlingua {
@@ -28,6 +29,7 @@ class KeptFilesTest : public testing::Test {
 };
 
 TEST_F(KeptFilesTest, LetNothingTakeTheirPlace) {
+  SKIP_ON_WINDOWS("links for everybody");
   EXPECT_EQ(Refusal("./READ.MES"),
             "is the message file that is being compiled; choose another name");
   std::filesystem::create_symlink("NEW.MHX", folder_ / "LINK");

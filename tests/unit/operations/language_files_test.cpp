@@ -1,10 +1,10 @@
 #include "core/operations/language_files.h"
 
 #include <gmock/gmock.h>
-#include <sys/stat.h>
-
 #include <filesystem>
 
+#include "support/named_pipe.h"
+#include "support/skip_on_windows.h"
 #include "support/temporary_folder.h"
 
 namespace vendlingua {
@@ -31,6 +31,7 @@ TEST_F(LanguageFilesTest, AreListedInAlphabeticalOrderWithoutRegardToCase) {
 }
 
 TEST_F(LanguageFilesTest, AreFilesAndNothingElse) {
+  SKIP_ON_WINDOWS("links for everybody");
   folder_.Write("x.lng", "");
   folder_.Write("x.lng.bak", "");
   folder_.Write("lng", "");
@@ -38,7 +39,7 @@ TEST_F(LanguageFilesTest, AreFilesAndNothingElse) {
   std::filesystem::create_directory(folder_ / "folder.lng");
   std::filesystem::create_symlink("missing.lng", folder_ / "link.lng");
   std::filesystem::create_symlink("x.lng", folder_ / "y.lng");
-  ASSERT_EQ(mkfifo((folder_ / "pipe.lng").c_str(), 0600), 0);
+  ASSERT_TRUE(test::MakePipe(folder_ / "pipe.lng"));
   EXPECT_THAT(Names(), ElementsAre("x", "y"));
 }
 

@@ -2,6 +2,7 @@
 #include <string>
 
 #include "support/full_disk.h"
+#include "support/skip_on_windows.h"
 #include "unit/operations/message_file_writer_test.h"
 
 namespace vendlingua {
@@ -178,6 +179,7 @@ TEST_F(MesPatch, FailsWithoutABoxWhenTheFileIsGone) {
 }
 
 TEST_F(MesPatch, FailsOnAFullDisk) {
+  SKIP_ON_WINDOWS("limit for the size of files");
   Edit(MesFile());
   Type("XY");
   const test::FullDisk disk(10);
@@ -187,6 +189,7 @@ TEST_F(MesPatch, FailsOnAFullDisk) {
 }
 
 TEST_F(MesPatch, IsNotWrittenIntoWhatIsNoFile) {
+  SKIP_ON_WINDOWS("links for everybody");
   if (!fs::exists("/dev/null")) {
     GTEST_SKIP() << "needs the device file";
   }

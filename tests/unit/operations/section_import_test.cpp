@@ -1,4 +1,5 @@
 #include "support/full_disk.h"
+#include "support/skip_on_windows.h"
 #include "unit/operations/source_import_test.h"
 
 namespace vendlingua {
@@ -96,6 +97,7 @@ TEST_F(SectionImportTest, KeepsTheLanguageMessageOfTheFirstSection) {
 
 // What fails leaves no file with a part of the languages.
 TEST_F(SectionImportTest, WritesTheFileOfAllSectionsAtOnce) {
+  SKIP_ON_WINDOWS("limit for the size of files");
   folder_.Write("NEW.MES", "an older file");
   answers_ = {"2", "1", "&H6000", "24", "uno", "2", "&H6000", "24", "due"};
   {

@@ -1,13 +1,13 @@
 #include "core/operations/settings.h"
 
 #include <gtest/gtest.h>
-#include <sys/stat.h>
-
 #include <filesystem>
 
 #include "core/platform/errors.h"
 #include "core/platform/files.h"
+#include "support/named_pipe.h"
 #include "support/ordinary_user.h"
+#include "support/skip_on_windows.h"
 #include "support/temporary_folder.h"
 
 namespace vendlingua {
@@ -119,16 +119,19 @@ TEST_F(WorkspaceSettingsTest, BesideTheProgramGoBeforeTheUsersOwn) {
 }
 
 TEST_F(WorkspaceSettingsTest, BesideTheProgramGoBehindTheUsersOwnWhereTheFolderIsReadOnly) {
+  SKIP_ON_WINDOWS("modes of files");
   WriteBoth();
   EXPECT_EQ(LanguageReadWithModes(0555, 0666), "deutsch");
 }
 
 TEST_F(WorkspaceSettingsTest, BesideTheProgramGoBehindTheUsersOwnWhereTheFileIsReadOnly) {
+  SKIP_ON_WINDOWS("modes of files");
   WriteBoth();
   EXPECT_EQ(LanguageReadWithModes(0777, 0444), "deutsch");
 }
 
 TEST_F(WorkspaceSettingsTest, BesideTheProgramGoBeforeTheUsersOwnForWhoeverMayWriteThem) {
+  SKIP_ON_WINDOWS("modes of files");
   WriteBoth();
   EXPECT_EQ(LanguageReadWithModes(0777, 0666), "english");
 }
@@ -141,8 +144,9 @@ TEST_F(WorkspaceSettingsTest, AreReadFromTheUsersOwnFileWhereTheOtherIsUseless) 
 }
 
 TEST_F(WorkspaceSettingsTest, WaitForNoPipe) {
+  SKIP_ON_WINDOWS("pipes among files");
   folder_.Write("user/vendlingua.ini", "Lingua=deutsch\r\n");
-  ASSERT_EQ(mkfifo((folder_ / "vendlingua.ini").c_str(), 0600), 0);
+  ASSERT_TRUE(test::MakePipe(folder_ / "vendlingua.ini"));
   ReadSettings(workspace_);
   EXPECT_EQ(workspace_.LanguageName, "deutsch");
   workspace_.interface_languages = {.names = {"english"}, .chosen = 0};

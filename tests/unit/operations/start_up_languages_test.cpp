@@ -1,6 +1,6 @@
-#include <sys/stat.h>
-
 #include "core/operations/interface_language.h"
+#include "support/named_pipe.h"
+#include "support/skip_on_windows.h"
 #include "unit/operations/start_up_test.h"
 
 namespace vendlingua {
@@ -63,8 +63,9 @@ TEST_F(StartUpLanguagesTest, HasTheReferenceBuiltInWhereItsFileIsMissing) {
 }
 
 TEST_F(StartUpLanguagesTest, HasTheReferenceBuiltInWhereItsFileIsAPipe) {
+  SKIP_ON_WINDOWS("pipes among files");
   AddLanguage("dansk");
-  ASSERT_EQ(mkfifo((folder_ / "italiano.lng").c_str(), 0600), 0);
+  ASSERT_TRUE(test::MakePipe(folder_ / "italiano.lng"));
   EXPECT_TRUE(Start());
   ExpectNamed({"italiano.lng"});
 }
@@ -97,13 +98,15 @@ TEST_F(StartUpLanguagesTest, TakesNoFolderForALanguage) {
 }
 
 TEST_F(StartUpLanguagesTest, TakesNoPipeForALanguage) {
+  SKIP_ON_WINDOWS("pipes among files");
   AddLanguage("italiano");
-  ASSERT_EQ(mkfifo((folder_ / "dansk.lng").c_str(), 0600), 0);
+  ASSERT_TRUE(test::MakePipe(folder_ / "dansk.lng"));
   EXPECT_TRUE(Start());
   EXPECT_THAT(Listed(), ElementsAre("italiano"));
 }
 
 TEST_F(StartUpLanguagesTest, TakesNoLinkThatLeadsNowhereForALanguage) {
+  SKIP_ON_WINDOWS("links for everybody");
   AddLanguage("italiano");
   std::filesystem::create_symlink("gone.lng", folder_ / "dansk.lng");
   std::filesystem::create_symlink("english.lng", folder_ / "english.lng");

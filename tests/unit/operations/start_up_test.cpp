@@ -3,6 +3,7 @@
 #include "core/operations/interface_language.h"
 #include "core/presentation/view_state.h"
 #include "support/hostile_names.h"
+#include "support/skip_on_windows.h"
 
 namespace vendlingua {
 namespace {
@@ -92,6 +93,7 @@ TEST_F(StartUpTest, EndsWithABoxWhereItsFolderIsMissing) {
 }
 
 TEST_F(StartUpTest, WorksInAFolderOfAnyName) {
+  SKIP_ON_WINDOWS("names that are no text");
   for (const std::string& name : test::HostileNames()) {
     workspace_ = Workspace();
     workspace_.folders.program = folder_ / name;

@@ -5,6 +5,7 @@
 #include <filesystem>
 
 #include "support/ordinary_user.h"
+#include "support/skip_on_windows.h"
 #include "support/temporary_folder.h"
 
 namespace vendlingua {
@@ -29,6 +30,7 @@ bool MayReplaceWith(fs::perms folder_mode, fs::perms file_mode) {
 }
 
 TEST(MayReplace, NeedsAFileAndAFolderThatCanBeWritten) {
+  SKIP_ON_WINDOWS("modes of files");
   EXPECT_TRUE(MayReplaceWith(fs::perms(0777), fs::perms(0666)));
   EXPECT_FALSE(MayReplaceWith(fs::perms(0777), fs::perms(0444)));
   EXPECT_FALSE(MayReplaceWith(fs::perms(0555), fs::perms(0666)));

@@ -1,10 +1,10 @@
 #include "core/platform/file_handle.h"
 
 #include <gtest/gtest.h>
-#include <sys/stat.h>
-
 #include <filesystem>
 
+#include "support/named_pipe.h"
+#include "support/skip_on_windows.h"
 #include "support/temporary_folder.h"
 
 namespace vendlingua {
@@ -41,6 +41,7 @@ TEST_F(FileHandleTest, CreatesNoFileWhereOneIs) {
 }
 
 TEST_F(FileHandleTest, CreatesNoFileThroughALink) {
+  SKIP_ON_WINDOWS("links for everybody");
   fs::create_symlink("elsewhere.bin", folder_ / "link.bin");
   EXPECT_EQ(file_.CreateNew(folder_ / "link.bin"), std::errc::file_exists);
   EXPECT_EQ(folder_.Names(), "link.bin");
@@ -106,7 +107,8 @@ TEST_F(FileHandleTest, KnowsAFileFromOthers) {
 }
 
 TEST_F(FileHandleTest, WaitsForNobodyAtAPipe) {
-  ASSERT_EQ(mkfifo((folder_ / "pipe").c_str(), 0600), 0);
+  SKIP_ON_WINDOWS("pipes among files");
+  ASSERT_TRUE(test::MakePipe(folder_ / "pipe"));
   EXPECT_EQ(file_.Open(folder_ / "pipe", Access::kRead), std::error_code());
   EXPECT_FALSE(file_.IsRegularFile());
 }
@@ -158,6 +160,23 @@ TEST_F(FileHandleTest, ClosesItself) {
     ASSERT_EQ(file.Write("x"), std::error_code());
   }
   EXPECT_EQ(Slurp(folder_ / "new.bin"), "x");
+}
+
+TEST(Rename, ReplacesWhatIsThere) {
+  const test::TemporaryFolder folder;
+  const fs::path from = folder.Write("new.bin", "new");
+  EXPECT_EQ(Rename(from, folder.Write("file.bin", "old")), std::error_code());
+  EXPECT_EQ(Slurp(folder / "file.bin"), "new");
+  EXPECT_EQ(Rename(folder / "file.bin", folder / "other.bin"), std::error_code());
+  EXPECT_EQ(folder.Names(), "other.bin");
+}
+
+TEST(Rename, LeavesBothWhereItCannot) {
+  const test::TemporaryFolder folder;
+  const fs::path from = folder.Write("new.bin", "new");
+  EXPECT_TRUE(Rename(from, folder / "none/file.bin"));
+  EXPECT_TRUE(Rename(folder / "none.bin", from));
+  EXPECT_EQ(Slurp(from), "new");
 }
 
 TEST(FlushFolder, MindsNoFolderThatIsNotThere) {

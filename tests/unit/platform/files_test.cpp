@@ -1,15 +1,15 @@
 #include "core/platform/files.h"
 
 #include <gmock/gmock.h>
-#include <sys/stat.h>
-
 #include <filesystem>
 #include <functional>
 #include <string>
 
 #include "core/platform/errors.h"
 #include "support/full_disk.h"
+#include "support/named_pipe.h"
 #include "support/ordinary_user.h"
+#include "support/skip_on_windows.h"
 #include "support/temporary_folder.h"
 
 namespace vendlingua {
@@ -60,6 +60,7 @@ TEST_F(Files, AreReplacedWhole) {
 }
 
 TEST_F(Files, AreReplacedWholeOrNotAtAll) {
+  SKIP_ON_WINDOWS("limit for the size of files");
   folder.Write("old.bin", "old content");
   const test::FullDisk disk(5);
   EXPECT_THAT(FailureOf([this] { WriteFile(folder / "old.bin", "new content"); }),
@@ -70,6 +71,7 @@ TEST_F(Files, AreReplacedWholeOrNotAtAll) {
 }
 
 TEST_F(Files, KeepTheirModeWhenTheyAreReplaced) {
+  SKIP_ON_WINDOWS("modes of files");
   const fs::path file = folder.Write("old.bin", "old");
   fs::permissions(file, fs::perms::owner_read | fs::perms::owner_write);
   WriteFile(file, "new");
@@ -77,6 +79,7 @@ TEST_F(Files, KeepTheirModeWhenTheyAreReplaced) {
 }
 
 TEST_F(Files, AreReplacedWhereALinkLeads) {
+  SKIP_ON_WINDOWS("links for everybody");
   folder.Write("old.bin", "old");
   fs::create_symlink("old.bin", folder / "link.bin");
   WriteFile(folder / "link.bin", "new");
@@ -85,6 +88,7 @@ TEST_F(Files, AreReplacedWhereALinkLeads) {
 }
 
 TEST_F(Files, AreCreatedWhereALinkToNothingLeads) {
+  SKIP_ON_WINDOWS("links for everybody");
   fs::create_symlink("new.bin", folder / "link.bin");
   WriteFile(folder / "link.bin", "new");
   EXPECT_TRUE(fs::is_symlink(folder / "link.bin"));
@@ -92,6 +96,7 @@ TEST_F(Files, AreCreatedWhereALinkToNothingLeads) {
 }
 
 TEST_F(Files, ThatAreLinksInACircleAreRefused) {
+  SKIP_ON_WINDOWS("links for everybody");
   fs::create_symlink("b.bin", folder / "a.bin");
   fs::create_symlink("a.bin", folder / "b.bin");
   EXPECT_THROW(WriteFile(folder / "a.bin", "x"), FileError);
@@ -110,8 +115,9 @@ TEST_F(Files, ThatAreDevicesAreNotWritten) {
 
 // Opened for writing, a pipe waits for somebody who reads it.
 TEST_F(Files, ThatArePipesAreRefusedUnopened) {
+  SKIP_ON_WINDOWS("pipes among files");
   const fs::path pipe = folder / "pipe.MES";
-  ASSERT_EQ(mkfifo(pipe.c_str(), 0600), 0);
+  ASSERT_TRUE(test::MakePipe(pipe));
   EXPECT_THROW(WriteFile(pipe, "bytes"), FileError);
   EXPECT_THROW(ReadFile(pipe), FileError);
   FileHandle file;
@@ -120,6 +126,7 @@ TEST_F(Files, ThatArePipesAreRefusedUnopened) {
 }
 
 TEST_F(Files, ThatCannotBeCreatedLeaveALinkToNothingAsItIs) {
+  SKIP_ON_WINDOWS("links for everybody");
   fs::create_symlink("none/new.bin", folder / "link.bin");
   EXPECT_THROW(WriteFile(folder / "link.bin", "x"), FileError);
   EXPECT_TRUE(fs::is_symlink(folder / "link.bin"));

@@ -1,14 +1,14 @@
 #include "core/platform/in_place_change.h"
 
 #include <gmock/gmock.h>
-#include <sys/stat.h>
-
 #include <filesystem>
 #include <string>
 
 #include "core/platform/errors.h"
 #include "support/full_disk.h"
+#include "support/named_pipe.h"
 #include "support/ordinary_user.h"
+#include "support/skip_on_windows.h"
 #include "support/temporary_folder.h"
 
 namespace vendlingua {
@@ -56,6 +56,7 @@ TEST_F(InPlaceChangeTest, LeavesTheNewFileAndNothingElse) {
 }
 
 TEST_F(InPlaceChangeTest, KeepsTheFileItselfSoThatLinksAndModesStay) {
+  SKIP_ON_WINDOWS("links for everybody");
   fs::create_hard_link(path_, folder_ / "hard.MES");
   fs::create_symlink("A.MES", folder_ / "link.MES");
   fs::permissions(path_, fs::perms::owner_read | fs::perms::owner_write);
@@ -67,6 +68,7 @@ TEST_F(InPlaceChangeTest, KeepsTheFileItselfSoThatLinksAndModesStay) {
 }
 
 TEST_F(InPlaceChangeTest, FailsWithNothingTouchedWhereTheUndoFileFindsNoRoom) {
+  SKIP_ON_WINDOWS("limit for the size of files");
   const test::FullDisk disk(30);
   EXPECT_THAT(FailureOf("0A23456789"), HasSubstr("A.MES: cannot be written"));
   EXPECT_EQ(Slurp(path_), "0123456789");
@@ -75,6 +77,7 @@ TEST_F(InPlaceChangeTest, FailsWithNothingTouchedWhereTheUndoFileFindsNoRoom) {
 
 // The undo file is smaller than the file here, so that only the change finds no room.
 TEST_F(InPlaceChangeTest, PutsTheOldFileBackWhenItFailsHalfWay) {
+  SKIP_ON_WINDOWS("limit for the size of files");
   const std::string before(1000, 'a');
   std::string after = before + "b";
   after.replace(5, 1, "x");
@@ -87,6 +90,7 @@ TEST_F(InPlaceChangeTest, PutsTheOldFileBackWhenItFailsHalfWay) {
 
 // Of bytes that could not be written the old ones cannot be written either.
 TEST_F(InPlaceChangeTest, PutsBackWhatWasWrittenOfAFileThatCannotBeWrittenToItsEnd) {
+  SKIP_ON_WINDOWS("limit for the size of files");
   const std::string before(1000, 'a');
   folder_.Write("A.MES", before);
   std::string after = before;
@@ -98,6 +102,7 @@ TEST_F(InPlaceChangeTest, PutsBackWhatWasWrittenOfAFileThatCannotBeWrittenToItsE
 }
 
 TEST_F(InPlaceChangeTest, WritesNothingWhereNothingChanges) {
+  SKIP_ON_WINDOWS("limit for the size of files");
   const test::FullDisk disk(0);
   EXPECT_EQ(Change("0123456789"), Protection::kUndoFile);
 }
@@ -143,6 +148,7 @@ TEST_F(InPlaceChangeTest, ReplacesAnUndoFileOfWhichNothingIsNeeded) {
 }
 
 TEST_F(InPlaceChangeTest, NeverTouchesWhatLiesWhereTheUndoFileHasToBe) {
+  SKIP_ON_WINDOWS("links for everybody");
   const fs::path undo = folder_.Write("~A.MES.undo", "a note of somebody");
   EXPECT_THAT(FailureOf("0A23456789"), HasSubstr("~A.MES.undo: lies where"));
   EXPECT_EQ(Slurp(undo), "a note of somebody");
@@ -151,12 +157,13 @@ TEST_F(InPlaceChangeTest, NeverTouchesWhatLiesWhereTheUndoFileHasToBe) {
   fs::create_symlink("none", undo);
   EXPECT_THAT(FailureOf("0A23456789"), HasSubstr("lies where"));
   fs::remove(undo);
-  ASSERT_EQ(mkfifo(undo.c_str(), 0600), 0);
+  ASSERT_TRUE(test::MakePipe(undo));
   EXPECT_THAT(FailureOf("0A23456789"), HasSubstr("lies where"));
   EXPECT_EQ(folder_.Names(), "A.MES ~A.MES.undo");
 }
 
 TEST_F(InPlaceChangeTest, KeepsTheUndoFileBesideTheFileThatALinkLeadsTo) {
+  SKIP_ON_WINDOWS("links for everybody");
   Interrupt("0123456789", "01XX456789", "01X3456789");
   fs::create_directory(folder_ / "sub");
   fs::create_symlink("../A.MES", folder_ / "sub/link.MES");

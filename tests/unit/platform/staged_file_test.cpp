@@ -10,6 +10,7 @@
 #include "core/platform/errors.h"
 #include "core/platform/files.h"
 #include "support/full_disk.h"
+#include "support/skip_on_windows.h"
 #include "support/temporary_folder.h"
 
 namespace vendlingua {
@@ -78,13 +79,15 @@ TEST_F(StagedFileTest, HasATemporaryNameOfItsOwn) {
 }
 
 TEST_F(StagedFileTest, IsCreatedWithTheModeOfAnyNewFile) {
-  const mode_t mask_before = umask(027);
+  SKIP_ON_WINDOWS("modes of files");
+  const auto mask_before = umask(027);
   StagedFile(target_).Commit();
   umask(mask_before);
   EXPECT_EQ(fs::status(target_).permissions(), static_cast<fs::perms>(0640));
 }
 
 TEST_F(StagedFileTest, TakesTheModeOfTheFileThatItReplaces) {
+  SKIP_ON_WINDOWS("modes of files");
   folder_.Write("NEW.MES", "old");
   fs::permissions(target_, fs::perms::owner_read | fs::perms::owner_write);
   StagedFile(target_).Commit();
@@ -117,6 +120,7 @@ TEST_F(StagedFileTest, GoesAwayWhenSomebodyElseFails) {
 }
 
 TEST_F(StagedFileTest, ReplacesWhatALinkLeadsTo) {
+  SKIP_ON_WINDOWS("links for everybody");
   fs::create_directory(folder_ / "sub");
   fs::create_symlink("sub/second.MES", target_);
   fs::create_symlink("REAL.MES", folder_ / "sub/second.MES");
@@ -140,6 +144,7 @@ TEST_F(StagedFileTest, DoesNotReplaceAFolder) {
 }
 
 TEST_F(StagedFileTest, NamesItsTargetOnAFullDisk) {
+  SKIP_ON_WINDOWS("limit for the size of files");
   const test::FullDisk disk(5);
   EXPECT_THAT(FailureOf([this] { StagedFile(target_).Write("longer than five bytes"); }),
               HasSubstr(target_.string() + ": cannot be written"));

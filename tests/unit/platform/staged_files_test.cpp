@@ -6,6 +6,7 @@
 
 #include "core/platform/errors.h"
 #include "support/full_disk.h"
+#include "support/skip_on_windows.h"
 #include "support/temporary_folder.h"
 
 namespace vendlingua {
@@ -47,6 +48,7 @@ TEST_F(StagedFilesTest, GoAwayTogether) {
 }
 
 TEST_F(StagedFilesTest, KeepTheOldSetWhenOneOfThemFindsNoRoom) {
+  SKIP_ON_WINDOWS("limit for the size of files");
   folder_.Write("A", "old A");
   folder_.Write("B", "old B");
   {
@@ -71,6 +73,7 @@ TEST_F(StagedFilesTest, RemoveWhatShallNotBeThere) {
 
 // What is behind a link is what counts; the link is somebody's own.
 TEST_F(StagedFilesTest, RemoveNoLink) {
+  SKIP_ON_WINDOWS("links for everybody");
   folder_.Write("real", "old");
   fs::create_symlink("real", folder_ / "link");
   fs::create_symlink("nothing", folder_ / "dangling");
