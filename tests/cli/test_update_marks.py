@@ -5,7 +5,8 @@ from __future__ import annotations
 import json
 import unittest
 
-from support import CliTest, MesFile
+from message_files import MesFile
+from support import CliTest
 
 # "Due" moves from message 1 to message 2 of the new firmware.
 NEW_SOURCE = b" .SDATA\r\n ORG $6000\r\n DC.B 'Uno '\r\n DC.B 'Sei '\r\nMNLING DC.B 'Due '\r\n"

@@ -59,10 +59,11 @@ void IconsTest::NoneIsScaledOnALargerScreen() {
   QFETCH(qreal, ratio);
   const QPixmap shown = Icon(QLatin1String("plus")).pixmap(QSize(kMenuSize, kMenuSize), ratio);
   const int drawn = qRound(kMenuSize * ratio);
-  const QImage picture(QStringLiteral(":/icons/plus-%1.png").arg(drawn));
+  QImage picture(QStringLiteral(":/icons/plus-%1.png").arg(drawn));
   QVERIFY(!picture.isNull());
-  QCOMPARE(shown.toImage().convertToFormat(QImage::Format_ARGB32),
-           picture.convertToFormat(QImage::Format_ARGB32));
+  picture.setDevicePixelRatio(ratio);
+  QCOMPARE(shown.toImage().convertToFormat(QImage::Format_ARGB32_Premultiplied),
+           picture.convertToFormat(QImage::Format_ARGB32_Premultiplied));
 }
 
 void IconsTest::TheProgramIsShownLarge() {
