@@ -55,6 +55,8 @@ void GlassPanel::SetCaptions(const UiText& ui_text) {
   for (std::size_t i = 0; i < kBacklights.size(); ++i) {
     backlight_->setItemText(static_cast<int>(i), FromUtf8(ui_text[kBacklights.at(i)]));
   }
+  // What the box asks for at least was told before its entries had their texts.
+  backlight_->setMinimumWidth(backlight_->sizeHint().width());
   backlight_->setAccessibleName(FromUtf8(ui_text[UiTextId::kBacklight]));
   backlight_->setToolTip(backlight_->accessibleName());
   copy_->setText(FromUtf8(ui_text[UiTextId::kCopyPicture]));
