@@ -52,7 +52,11 @@ void PaintFields(QPainter& painter, QPoint place, const ShownCells& cells) {
   painter.drawRect(PlaceOf(place, 0, count).adjusted(0, 0, 0, -1));
 }
 
-void PaintCharacters(QPainter& painter, QPoint place, const ShownCells& cells) {
+void PaintCells(QPainter& painter, QPoint place, const ShownCells& cells) {
+  if (cells.codes.empty()) {
+    return;
+  }
+  PaintFields(painter, place, cells);
   painter.setPen(Qt::black);
   painter.drawText(PlaceOf(place, 0, cells.codes.size()),
                    Qt::AlignLeft | Qt::AlignVCenter | Qt::TextDontClip | Qt::TextSingleLine,

@@ -24,10 +24,10 @@ int CellPitch();
 int CellHeight();
 QSize SizeOfCells(std::size_t cells);
 
-/// Draws the fields of the cells and then their characters, from `place` on. The painter has a font
-/// that is spaced like cells.
+/// Draws cells from `place` on, their fields alone or with their characters; nothing where there
+/// are none. The painter has a font that is spaced like cells.
 void PaintFields(QPainter& painter, QPoint place, const ShownCells& cells);
-void PaintCharacters(QPainter& painter, QPoint place, const ShownCells& cells);
+void PaintCells(QPainter& painter, QPoint place, const ShownCells& cells);
 
 }  // namespace vendlingua
 

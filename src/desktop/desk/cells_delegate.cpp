@@ -12,14 +12,7 @@ namespace vendlingua {
 namespace {
 
 constexpr int kMargin = 6;
-constexpr int kGap = 2;  // between a text and the one below it
-
-void PaintCells(QPainter& painter, QPoint place, const ShownCells& cells) {
-  if (!cells.codes.empty()) {
-    PaintFields(painter, place, cells);
-    PaintCharacters(painter, place, cells);
-  }
-}
+constexpr int kLineGap = 2;  // between a text and the one below it
 
 }  // namespace
 
@@ -30,9 +23,9 @@ CellsDelegate::CellsDelegate(const Workspace& workspace, const MessageTable& mes
 // Origin and destination stand on one line, a second reference below the origin.
 QPoint CellsDelegate::PlaceOfCells(const QRect& item, int line) const {
   const int lines = messages_.HasSecondReference() ? 2 : 1;
-  const int height = lines * CellHeight() + (lines - 1) * kGap;
+  const int height = lines * CellHeight() + (lines - 1) * kLineGap;
   return {item.x() + kMargin,
-          item.y() + (item.height() - height) / 2 + line * (CellHeight() + kGap)};
+          item.y() + (item.height() - height) / 2 + line * (CellHeight() + kLineGap)};
 }
 
 void CellsDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
@@ -48,7 +41,7 @@ void CellsDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
 
 QSize CellsDelegate::sizeHint(const QStyleOptionViewItem& /*option*/,
                               const QModelIndex& /*index*/) const {
-  const int below = messages_.HasSecondReference() ? kGap + CellHeight() : 0;
+  const int below = messages_.HasSecondReference() ? kLineGap + CellHeight() : 0;
   return SizeOfCells(messages_.Width())
       .grownBy({kMargin, kMargin / 2, kMargin, kMargin / 2 + below});
 }

@@ -125,7 +125,7 @@ ShownCells MessageTable::Shown(std::size_t message, std::span<const DisplayCode>
 
 // As it is seen, the second reference included.
 QString MessageTable::SpokenTextOf(std::size_t message, int column) const {
-  const QString text = TextOf(message, column);
+  QString text = TextOf(message, column);
   if (column != kOrigin || !second_.IsThere()) {
     return text;
   }

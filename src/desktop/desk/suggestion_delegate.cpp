@@ -9,11 +9,6 @@ namespace {
 
 constexpr int kSpace = 4;  // pixels around the parts
 
-void PaintCells(QPainter& painter, QPoint place, const ShownCells& cells) {
-  PaintFields(painter, place, cells);
-  PaintCharacters(painter, place, cells);
-}
-
 }  // namespace
 
 SuggestionDelegate::SuggestionDelegate(const std::vector<ShownSuggestion>& suggestions,

@@ -32,8 +32,7 @@ class CellRow : public QWidget {
  protected:
   void paintEvent(QPaintEvent* /*event*/) override {
     QPainter painter(this);
-    PaintFields(painter, {0, 0}, cells_);
-    PaintCharacters(painter, {0, 0}, cells_);
+    PaintCells(painter, {0, 0}, cells_);
   }
 
  private:
