@@ -34,7 +34,7 @@ TemporaryFolder::~TemporaryFolder() {
 }
 
 fs::path TemporaryFolder::Write(std::string_view name, std::string_view content) const {
-  fs::path file = path_ / name;
+  fs::path file = *this / name;
   std::ofstream stream(file, std::ios::binary);
   stream.write(content.data(), static_cast<std::streamsize>(content.size()));
   ExpectGood(stream, file);

@@ -5,6 +5,8 @@
 #include <string>
 #include <string_view>
 
+#include "core/platform/path_of.h"
+
 namespace vendlingua::test {
 
 /// A folder of its own for one test, removed with everything in it at the end.
@@ -16,7 +18,7 @@ class TemporaryFolder {
   ~TemporaryFolder();
 
   const std::filesystem::path& path() const { return path_; }
-  std::filesystem::path operator/(std::string_view name) const { return path_ / name; }
+  std::filesystem::path operator/(std::string_view name) const { return path_ / PathOf(name); }
 
   /// Writes a file into the folder and returns its path. Throws std::runtime_error.
   std::filesystem::path Write(std::string_view name, std::string_view content) const;

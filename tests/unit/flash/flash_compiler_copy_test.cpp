@@ -2,6 +2,7 @@
 
 #include "core/flash/flash_compiler.h"
 #include "core/formats/file_check.h"
+#include "support/skip_on_windows.h"
 #include "unit/flash/flash_compiler_test.h"
 
 namespace vendlingua {
@@ -63,7 +64,14 @@ TEST_F(CompiledCopyTest, TellsTheSameNamesForAHexFile) {
 
 TEST_F(CompiledCopyTest, TellsANameOfAnyCharacters) {
   OpenHexFile();
-  for (const std::string name : {"ФВ04水7AB", "FW\xE8\x80", "<b>0417"}) {
+  EXPECT_TRUE(Compile({1, 2}, folder_ / "ФВ04水7AB.hex").completed);
+  EXPECT_THAT(dialogs_.messages.at(0).text, HasSubstr(" Name File : ФВ04水7AB.MHX .HSX not"));
+}
+
+TEST_F(CompiledCopyTest, TellsANameThatIsNoText) {
+  SKIP_ON_WINDOWS("names that are no text");
+  OpenHexFile();
+  for (const std::string name : {"FW\xE8\x80", "<b>0417"}) {
     dialogs_.messages.clear();
     EXPECT_TRUE(Compile({1, 2}, folder_ / (name + ".hex")).completed);
     ASSERT_THAT(dialogs_.messages, SizeIs(1));

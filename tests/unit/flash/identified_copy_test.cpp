@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "core/platform/path_of.h"
 #include "support/message_files.h"
 
 namespace vendlingua {
@@ -185,7 +186,7 @@ TEST(CopyNameFor, LooksAtTheWholePath) {
 }
 
 TEST(CopyNameFor, KeepsCharactersAboveAscii) {
-  EXPECT_EQ(CopyName("/flash/caffè.MHX"), "caffè + .MSX");
+  EXPECT_EQ(CopyName(PathOf("/flash/caffè.MHX")), "caffè + .MSX");
 }
 
 TEST(CopyNameFor, MayBeEmpty) { EXPECT_EQ(CopyName("/flash/.MHX"), " + .MSX"); }

@@ -10,6 +10,7 @@
 #include "core/formats/srecord.h"
 #include "support/message_files.h"
 #include "support/scripted_dialogs.h"
+#include "support/skip_on_windows.h"
 #include "support/temporary_folder.h"
 
 // The flash files are decoded by programs that know nothing of this one.
@@ -111,6 +112,7 @@ class CompiledFileTest : public testing::Test {
 };
 
 TEST_F(CompiledFileTest, HoldsTheMessagesForBothToolsInTheHexFamily) {
+  SKIP_ON_WINDOWS("srec_cat and objcopy");
   const auto flash_file =
       Compile({.flags = "01", .names = {"Default", "ITALIANO", "ENGLISH"}}, "FW0417AB.hex");
   EXPECT_EQ(DecodedBySrecCat(flash_file, 0x6000), "A  B11111222200021112222");
@@ -118,6 +120,7 @@ TEST_F(CompiledFileTest, HoldsTheMessagesForBothToolsInTheHexFamily) {
 }
 
 TEST_F(CompiledFileTest, HoldsTheMessagesForBothToolsInTheMhxFamily) {
+  SKIP_ON_WINDOWS("srec_cat and objcopy");
   const auto flash_file =
       Compile({.flags = "03", .mem_start = "00FF8000", .names = {"Default", "ITALIANO", "ENGLISH"}},
               "FW0417AB.MHX");

@@ -1,6 +1,7 @@
 #include <gmock/gmock.h>
 
 #include "core/flash/section_files.h"
+#include "core/platform/path_of.h"
 
 namespace vendlingua {
 namespace {
@@ -47,12 +48,12 @@ TEST(SectionPaths, AreTheEmptyFileAndThoseOfFiveSections) {
 
 TEST(SectionBase, IsThePathWithoutItsLastFourCharacters) {
   EXPECT_EQ(SectionBase("/flash/FW0417AB.MHX"), "/flash/FW0417AB");
-  EXPECT_EQ(SectionBase("/flash/caffè.mhx"), "/flash/caffè");
+  EXPECT_EQ(SectionBase(PathOf("/flash/caffè.mhx")), PathOf("/flash/caffè"));
   EXPECT_EQ(SectionBase("/flash/FW0417AB.MHX.bak"), "/flash/FW0417AB.MHX");
-  EXPECT_EQ(SectionBase("/flash/Ф.ФЛШ"), "/flash/Ф");
-  EXPECT_EQ(SectionBase("/flash/caffè水.\U0001F36Bx"), "/flash/caffè");
+  EXPECT_EQ(SectionBase(PathOf("/flash/Ф.ФЛШ")), PathOf("/flash/Ф"));
+  EXPECT_EQ(SectionBase(PathOf("/flash/caffè水.\U0001F36Bx")), PathOf("/flash/caffè"));
   EXPECT_EQ(SectionBase("ab"), "");
-  EXPECT_EQ(SectionBase("ФЛШ"), "");
+  EXPECT_EQ(SectionBase(PathOf("ФЛШ")), "");
 }
 
 #ifndef _WIN32

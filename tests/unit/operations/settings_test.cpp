@@ -1,6 +1,7 @@
 #include "core/operations/settings.h"
 
 #include <gtest/gtest.h>
+
 #include <filesystem>
 
 #include "core/platform/errors.h"

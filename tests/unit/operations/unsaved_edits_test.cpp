@@ -3,7 +3,9 @@
 #include <gmock/gmock.h>
 
 #include <filesystem>
+#include <optional>
 #include <string>
+#include <utility>
 
 #include "core/platform/errors.h"
 #include "core/platform/record_bytes.h"
@@ -27,38 +29,42 @@ class UnsavedEditsTest : public test::EngineTest {
   class Killed {
    public:
     explicit Killed(UnsavedEditsTest& test) : test_(test) {
-      engine_.workspace.folders.journals = test.Journals();
+      engine_->workspace.folders.journals = test.Journals();
     }
     void Edit(int destination = 1) {
       dialogs_.file_answers = {test_.path_};
-      engine_.opener.Open();
-      engine_.languages.ChooseOrigin(0);
+      engine_->opener.Open();
+      engine_->languages.ChooseOrigin(0);
       if (destination == 0) {
-        engine_.languages.StartNewLanguage(1);
+        engine_->languages.StartNewLanguage(1);
       } else {
-        engine_.languages.ChooseDestination(destination);
+        engine_->languages.ChooseDestination(destination);
       }
     }
     void Type(std::size_t message, std::string_view text) {
-      engine_.workspace.set.SetText(message, Codes(text));
+      engine_->workspace.set.SetText(message, Codes(text));
     }
-    MessageSet& set() { return engine_.workspace.set; }
-    Engine& engine() { return engine_; }
+    MessageSet& set() { return engine_->workspace.set; }
+    Engine& engine() { return *engine_; }
     // The bytes survive, the program does not.
     ~Killed() {
-      engine_.unsaved_edits.Keep();
+      engine_->unsaved_edits.Keep();
       const fs::path journals = test_.Journals();
+      const fs::path survived = test_.folder_ / "survived";
       if (fs::exists(journals)) {
-        fs::copy(journals, test_.folder_ / "survived");
+        fs::copy(journals, survived);
+      }
+      engine_.reset();
+      if (fs::exists(survived)) {
         fs::remove_all(journals);
-        fs::rename(test_.folder_ / "survived", journals);
+        fs::rename(survived, journals);
       }
     }
 
    private:
     UnsavedEditsTest& test_;
     test::ScriptedDialogs dialogs_;
-    Engine engine_{dialogs_};
+    std::optional<Engine> engine_{std::in_place, dialogs_};
   };
 
   UnsavedEditsTest() { engine_.workspace.folders.journals = Journals(); }

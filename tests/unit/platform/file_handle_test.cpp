@@ -1,6 +1,7 @@
 #include "core/platform/file_handle.h"
 
 #include <gtest/gtest.h>
+
 #include <filesystem>
 
 #include "support/named_pipe.h"

@@ -31,7 +31,7 @@ class OtherProgram {
   std::string Read() {
     std::string bytes(100, '\0');
     DWORD length = 0;
-    ReadFile(handle_, bytes.data(), static_cast<DWORD>(bytes.size()), &length, nullptr);
+    ::ReadFile(handle_, bytes.data(), static_cast<DWORD>(bytes.size()), &length, nullptr);
     bytes.resize(length);
     return bytes;
   }

@@ -1,6 +1,7 @@
 #include "core/platform/files.h"
 
 #include <gmock/gmock.h>
+
 #include <filesystem>
 #include <functional>
 #include <string>

@@ -1,6 +1,7 @@
 #include "core/platform/in_place_change.h"
 
 #include <gmock/gmock.h>
+
 #include <filesystem>
 #include <string>
 
