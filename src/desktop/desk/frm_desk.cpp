@@ -4,7 +4,6 @@
 #include <QHBoxLayout>
 #include <QHeaderView>
 #include <QScreen>
-#include <QScrollArea>
 #include <QShortcut>
 #include <QSignalBlocker>
 #include <QVBoxLayout>
@@ -52,6 +51,7 @@ FrmDesk::FrmDesk(Engine& engine, Dialogs& dialogs, RunCommand run)
       finder_(new Finder(workspace_, *find_bar_, table_->messages())),
       steps_(new MessageSteps(engine, dialogs, run_, *this)),
       side_(new DeskSide(engine, dialogs, findings_, marks_, run_, this)),
+      side_area_(new QScrollArea(parts_)),
       status_(new QLabel(this)),
       progress_(new QLabel(this)) {
   setObjectName(QStringLiteral("FrmDesk"));
@@ -89,11 +89,10 @@ void FrmDesk::LayOut() {
   layout->addWidget(parts_, 1);
   layout->addLayout(bottom);
   // On a low screen what stands beside the table scrolls.
-  auto* side = new QScrollArea(parts_);
-  side->setFrameShape(QFrame::NoFrame);
-  side->setFocusPolicy(Qt::NoFocus);
-  side->setWidgetResizable(true);
-  side->setWidget(side_);
+  side_area_->setFrameShape(QFrame::NoFrame);
+  side_area_->setFocusPolicy(Qt::NoFocus);
+  side_area_->setWidgetResizable(true);
+  side_area_->setWidget(side_);
   parts_->setChildrenCollapsible(false);
   parts_->setStretchFactor(0, 1);
   table_->setFocus();
@@ -175,6 +174,7 @@ void FrmDesk::SetCaptions() {
   find_bar_->SetCaptions(captions_);
   second_box_->SetCaptions(captions_);
   side_->SetCaptions(captions_);
+  side_area_->setMinimumWidth(side_->minimumSizeHint().width());
   for (std::size_t i = 0; i < kFilters.size(); ++i) {
     filter_->setItemText(static_cast<int>(i), FromUtf8(captions_[kFilters.at(i)]));
   }

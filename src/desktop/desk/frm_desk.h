@@ -3,6 +3,7 @@
 
 #include <QComboBox>
 #include <QLabel>
+#include <QScrollArea>
 #include <QSplitter>
 #include <QWidget>
 #include <functional>
@@ -72,6 +73,7 @@ class FrmDesk : public QWidget {
   Finder* finder_;
   MessageSteps* steps_;
   DeskSide* side_;
+  QScrollArea* side_area_;
   QLabel* status_;
   QLabel* progress_;
   UiText captions_;
