@@ -13,7 +13,8 @@ class StreamsOfBytes {
   StreamsOfBytes();
   StreamsOfBytes(const StreamsOfBytes&) = delete;
   StreamsOfBytes& operator=(const StreamsOfBytes&) = delete;
-  ~StreamsOfBytes();
+  // On Windows it has something to put back.
+  ~StreamsOfBytes();  // NOLINT(performance-trivially-destructible)
 
  private:
   unsigned console_code_page_ = 0;  ///< what the console was used to
