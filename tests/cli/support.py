@@ -56,12 +56,16 @@ def copy_program(folder: Path) -> Path:
     return Path(shutil.copy(PROGRAM, folder))
 
 
+def is_sanitized() -> bool:
+    """Whether the program looks for faults of its own, which makes it slow."""
+    return b"__asan_init" in PROGRAM.read_bytes()
+
+
 def limit_memory(file_size: int) -> None:
     """Lets a program that reads a file of this size have three times as much memory for its data, and
     16 MiB; called in the program before it starts. Not under a sanitizer, which reserves terabytes, and not
     when a script runs it, whose system would be limited."""
-    program = PROGRAM.read_bytes()
-    if b"__asan_init" not in program and not program.startswith(b"#!"):
+    if not is_sanitized() and not PROGRAM.read_bytes().startswith(b"#!"):
         limit = 3 * file_size + (16 << 20)
         resource.setrlimit(resource.RLIMIT_DATA, (limit, limit))
 
