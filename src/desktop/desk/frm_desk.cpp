@@ -15,6 +15,7 @@
 #include "desktop/announce.h"
 #include "desktop/desk/narrow_box.h"
 #include "desktop/desk/preview_dialog.h"
+#include "desktop/desk/upright_area.h"
 #include "desktop/icon.h"
 #include "desktop/qt_text.h"
 #include "desktop/user_settings.h"
@@ -22,7 +23,7 @@
 namespace vendlingua {
 namespace {
 
-constexpr QSize kFirstSize(1140, 680);
+constexpr QSize kFirstSize(1180, 680);
 constexpr int kSuggestionKeys = 9;
 
 // By MessageFilter.
@@ -51,7 +52,6 @@ FrmDesk::FrmDesk(Engine& engine, Dialogs& dialogs, RunCommand run)
       finder_(new Finder(workspace_, *find_bar_, table_->messages())),
       steps_(new MessageSteps(engine, dialogs, run_, *this)),
       side_(new DeskSide(engine, dialogs, findings_, marks_, run_, this)),
-      side_area_(new QScrollArea(parts_)),
       status_(new QLabel(this)),
       progress_(new QLabel(this)) {
   setObjectName(QStringLiteral("FrmDesk"));
@@ -89,10 +89,8 @@ void FrmDesk::LayOut() {
   layout->addWidget(parts_, 1);
   layout->addLayout(bottom);
   // On a low screen what stands beside the table scrolls.
-  side_area_->setFrameShape(QFrame::NoFrame);
-  side_area_->setFocusPolicy(Qt::NoFocus);
-  side_area_->setWidgetResizable(true);
-  side_area_->setWidget(side_);
+  auto* side = new UprightArea(parts_);
+  side->setWidget(side_);
   parts_->setChildrenCollapsible(false);
   parts_->setStretchFactor(0, 1);
   table_->setFocus();
@@ -174,7 +172,6 @@ void FrmDesk::SetCaptions() {
   find_bar_->SetCaptions(captions_);
   second_box_->SetCaptions(captions_);
   side_->SetCaptions(captions_);
-  side_area_->setMinimumWidth(side_->minimumSizeHint().width());
   for (std::size_t i = 0; i < kFilters.size(); ++i) {
     filter_->setItemText(static_cast<int>(i), FromUtf8(captions_[kFilters.at(i)]));
   }

@@ -3,7 +3,6 @@
 
 #include <QComboBox>
 #include <QLabel>
-#include <QScrollArea>
 #include <QSplitter>
 #include <QWidget>
 #include <functional>
@@ -73,7 +72,6 @@ class FrmDesk : public QWidget {
   Finder* finder_;
   MessageSteps* steps_;
   DeskSide* side_;
-  QScrollArea* side_area_;
   QLabel* status_;
   QLabel* progress_;
   UiText captions_;
