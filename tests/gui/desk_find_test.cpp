@@ -30,11 +30,7 @@ class DeskFindTest : public DeskTest {
   void OpenDesk() {
     MesFile mes;
     mes.names = {"Default", "ITALIANO", "ENGLISH"};
-    desk_->Open("TEST.MES", mes.Bytes());
-    desk_->program.Choose("mnuori(1)");
-    desk_->program.Choose("mnuDes(2)");
-    desk_->program.Choose("mnuDesk");
-    QVERIFY(QTest::qWaitForWindowActive(&desk_->program.desk()));
+    OpenAtDesk(mes.Bytes());
   }
 
   void LookIn(SearchedTexts texts) {

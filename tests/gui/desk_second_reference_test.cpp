@@ -21,11 +21,7 @@ class DeskSecondReferenceTest : public DeskTest {
   void OpenDesk() {
     MesFile mes;
     mes.names = {"Default", "ITALIANO", "ENGLISH", "SUOMI"};
-    desk_->Open("TEST.MES", Lettered(mes.Bytes()));
-    desk_->program.Choose("mnuori(1)");
-    desk_->program.Choose("mnuDes(2)");
-    desk_->program.Choose("mnuDesk");
-    QVERIFY(QTest::qWaitForWindowActive(&desk_->program.desk()));
+    OpenAtDesk(Lettered(mes.Bytes()));
   }
 
   void Choose(const QString& language) {

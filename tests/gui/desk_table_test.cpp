@@ -26,11 +26,7 @@ class DeskTableTest : public DeskTest {
       const std::string text = mes.Message(language, 2);
       content.replace(content.find(text), text.size(), text.substr(0, 1) + "\xFE" + text.substr(2));
     }
-    desk_->Open("TEST.MES", Lettered(content));
-    desk_->program.Choose("mnuori(1)");
-    desk_->program.Choose("mnuDes(2)");
-    desk_->program.Choose("mnuDesk");
-    QVERIFY(QTest::qWaitForWindowActive(&desk_->program.desk()));
+    OpenAtDesk(Lettered(content));
   }
 
   QString Shown(int row, int column) {

@@ -1,4 +1,5 @@
 #include <QMainWindow>
+#include <QScrollArea>
 #include <QStyle>
 
 #include "desktop/desk/preview_dialog.h"
@@ -49,6 +50,18 @@ class SmallScreenTest : public DeskTest {
     desk_->Edit(MesFile());
     desk_->program.Choose("mnuDesk");
     CheckThatItFits(desk_->program.desk());
+  }
+
+  // It scrolls up and down alone.
+  void WhatStandsBesideTheTableIsAsWideAsItNeeds_data() { AddLanguageRows(); }
+  void WhatStandsBesideTheTableIsAsWideAsItNeeds() {
+    Speak();
+    desk_->Edit(MesFile());
+    desk_->program.Choose("mnuDesk");
+    QVERIFY(QTest::qWaitForWindowActive(&desk_->program.desk()));
+    const auto& area = *desk_->program.desk().findChild<QScrollArea*>(QStringLiteral("DeskSide"));
+    QTRY_VERIFY(area.viewport()->width() >= area.widget()->minimumSizeHint().width());
+    QCOMPARE(area.widget()->width(), area.viewport()->width());
   }
 
   void TheDeskIsNotLargerThanTheScreen() {

@@ -1,6 +1,7 @@
 #!/bin/sh
 # Takes pictures of the windows in every interface language, light and dark, at 100 % and at 200 %, to be looked
 # at: for each picture a sheet with all languages. BUILD is a build folder with the tour; OUT takes the sheets.
+# Needs imagemagick.
 # Usage: take_every_picture.sh BUILD OUT
 set -eu
 build=$(cd "$1" && pwd)

@@ -90,6 +90,7 @@ void FrmDesk::LayOut() {
   layout->addLayout(bottom);
   // On a low screen what stands beside the table scrolls.
   auto* side = new UprightArea(parts_);
+  side->setObjectName(QStringLiteral("DeskSide"));
   side->setWidget(side_);
   parts_->setChildrenCollapsible(false);
   parts_->setStretchFactor(0, 1);

@@ -10,6 +10,14 @@ void DeskTest::Activate() {
   QVERIFY(QTest::qWaitForWindowActive(&desk_->program.window()));
 }
 
+void DeskTest::OpenAtDesk(std::string_view mes_content) {
+  desk_->Open("TEST.MES", mes_content);
+  desk_->program.Choose("mnuori(1)");
+  desk_->program.Choose("mnuDes(2)");
+  desk_->program.Choose("mnuDesk");
+  QVERIFY(QTest::qWaitForWindowActive(&desk_->program.desk()));
+}
+
 QString DeskTest::UiText(std::size_t number) const {
   return QString::fromStdString(desk_->program.workspace().ui_text.Entry(number));
 }

@@ -6,6 +6,7 @@
 #include <QString>
 #include <cstddef>
 #include <memory>
+#include <string_view>
 
 #include "core/texts/ui_sentence.h"
 #include "gui/support/desk.h"
@@ -30,6 +31,9 @@ class DeskTest : public QObject {
 
   /// Makes the main window the active one, in which shortcuts hold.
   void Activate();
+
+  /// Opens a ".MES" file at the translator's desk, from its first language into its second.
+  void OpenAtDesk(std::string_view mes_content);
 
   /// Entry `number` of the interface texts in use.
   QString UiText(std::size_t number) const;
