@@ -5,9 +5,9 @@ build_packages="g++ cmake ninja-build libfmt-dev libutfcpp-dev libboost-dev libs
 # php-symfony-translation has the schema of XLIFF.
 test_packages="libgtest-dev libgmock-dev librapidcheck-dev qt6-base-private-dev srecord binutils python3 python3-fonttools \
   translate-toolkit libxml2-utils php-symfony-translation clang-format clang-tidy xvfb xauth mandoc zsh fish dpkg-dev \
-  desktop-file-utils appstream shared-mime-info libglib2.0-bin dbus at-spi2-core python3-pyatspi"
-windows_packages="g++-mingw-w64-x86-64-posix googletest qt6-base-dev-tools dpkg-dev debian-archive-keyring icoutils"
-windows_test_packages="wine wine64 xvfb x11-apps imagemagick python3"
+  desktop-file-utils appstream shared-mime-info libglib2.0-bin dbus at-spi2-core python3-pyatspi nsis"
+windows_packages="g++-mingw-w64-x86-64-posix googletest qt6-base-dev-tools dpkg-dev debian-archive-keyring icoutils nsis osslsigncode"
+windows_test_packages="wine wine64 fonts-liberation xvfb x11-utils xdotool imagemagick xxd python3"
 package_packages="git dpkg-dev patchelf xz-utils"
 package_test_packages="lintian debootstrap debian-archive-keyring dpkg-dev xvfb x11-utils"
 bench_packages="libbenchmark-dev srecord binutils gettext translate-toolkit time linguist-qt6 poedit python3 python3-xlib xvfb xauth"

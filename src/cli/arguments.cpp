@@ -1,7 +1,6 @@
 #include "cli/arguments.h"
 
 #ifdef _WIN32
-#include <shellapi.h>
 #include <windows.h>
 
 #include <algorithm>

@@ -1,9 +1,11 @@
 #!/usr/bin/env python3
-"""Makes the portable archive: the program's folder, to be unpacked anywhere.
+"""Makes the packages for Windows: the program's folder as an archive, to be unpacked anywhere, and an installer.
 
-    packaging/windows/portable.py BUILD OUT
+    packaging/windows/packages.py BUILD OUT
 
-BUILD is a build folder, OUT takes vendlingua-VERSION-windows-x86_64.zip. Needs SOURCE_DATE_EPOCH.
+BUILD is a build folder, OUT takes vendlingua-VERSION-windows-x86_64.zip and vendlingua-VERSION-windows-x86_64-setup.exe.
+Needs SOURCE_DATE_EPOCH. Where VENDLINGUA_CERTIFICATE names a certificate with its key (PKCS #12), whose password is in
+VENDLINGUA_CERTIFICATE_PASSWORD, the programs and the installer are signed.
 """
 
 from __future__ import annotations
@@ -18,7 +20,9 @@ import zipfile
 from pathlib import Path
 
 from contents import COMPILED_IN, Packing, describe, package_of
+from installer import make_installer
 from qt_texts import add_qt_texts
+from signing import sign
 
 # Part of the programs besides what they are on Linux.
 ALSO_COMPILED_IN = (
@@ -61,6 +65,8 @@ def make_tree(build: Path, tree: Path, version: str) -> None:
     texts = {package_of(file) for file in add_qt_texts(tree)}
     compiled_in = ({*COMPILED_IN} - OF_LINUX_ALONE).union(ALSO_COMPILED_IN)
     describe(tree, Packing(version, texts, compiled_in, NOTICE, "packaging/windows/build"))
+    for program in sorted(tree.glob("*.exe")):
+        sign(program)
 
 
 def pack(tree: Path, archive: Path) -> None:
@@ -84,6 +90,7 @@ def main() -> None:
         tree = Path(folder) / name
         make_tree(build, tree, version)
         pack(tree, out / f"{name}.zip")
+        make_installer(tree, build / "icons/vendlingua.ico", version, out / f"{name}-setup.exe")
 
 
 if __name__ == "__main__":
