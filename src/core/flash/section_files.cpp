@@ -17,9 +17,10 @@ namespace fs = std::filesystem;
 // The record count also counts three address bytes and the checksum.
 constexpr std::int16_t kBytesBesideData = 4;
 
-// The bytes behind the first one of a character in UTF-8.
+// What stands behind the first unit of a character, in UTF-8 and, on Windows, in UTF-16.
 bool ContinuesCharacter(fs::path::value_type unit) {
-  return sizeof unit == 1 && (static_cast<unsigned char>(unit) & 0xC0U) == 0x80;
+  return sizeof unit == 1 ? (static_cast<unsigned>(unit) & 0xC0U) == 0x80
+                          : (static_cast<unsigned>(unit) & 0xFC00U) == 0xDC00;
 }
 
 }  // namespace

@@ -42,6 +42,22 @@ std::error_code Seek(HANDLE handle, std::uint64_t position) {
   return ResultOf(SetFilePointerEx(handle, distance, nullptr, FILE_BEGIN));
 }
 
+// File systems of Windows know no longer names; asked for one, it says anything.
+bool IsNameTooLong(const fs::path& path) {
+  constexpr std::size_t kLongestName = 255;
+  return path.filename().native().size() > kLongestName;
+}
+
+bool IsInUse(const fs::path& path) {
+  const HANDLE handle =
+      CreateFileW(path.c_str(), DELETE, kShareAll, nullptr, OPEN_EXISTING, 0, nullptr);
+  if (handle == INVALID_HANDLE_VALUE) {
+    return GetLastError() == ERROR_SHARING_VIOLATION;
+  }
+  CloseHandle(handle);
+  return false;
+}
+
 }  // namespace
 
 FileHandle::~FileHandle() {
@@ -51,6 +67,9 @@ FileHandle::~FileHandle() {
 }
 
 std::error_code FileHandle::CreateNew(const fs::path& path) {
+  if (IsNameTooLong(path)) {
+    return std::make_error_code(std::errc::filename_too_long);
+  }
   handle_ = CreateFileW(path.c_str(), GENERIC_READ | GENERIC_WRITE, kShareAll, nullptr, CREATE_NEW,
                         FILE_ATTRIBUTE_NORMAL, nullptr);
   return ResultOf(IsOpen());
@@ -142,8 +161,14 @@ std::error_code FileHandle::Close() { return ResultOf(CloseHandle(std::exchange(
 // Replacing keeps who may read the file, its attributes and the date of its creation.
 std::error_code Rename(const fs::path& from, const fs::path& to) {
   constexpr DWORD kReplacing = MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH;
-  if (MoveFileExW(from.c_str(), to.c_str(), MOVEFILE_WRITE_THROUGH) != 0 ||
-      ReplaceFileW(to.c_str(), from.c_str(), nullptr, REPLACEFILE_IGNORE_MERGE_ERRORS, nullptr,
+  if (MoveFileExW(from.c_str(), to.c_str(), MOVEFILE_WRITE_THROUGH) != 0) {
+    return {};
+  }
+  // A replacement that fails can leave files behind.
+  if (IsInUse(to)) {
+    return std::make_error_code(std::errc::device_or_resource_busy);
+  }
+  if (ReplaceFileW(to.c_str(), from.c_str(), nullptr, REPLACEFILE_IGNORE_MERGE_ERRORS, nullptr,
                    nullptr) != 0) {
     return {};
   }

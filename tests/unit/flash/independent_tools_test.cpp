@@ -65,6 +65,8 @@ class IndependentToolsTest : public testing::TestWithParam<Memory> {
         "FLASH", FormatSRecords(image_, GetParam().start, SRecordTypeFor(GetParam().start)));
   }
 
+  void SetUp() override { SKIP_ON_WINDOWS("srec_cat and objcopy"); }
+
   std::string Image() const { return test::Text(image_); }
 
   std::vector<std::uint8_t> image_;

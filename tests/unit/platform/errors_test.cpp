@@ -4,6 +4,8 @@
 
 #include <filesystem>
 
+#include "support/skip_on_windows.h"
+
 namespace vendlingua {
 namespace {
 
@@ -32,6 +34,7 @@ TEST(FileError, IsSaidInTheInterfaceLanguage) {
 }
 
 TEST(FileError, IsUtf8WhateverThePath) {
+  SKIP_ON_WINDOWS("names that are no text");
   EXPECT_THAT(TooLarge("\xE8/A.MES").what(), testing::StartsWith("\uFFFD/A.MES: is too large"));
 }
 
@@ -57,6 +60,7 @@ TEST(PathText, IsUtf8) {
 }
 
 TEST(PathText, ReplacesWhatIsNoUtf8) {
+  SKIP_ON_WINDOWS("names that are no text");
   EXPECT_EQ(PathText("caff\xE8.MES"), "caff\uFFFD.MES");
   EXPECT_EQ(PathText("x\xFF\xFE y"), "x\uFFFD\uFFFD y");
   EXPECT_EQ(PathText("cut \xF0\x9F\x98"), "cut \uFFFD");

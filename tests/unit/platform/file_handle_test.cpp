@@ -102,6 +102,10 @@ TEST_F(FileHandleTest, KnowsAFileFromOthers) {
   EXPECT_TRUE(file_.IsFileAt(folder_ / "a.bin"));
   EXPECT_FALSE(file_.IsFileAt(folder_.Write("b.bin", "")));
   EXPECT_FALSE(file_.IsFileAt(folder_ / "none.bin"));
+}
+
+TEST_F(FileHandleTest, KnowsAFolder) {
+  SKIP_ON_WINDOWS("folders that open as files");
   FileHandle folder;
   ASSERT_EQ(folder.Open(folder_.path(), Access::kRead), std::error_code());
   EXPECT_FALSE(folder.IsRegularFile());

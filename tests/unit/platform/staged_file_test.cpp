@@ -66,7 +66,7 @@ TEST_F(StagedFileTest, GoesAwayWhenItIsNotCommitted) {
 // Nobody can put a file or a link there between the choice of the name and the first byte.
 TEST_F(StagedFileTest, LiesBesideItsTargetFromTheStart) {
   const StagedFile staged(target_);
-  EXPECT_THAT(folder_.Names(), MatchesRegex("\\.vendlingua-[0-9]+\\.tmp"));
+  EXPECT_THAT(folder_.Names(), MatchesRegex("\\.vendlingua-\\w+\\.tmp"));
 }
 
 TEST_F(StagedFileTest, HasATemporaryNameOfItsOwn) {
@@ -74,7 +74,7 @@ TEST_F(StagedFileTest, HasATemporaryNameOfItsOwn) {
   const std::string name = folder_.Names();
   const StagedFile other(target_);
   EXPECT_THAT(folder_.Names(),
-              MatchesRegex("\\.vendlingua-[0-9]+\\.tmp \\.vendlingua-[0-9]+\\.tmp"));
+              MatchesRegex("\\.vendlingua-\\w+\\.tmp \\.vendlingua-\\w+\\.tmp"));
   EXPECT_THAT(folder_.Names(), HasSubstr(name));
 }
 

@@ -29,7 +29,7 @@ class StaleFilesTest : public ::testing::Test {
 
 TEST(TemporaryName, IsHiddenAndNeverTheSame) {
   const std::string name = TemporaryName().string();
-  EXPECT_THAT(name, testing::MatchesRegex("\\.vendlingua-[0-9]+\\.tmp"));
+  EXPECT_THAT(name, testing::MatchesRegex("\\.vendlingua-\\w+\\.tmp"));
   EXPECT_NE(name, TemporaryName());
 }
 
