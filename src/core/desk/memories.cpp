@@ -1,6 +1,7 @@
 #include "core/desk/memories.h"
 
 #include <algorithm>
+#include <span>
 #include <utility>
 
 #include "core/formats/message_file.h"
@@ -13,13 +14,6 @@ namespace {
 
 bool IsFilled(const CarriedMessage& message) {
   return message.result == CarryResult::kFilled || message.result == CarryResult::kAdapted;
-}
-
-// What the current message says is no suggestion for itself.
-MemoryTexts TextsOfOthers(const MessageSet& set) {
-  MemoryTexts texts = OwnTexts(set);
-  texts.translations.at(set.current_message) = DisplayText();
-  return texts;
 }
 
 }  // namespace
@@ -53,8 +47,8 @@ void Memories::Follow(const MessageSet& set) {
     Clear();
     Read(set);
     languages_ = std::move(languages);
-  } else if (seen_message_ != set.current_message || OtherTextsChanged(set)) {
-    LearnAgain(set);
+  } else {
+    LearnFrom(set);
   }
 }
 
@@ -62,7 +56,8 @@ void Memories::Read(const MessageSet& set) {
   for (const std::filesystem::path& file : files_) {
     ReadFrom({MemorySource::Kind::kFile, file}, set);
   }
-  Add({MemorySource::Kind::kThisFile, set.CurrentFileName}, TextsOfOthers(set));
+  Add({MemorySource::Kind::kThisFile, set.CurrentFileName}, OwnTexts(set));
+  lookup_.back().Learn(set.current_message, DisplayText());
   NoteSeen(set);
   ReadFrom({MemorySource::Kind::kSamples, samples_}, set);
 }
@@ -85,30 +80,30 @@ void Memories::Add(const MemorySource& source, MemoryTexts texts) {
   texts_.push_back(std::move(texts));
 }
 
-bool Memories::OtherTextsChanged(const MessageSet& set) const {
-  if (seen_.size() != set.MessageCount()) {
-    return true;
-  }
-  for (std::size_t message = 0; message < seen_.size(); ++message) {
-    if (message != set.current_message && seen_[message] != set.DestText[message]) {
-      return true;
-    }
-  }
-  return false;
-}
-
 void Memories::NoteSeen(const MessageSet& set) {
-  seen_.assign(set.DestText.begin(),
-               set.DestText.begin() + static_cast<std::ptrdiff_t>(set.MessageCount()));
+  const auto messages = static_cast<std::ptrdiff_t>(set.MessageCount());
+  seen_origins_.assign(set.OriginText.begin(), set.OriginText.begin() + messages);
+  seen_texts_.assign(set.DestText.begin(), set.DestText.begin() + messages);
   seen_message_ = set.current_message;
 }
 
-void Memories::LearnAgain(const MessageSet& set) {
-  NoteSeen(set);
+// What the current message says is no suggestion for itself.
+void Memories::LearnFrom(const MessageSet& set) {
   const auto own = std::ranges::find(sources_, MemorySource::Kind::kThisFile, &MemorySource::kind);
-  const auto place = static_cast<std::size_t>(own - sources_.begin());
-  texts_[place] = TextsOfOthers(set);
-  lookup_[place] = TranslationMemory(texts_[place].origins, texts_[place].translations);
+  TranslationMemory& lookup = lookup_[static_cast<std::size_t>(own - sources_.begin())];
+  if (!std::ranges::equal(seen_origins_, std::span(set.OriginText).first(set.MessageCount()))) {
+    const MemoryTexts texts = OwnTexts(set);
+    lookup = TranslationMemory(texts.origins, texts.translations);
+    NoteSeen(set);
+  }
+  for (std::size_t message = 0; message < set.MessageCount(); ++message) {
+    if (message == seen_message_ || seen_texts_[message] != set.DestText[message]) {
+      lookup.Learn(message, OwnTranslation(set, message));
+      seen_texts_[message] = set.DestText[message];
+    }
+  }
+  lookup.Learn(set.current_message, DisplayText());
+  seen_message_ = set.current_message;
 }
 
 std::vector<Suggestion> Memories::SuggestionsFor(const MessageSet& set, std::size_t most) const {

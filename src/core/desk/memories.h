@@ -71,8 +71,7 @@ class Memories {
   void ReadFrom(const MemorySource& source, const MessageSet& set);
   void Add(const MemorySource& source, MemoryTexts texts);
   void NoteSeen(const MessageSet& set);
-  void LearnAgain(const MessageSet& set);
-  bool OtherTextsChanged(const MessageSet& set) const;
+  void LearnFrom(const MessageSet& set);
 
   std::vector<std::filesystem::path> files_;
   std::filesystem::path samples_;
@@ -81,7 +80,9 @@ class Memories {
   std::vector<MemoryTexts> texts_;         // by source
   std::vector<TranslationMemory> lookup_;  // by source
   std::vector<std::filesystem::path> unreadable_;
-  MessageTexts seen_;  // the open file's texts that were learned from
+  // What of the open file was learned from.
+  MessageTexts seen_origins_;
+  MessageTexts seen_texts_;
   std::size_t seen_message_ = 0;
 };
 

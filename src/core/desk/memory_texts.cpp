@@ -80,13 +80,16 @@ DisplayText WithBoardCells(const MessageSet& set, std::size_t message, const Dis
   return DisplayText(codes);
 }
 
+DisplayText OwnTranslation(const MessageSet& set, std::size_t message) {
+  return IsToDo(set, message) ? DisplayText()
+                              : WithBoardCells(set, message, set.DestText.at(message));
+}
+
 MemoryTexts OwnTexts(const MessageSet& set) {
   MemoryTexts texts;
   for (std::size_t message = 0; message < set.MessageCount(); ++message) {
     texts.origins.push_back(WithBoardCells(set, message, set.OriginText.at(message)));
-    texts.translations.push_back(IsToDo(set, message)
-                                     ? DisplayText()
-                                     : WithBoardCells(set, message, set.DestText.at(message)));
+    texts.translations.push_back(OwnTranslation(set, message));
   }
   return texts;
 }

@@ -1,6 +1,7 @@
 #ifndef VENDLINGUA_CORE_DESK_MEMORY_TEXTS_H_
 #define VENDLINGUA_CORE_DESK_MEMORY_TEXTS_H_
 
+#include <cstddef>
 #include <optional>
 #include <string>
 
@@ -23,7 +24,10 @@ DisplayText WithBoardCells(const MessageSet& set, std::size_t message, const Dis
 /// that it was given when it was begun, else what its name message says.
 std::string DestinationName(const MessageSet& set);
 
-/// What was translated of the language that is being edited.
+/// What message `message` of the language that is being edited was translated into.
+DisplayText OwnTranslation(const MessageSet& set, std::size_t message);
+
+/// What was translated of that language.
 MemoryTexts OwnTexts(const MessageSet& set);
 
 /// What the file `memory` says in the origin and in the destination of `set`. Its languages are

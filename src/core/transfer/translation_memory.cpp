@@ -9,9 +9,11 @@
 namespace vendlingua {
 namespace {
 
-std::string PairKey(const DisplayText& origin, const DisplayText& translation) {
-  std::string key(origin.Cells().begin(), origin.Cells().end());
-  key.append(translation.Cells().begin(), translation.Cells().end());
+std::string PairKey(const Translated& translated) {
+  const auto origin = translated.origin.Cells();
+  const auto translation = translated.translation.Cells();
+  std::string key(origin.begin(), origin.end());
+  key.append(translation.begin(), translation.end());
   return key;
 }
 
@@ -19,58 +21,78 @@ std::string PairKey(const DisplayText& origin, const DisplayText& translation) {
 
 TranslationMemory::TranslationMemory(std::span<const DisplayText> origins,
                                      std::span<const DisplayText> translations) {
-  std::unordered_set<std::string> known;
   const std::size_t messages = std::min(origins.size(), translations.size());
   for (std::size_t i = 0; i < messages; ++i) {
     const DisplayText& origin = origins[i];
-    const DisplayText& translation = translations[i];
-    if (HasWords(origin.Cells()) && HasWords(translation.Cells()) &&
-        known.insert(PairKey(origin, translation)).second) {
+    if (HasWords(origin.Cells())) {
       by_words_[WordsKey(origin.Cells())].push_back(entries_.size());
-      entries_.push_back(
-          {{i, origin, translation}, WithoutLayout(origin.Cells()), WordsKey(translation.Cells())});
+      entries_.push_back({{i, origin, {}}, WithoutLayout(origin.Cells())});
+      Teach(entries_.back(), translations[i]);
     }
   }
 }
 
+void TranslationMemory::Learn(std::size_t message, const DisplayText& translation) {
+  const auto number = [](const Entry& entry) { return entry.translated.message; };
+  const auto entry = std::ranges::lower_bound(entries_, message, {}, number);
+  if (entry != entries_.end() && number(*entry) == message) {
+    Teach(*entry, translation);
+  }
+}
+
+void TranslationMemory::Teach(Entry& entry, const DisplayText& translation) {
+  entry.translated.translation = translation;
+  entry.translation_key = HasWords(translation.Cells()) ? WordsKey(translation.Cells()) : "";
+}
+
+std::vector<const TranslationMemory::Entry*> TranslationMemory::WithWordsOf(
+    const DisplayText& origin) const {
+  std::vector<const Entry*> entries;
+  const auto same_words = by_words_.find(WordsKey(origin.Cells()));
+  if (same_words != by_words_.end()) {
+    for (const std::size_t place : same_words->second) {
+      if (entries_[place].Teaches()) {
+        entries.push_back(&entries_[place]);
+      }
+    }
+  }
+  return entries;
+}
+
 const Translated* TranslationMemory::SameText(const DisplayText& origin) const {
   const Translated* found = nullptr;
-  const auto same_words = by_words_.find(WordsKey(origin.Cells()));
-  if (same_words == by_words_.end()) {
-    return nullptr;
-  }
-  for (const std::size_t place : same_words->second) {
-    const Translated& translated = entries_[place].translated;
-    if (translated.origin == origin) {
-      if (found != nullptr) {
-        return nullptr;
-      }
-      found = &translated;
+  for (const Entry* entry : WithWordsOf(origin)) {
+    const Translated& translated = entry->translated;
+    if (translated.origin != origin) {
+      continue;
     }
+    if (found != nullptr && found->translation != translated.translation) {
+      return nullptr;
+    }
+    found = found == nullptr ? &translated : found;
   }
   return found;
 }
 
 const Translated* TranslationMemory::SameWords(const DisplayText& origin) const {
-  const auto same_words = by_words_.find(WordsKey(origin.Cells()));
-  if (same_words == by_words_.end()) {
-    return nullptr;
-  }
-  const std::vector<std::size_t>& places = same_words->second;
-  const Entry& first = entries_[places.front()];
-  const bool agree = std::all_of(places.begin(), places.end(), [&](std::size_t place) {
-    return entries_[place].translation_key == first.translation_key;
+  const std::vector<const Entry*> entries = WithWordsOf(origin);
+  const bool agree = std::ranges::all_of(entries, [&](const Entry* entry) {
+    return entry->translation_key == entries.front()->translation_key;
   });
-  return agree ? &first.translated : nullptr;
+  return agree && !entries.empty() ? &entries.front()->translated : nullptr;
 }
 
 std::vector<TranslationMemory::Similar> TranslationMemory::SimilarTo(const DisplayText& origin,
                                                                      double least) const {
   const SimilarityTo similarity(WithoutLayout(origin.Cells()));
   std::vector<Similar> similar;
+  std::unordered_set<std::string> known;
   for (const Entry& entry : entries_) {
+    if (!entry.Teaches()) {
+      continue;
+    }
     const double ratio = similarity.Ratio(entry.origin_text);
-    if (ratio >= least) {
+    if (ratio >= least && known.insert(PairKey(entry.translated)).second) {
       similar.push_back({&entry.translated, ratio});
     }
   }

@@ -30,6 +30,9 @@ class TranslationMemory {
   TranslationMemory(std::span<const DisplayText> origins,
                     std::span<const DisplayText> translations);
 
+  /// Message `message` is translated otherwise now; a blank translation forgets what it taught.
+  void Learn(std::size_t message, const DisplayText& translation);
+
   /// The translation of this very text; nothing when there is none, or when it was translated in
   /// different ways.
   const Translated* SameText(const DisplayText& origin) const;
@@ -43,17 +46,22 @@ class TranslationMemory {
     double ratio;  ///< of the texts without regard to their layout, as SimilarityTo has it
   };
   /// Everything with a ratio of `least` or more, the most similar first, in the order of the file
-  /// among equals.
+  /// among equals. What several messages say comes once.
   std::vector<Similar> SimilarTo(const DisplayText& origin, double least = kLeastSimilarity) const;
 
  private:
   struct Entry {
     Translated translated;
-    std::string origin_text;      // without its layout
-    std::string translation_key;  // its words
+    std::string origin_text;        // without its layout
+    std::string translation_key{};  // its words; empty for a translation that teaches nothing
+
+    bool Teaches() const { return !translation_key.empty(); }
   };
 
-  std::vector<Entry> entries_;
+  static void Teach(Entry& entry, const DisplayText& translation);
+  std::vector<const Entry*> WithWordsOf(const DisplayText& origin) const;
+
+  std::vector<Entry> entries_;  // of all origins with words, by message
   std::unordered_map<std::string, std::vector<std::size_t>> by_words_;  // places in entries_
 };
 

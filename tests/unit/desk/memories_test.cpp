@@ -118,6 +118,23 @@ TEST_F(MemoriesTest, LearnFromOtherMessagesAtOnce) {
   EXPECT_THAT(Suggested(0), ElementsAre("Waters  "));
 }
 
+TEST_F(MemoriesTest, SuggestWhatAnotherMessageSaysLikeThisOne) {
+  Ask({});
+  set_.SetText(2, Codes("Water"));
+  EXPECT_THAT(Suggested(1), IsEmpty());
+  set_.ShowMessage(0);
+  memories_.Follow(set_);
+  set_.SetText(0, Codes("Wat"));
+  EXPECT_THAT(Suggested(0), ElementsAre("Water   "));
+}
+
+TEST_F(MemoriesTest, ForgetWhatIsEmptied) {
+  Ask({});
+  EXPECT_THAT(Suggested(2), ElementsAre("Water   "));
+  set_.SetText(0, Codes(""));
+  EXPECT_THAT(Suggested(2), IsEmpty());
+}
+
 TEST_F(MemoriesTest, AskFilesForTheSameLanguages) {
   Ask({Memory("ENGLISH", kItalian, {"Aqua", "Milk", "Aqua", "No. \xFE\xFE"})});
   ASSERT_THAT(memories_.sources(), SizeIs(2));

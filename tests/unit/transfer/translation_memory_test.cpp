@@ -119,6 +119,36 @@ TEST(TranslationMemory, ListsEachTranslationOnce) {
   EXPECT_THAT(NumbersOf(memory.SimilarTo(TextFrom("Fermo"))), ElementsAre(0, 2));
 }
 
+TEST(TranslationMemory, LearnsAnotherTranslation) {
+  auto memory = MemoryOf({{"   ", ""}, {"Attendi", "Wait"}, {"Fermo", "Stopped"}});
+  memory.Learn(2, TextFrom("Halted"));
+  EXPECT_EQ(memory.SameText(TextFrom("Fermo"))->translation, TextFrom("Halted"));
+  EXPECT_EQ(memory.SameWords(TextFrom(" Fermo"))->translation, TextFrom("Halted"));
+  EXPECT_EQ(memory.SameText(TextFrom("Attendi"))->translation, TextFrom("Wait"));
+}
+
+TEST(TranslationMemory, ForgetsAMessageWhoseTranslationIsBlank) {
+  auto memory = MemoryOf({{"Fermo", "Stopped"}, {"Fermo", "Stopped"}});
+  memory.Learn(0, DisplayText());
+  EXPECT_EQ(NumberOf(memory.SameText(TextFrom("Fermo"))), 1);
+  EXPECT_EQ(NumberOf(memory.SameWords(TextFrom(" Fermo"))), 1);
+  EXPECT_THAT(NumbersOf(memory.SimilarTo(TextFrom("Fermo"))), ElementsAre(1));
+  memory.Learn(1, TextFrom("\xFE"));
+  EXPECT_EQ(memory.SameText(TextFrom("Fermo")), nullptr);
+  EXPECT_EQ(memory.SameWords(TextFrom("Fermo")), nullptr);
+  EXPECT_THAT(memory.SimilarTo(TextFrom("Fermo")), IsEmpty());
+  memory.Learn(0, TextFrom("Halted"));
+  EXPECT_EQ(NumberOf(memory.SameText(TextFrom("Fermo"))), 0);
+}
+
+TEST(TranslationMemory, LearnsNothingForAMessageWithoutWordsOrBehindTheLast) {
+  auto memory = MemoryOf({{"   ", ""}, {"Fermo", "Stopped"}});
+  memory.Learn(0, TextFrom("Blank"));
+  memory.Learn(2, TextFrom("Behind"));
+  EXPECT_EQ(NumberOf(memory.SameText(TextFrom("Fermo"))), 1);
+  EXPECT_THAT(NumbersOf(memory.SimilarTo(TextFrom("Fermo"), 0)), ElementsAre(1));
+}
+
 TEST(TranslationMemory, MayBeEmpty) {
   const TranslationMemory memory({}, {});
   EXPECT_EQ(memory.SameText(TextFrom("Fermo")), nullptr);
