@@ -1,3 +1,4 @@
+#include <QApplication>
 #include <QClipboard>
 #include <QComboBox>
 #include <QGuiApplication>
@@ -112,6 +113,48 @@ class DeskSideTest : public DeskTest {
         UiText(UiTextId::kFinding) + QStringLiteral(": ") + UiText(UiTextId::kPlaceholderStray));
     QCOMPARE(Part<QTabWidget>("DeskPages").tabText(1),
              UiText(UiTextId::kFindings) + QStringLiteral(" (1)"));
+  }
+
+  void FindingsComeAndGoInTheOrderOfTheirMessages() {
+    OpenDesk();
+    const auto numbers = [this] {
+      QString listed;
+      for (int row = 0; row < Findings().topLevelItemCount(); ++row) {
+        listed += Findings().topLevelItem(row)->text(0);
+      }
+      return listed;
+    };
+    for (const int message : {0, 2, 1}) {
+      desk_->HScroll1().setValue(message);
+      TypeAStrayPlaceholder();
+    }
+    QCOMPARE(numbers(), QStringLiteral("012"));
+    desk_->Type("M");
+    QCOMPARE(numbers(), QStringLiteral("02"));
+    desk_->HScroll1().setValue(0);
+    desk_->Type("M");
+    QCOMPARE(numbers(), QStringLiteral("2"));
+    desk_->program.Choose("mnuUndo");
+    QCOMPARE(numbers(), QStringLiteral("02"));
+    desk_->program.Choose("smnuLingue(0)");
+    desk_->program.Choose("smnuLingue(1)");
+    QCOMPARE(numbers(), QStringLiteral("02"));
+    QCOMPARE(Findings().topLevelItem(0)->text(1), UiText(UiTextId::kPlaceholderStray));
+  }
+
+  void AFindingStandsWholeInItsRow() {
+    OpenDesk();
+    desk_->HScroll1().setValue(1);
+    TypeAStrayPlaceholder();
+    Part<QTabWidget>("DeskPages").setCurrentIndex(1);
+    desk_->program.desk().resize(1180, 680);
+    const int line = Findings().fontMetrics().height();
+    const auto row = [&] { return Findings().visualItemRect(Findings().topLevelItem(0)); };
+    const int letters = Findings().fontMetrics().averageCharWidth();
+    Findings().setFixedWidth(60 * letters);
+    QTRY_VERIFY(row().height() < 2 * line);
+    Findings().setFixedWidth(25 * letters);
+    QTRY_VERIFY(row().height() >= 2 * line);
   }
 
   void MendsAFindingByOneKeyInOneStep() {

@@ -31,7 +31,12 @@ QPoint CellsDelegate::PlaceOfCells(const QRect& item, int line) const {
 void CellsDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
                           const QModelIndex& index) const {
   const QStyle& style = option.widget != nullptr ? *option.widget->style() : *QApplication::style();
-  style.drawControl(QStyle::CE_ItemViewItem, &option, painter, option.widget);
+  // The whole item only where it marks the focus: of the others this is the panel alone.
+  if (option.state.testFlag(QStyle::State_HasFocus)) {
+    style.drawControl(QStyle::CE_ItemViewItem, &option, painter, option.widget);
+  } else {
+    style.drawPrimitive(QStyle::PE_PanelItemViewItem, &option, painter, option.widget);
+  }
   painter->save();
   painter->setFont(font_);
   PaintCells(*painter, PlaceOfCells(option.rect, 0), messages_.CellsOf(index));

@@ -96,12 +96,12 @@ void DeskSide::Mirror() {
   glass_->Mirror();
   mark_->Show(marks_, workspace_.set.current_message, workspace_.ui_text);
   suggestions_->Mirror();
-  const std::vector<Finding> findings = findings_.All();
-  findings_page_->Show(findings, workspace_.set.current_message);
+  std::vector<Finding> findings = findings_.All();
   const QString caption = FromUtf8(workspace_.ui_text[UiTextId::kFindings]);
   pages_->setTabText(
       pages_->indexOf(findings_page_),
       findings.empty() ? caption : QStringLiteral("%1 (%2)").arg(caption).arg(findings.size()));
+  findings_page_->Show(std::move(findings), workspace_.set.current_message);
   languages_->Mirror();
 }
 

@@ -1,6 +1,7 @@
 #ifndef VENDLINGUA_DESKTOP_DESK_FINDINGS_PAGE_H_
 #define VENDLINGUA_DESKTOP_DESK_FINDINGS_PAGE_H_
 
+#include <QIcon>
 #include <QPushButton>
 #include <QTreeWidget>
 #include <QWidget>
@@ -23,7 +24,7 @@ class FindingsPage : public QWidget {
 
   /// Shows `findings`, and chooses the first one of message `current` that has a fix, or the first
   /// of all.
-  void Show(const std::vector<Finding>& findings, std::size_t current);
+  void Show(std::vector<Finding> findings, std::size_t current);
   void SetCaptions(const UiText& ui_text);
 
   /// Mends the finding that is chosen.
@@ -34,13 +35,16 @@ class FindingsPage : public QWidget {
   void FixWanted(const NewText& text);
 
  private:
-  void ShowRows();
+  QTreeWidgetItem* NewRow(const Finding& finding) const;
+  void ShowRows(std::vector<Finding> findings);
   void OfferFix();
   void Choose(std::size_t message);
   const Finding* Current() const;
 
   QTreeWidget* list_;
   QPushButton* fix_;
+  QIcon needs_work_;
+  QIcon note_;
   std::vector<Finding> shown_;
   UiText ui_text_;
 };

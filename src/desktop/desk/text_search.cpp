@@ -53,7 +53,11 @@ TextSearch::TextSearch(const QString& wanted, Kind kind, SearchedTexts texts,
       texts_(texts) {}
 
 bool TextSearch::Hits(std::span<const DisplayCode> codes, const Alphabet& alphabet) const {
-  return !HitsIn(codes, alphabet).empty();
+  if (IsEmpty() || !expression_.isValid()) {
+    return false;
+  }
+  const QRegularExpressionMatch first = expression_.match(CharactersOf(codes, alphabet));
+  return first.capturedLength() > 0 || (first.hasMatch() && !HitsIn(codes, alphabet).empty());
 }
 
 std::vector<CellRun> TextSearch::HitsIn(std::span<const DisplayCode> codes,
