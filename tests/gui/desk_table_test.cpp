@@ -5,10 +5,22 @@
 #include <QSettings>
 #include <QTableView>
 
+#include "desktop/desk/word_delegate.h"
 #include "gui/support/desk_test.h"
 #include "gui/support/registered_test.h"
 
 namespace vendlingua::test {
+namespace {
+
+constexpr int kState = 4;
+
+// Tells what is drawn.
+class OpenWordDelegate : public WordDelegate {
+ public:
+  using WordDelegate::initStyleOption;
+};
+
+}  // namespace
 
 /// The desk's table, by the keyboard and beside the main window. Messages have four cells; in
 /// message 2 the board fills the second one.
@@ -214,6 +226,56 @@ class DeskTableTest : public DeskTest {
     desk_->program.Choose("smnuLingue(2)");
     QCOMPARE(desk_->program.desk().windowTitle(), QStringLiteral("Translator's desk"));
     QCOMPARE(Table().model()->headerData(4, Qt::Horizontal).toString(), QStringLiteral("State"));
+  }
+
+  void StatesStandWholeInEveryLanguage_data() {
+    QTest::addColumn<QByteArray>("entry");
+    for (int language = 0; language < 9; ++language) {
+      const QByteArray entry = "smnuLingue(" + QByteArray::number(language) + ")";
+      QTest::newRow(entry.constData()) << entry;
+    }
+  }
+  void StatesStandWholeInEveryLanguage() {
+    QFETCH(QByteArray, entry);
+    OpenDesk();
+    desk_->program.Choose(entry == "smnuLingue(0)" ? "smnuLingue(1)" : "smnuLingue(0)");
+    Table().setColumnWidth(kState, 20);
+    desk_->program.Choose(entry.constData());
+    for (const UiTextId word :
+         {UiTextId::kFinding, UiTextId::kToDo, UiTextId::kChanged, UiTextId::kDone}) {
+      const int letters = Table().fontMetrics().horizontalAdvance(UiText(word));
+      QVERIFY2(Table().columnWidth(kState) > Table().iconSize().width() + letters,
+               qPrintable(UiText(word)));
+    }
+    for (const int column : {0, 3, kState}) {
+      QVERIFY(Table().columnWidth(column) >= Table().horizontalHeader()->sectionSizeHint(column));
+    }
+  }
+
+  void WhatIsWrongStandsBesideItsStateWhereThereIsRoom() {
+    OpenDesk();
+    desk_->Text1().selectAll();
+    desk_->Text1().insert(QStringLiteral("A\u00FE"));
+    const QModelIndex state = Table().model()->index(0, kState);
+    const auto drawn = [&](int width) {
+      QStyleOptionViewItem option;
+      option.widget = &Table();
+      option.rect = QRect(0, 0, width, 20);
+      OpenWordDelegate().initStyleOption(&option, state);
+      return option.text;
+    };
+    QCOMPARE(drawn(Table().columnWidth(kState)), UiText(UiTextId::kFinding));
+    QCOMPARE(drawn(1000), Shown(0, kState));
+    QCOMPARE(state.data(Qt::ToolTipRole).toString(), UiText(UiTextId::kPlaceholderStray));
+  }
+
+  void StatesStandWholeInColumnsOfAnotherRun() {
+    OpenDesk();
+    Table().setColumnWidth(kState, 20);
+    desk_->program.desk().close();
+    desk_ = std::make_unique<Desk>();
+    OpenDesk();
+    QVERIFY(Table().columnWidth(kState) > 20);
   }
 
   void KeepsItsColumnsFromRunToRun() {

@@ -4,6 +4,8 @@
 #include <QKeyEvent>
 #include <QScopedValueRollback>
 
+#include "desktop/desk/item_width.h"
+#include "desktop/desk/word_delegate.h"
 #include "desktop/fonts/display_font.h"
 #include "desktop/qt_text.h"
 
@@ -11,7 +13,6 @@ namespace vendlingua {
 namespace {
 
 constexpr int kNumberDigits = 5;
-constexpr int kStateLetters = 16;
 
 }  // namespace
 
@@ -25,6 +26,9 @@ DeskTable::DeskTable(const Workspace& workspace, const LiveFindings& findings,
   setModel(messages_);
   setItemDelegateForColumn(MessageTable::kOrigin, cells_);
   setItemDelegateForColumn(MessageTable::kDestination, cells_);
+  auto* words = new WordDelegate(this);
+  setItemDelegateForColumn(MessageTable::kState, words);
+  setItemDelegateForColumn(MessageTable::kMark, words);
   setSelectionBehavior(SelectRows);
   setSelectionMode(SingleSelection);
   setEditTriggers(DoubleClicked | EditKeyPressed | AnyKeyPressed);
@@ -51,7 +55,6 @@ DeskTable::DeskTable(const Workspace& workspace, const LiveFindings& findings,
 }
 
 void DeskTable::Mirror() {
-  setAccessibleName(FromUtf8(workspace_.ui_text[UiTextId::kDesk]).remove(QLatin1Char('&')));
   messages_->Mirror();
   ShowDisplayType();
   SetColumnWidths();
@@ -67,19 +70,53 @@ void DeskTable::ShowDisplayType() {
   }
 }
 
+void DeskTable::MirrorCaptions() {
+  setAccessibleName(FromUtf8(workspace_.ui_text[UiTextId::kDesk]).remove(QLatin1Char('&')));
+  messages_->MirrorHeadings();
+  WidenColumns();
+}
+
+// Those of the texts have the width that the user wants.
+void DeskTable::WidenColumns() {
+  for (const int column : {MessageTable::kNumber, MessageTable::kCells, MessageTable::kState}) {
+    setColumnWidth(column, qMax(columnWidth(column), LeastWidth(column)));
+  }
+}
+
 // Another set has other widths. Within one set the columns are the user's.
 void DeskTable::SetColumnWidths() {
   if (width_ == workspace_.set.Width()) {
     return;
   }
   width_ = workspace_.set.Width();
-  const int cells = cells_->sizeHint({}, {}).width();
+  for (int column = 0; column < MessageTable::kColumns; ++column) {
+    setColumnWidth(column, LeastWidth(column));
+  }
+}
+
+int DeskTable::LeastWidth(int column) const {
+  const int heading = horizontalHeader()->sectionSizeHint(column);
   const int letter = fontMetrics().horizontalAdvance(QLatin1Char('0'));
-  setColumnWidth(MessageTable::kNumber, letter * (kNumberDigits + 2));
-  setColumnWidth(MessageTable::kOrigin, cells);
-  setColumnWidth(MessageTable::kDestination, cells);
-  setColumnWidth(MessageTable::kCells, letter * (kNumberDigits + 4));
-  setColumnWidth(MessageTable::kState, letter * kStateLetters);
+  switch (column) {
+    case MessageTable::kNumber:
+      return qMax(heading, letter * (kNumberDigits + 2));
+    case MessageTable::kCells:
+      return qMax(heading, letter * (kNumberDigits + 4));
+    case MessageTable::kState:
+      return qMax(heading, StateWidth());
+    case MessageTable::kMark:
+      return heading;
+    default:
+      return qMax(heading, cells_->sizeHint({}, {}).width());
+  }
+}
+
+int DeskTable::StateWidth() const {
+  int width = 0;
+  for (const UiTextId word : MessageTable::StateWords()) {
+    width = qMax(width, ItemWidth(*this, FromUtf8(workspace_.ui_text[word])));
+  }
+  return width;
 }
 
 void DeskTable::SetRowHeight() {

@@ -21,6 +21,10 @@ class DeskTable : public QTableView {
 
   /// Shows the document and its current message.
   void Mirror();
+  /// The interface language has changed.
+  void MirrorCaptions();
+  /// Makes headings and states fit in columns that come from another language.
+  void WidenColumns();
 
   MessageTable& messages() { return *messages_; }
   const CellsDelegate& cells() const { return *cells_; }
@@ -37,6 +41,8 @@ class DeskTable : public QTableView {
   void ShowDisplayType();
   void ShowCurrentMessage();
   void SetColumnWidths();
+  int LeastWidth(int column) const;
+  int StateWidth() const;
   void SetRowHeight();
   void Enter(Qt::KeyboardModifiers modifiers);
 

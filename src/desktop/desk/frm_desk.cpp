@@ -66,6 +66,7 @@ FrmDesk::FrmDesk(Engine& engine, Dialogs& dialogs, RunCommand run)
   ConnectTable();
   ConnectFinder();
   AddShortcuts();
+  SetCaptions();
   findings_.Follow(workspace_.set);
   marks_.Follow(workspace_.set);
   table_->Mirror();
@@ -172,6 +173,7 @@ void FrmDesk::SetCaptions() {
   setAccessibleName(title);
   find_bar_->SetCaptions(captions_);
   second_box_->SetCaptions(captions_);
+  table_->MirrorCaptions();
   side_->SetCaptions(captions_);
   for (std::size_t i = 0; i < kFilters.size(); ++i) {
     filter_->setItemText(static_cast<int>(i), FromUtf8(captions_[kFilters.at(i)]));
@@ -186,6 +188,7 @@ void FrmDesk::Restore() {
   resize(kFirstSize.boundedTo(screen()->availableSize()));
   restoreGeometry(settings.value(WindowKey()).toByteArray());
   table_->horizontalHeader()->restoreState(settings.value(ColumnsKey()).toByteArray());
+  table_->WidenColumns();
   parts_->restoreState(settings.value(PartsKey()).toByteArray());
   side_->Restore(settings);
   second_.Choose(settings.value(SecondReferenceKey()).toString().toStdString());

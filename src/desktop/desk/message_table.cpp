@@ -16,19 +16,9 @@ constexpr std::array<UiTextId, MessageTable::kColumns> kHeadings = {
     UiTextId::kNumber, UiTextId::kOriginHeading, UiTextId::kDestinationHeading,
     UiTextId::kCells,  UiTextId::kState,         UiTextId::kMark};
 
-UiTextId WordFor(RowState state) {
-  switch (state) {
-    case RowState::kFinding:
-      return UiTextId::kFinding;
-    case RowState::kToDo:
-      return UiTextId::kToDo;
-    case RowState::kChanged:
-      return UiTextId::kChanged;
-    case RowState::kDone:
-      break;
-  }
-  return UiTextId::kDone;
-}
+// By RowState.
+constexpr std::array<UiTextId, 4> kStateWords = {UiTextId::kFinding, UiTextId::kToDo,
+                                                 UiTextId::kChanged, UiTextId::kDone};
 
 }  // namespace
 
@@ -54,8 +44,10 @@ void MessageTable::Mirror() {
   } else if (!messages_.empty()) {
     emit dataChanged(index(0, 0), index(rowCount() - 1, kColumns - 1));
   }
-  emit headerDataChanged(Qt::Horizontal, 0, kColumns - 1);
 }
+
+// The table lays all of itself out again then.
+void MessageTable::MirrorHeadings() { emit headerDataChanged(Qt::Horizontal, 0, kColumns - 1); }
 
 void MessageTable::MakeList() {
   beginResetModel();
@@ -83,6 +75,8 @@ void MessageTable::sort(int column, Qt::SortOrder order) {
   wishes_.descending = order == Qt::DescendingOrder;
   MakeList();
 }
+
+std::array<UiTextId, 4> MessageTable::StateWords() { return kStateWords; }
 
 std::size_t MessageTable::MessageOf(const QModelIndex& index) const {
   return messages_.at(static_cast<std::size_t>(index.row()));
@@ -156,10 +150,14 @@ QString MessageTable::TextOf(std::size_t message, int column) const {
   return column == kState ? StateTextOf(message) : MarkTextOf(message);
 }
 
+QString MessageTable::StateWordOf(std::size_t message) const {
+  const auto state = static_cast<std::size_t>(StateOf(workspace_.set, findings_, message));
+  return FromUtf8(workspace_.ui_text[kStateWords.at(state)]);
+}
+
 QString MessageTable::StateTextOf(std::size_t message) const {
-  const RowState state = StateOf(workspace_.set, findings_, message);
-  QString word = FromUtf8(workspace_.ui_text[WordFor(state)]);
-  if (state != RowState::kFinding) {
+  QString word = StateWordOf(message);
+  if (!findings_.NeedsWork(message)) {
     return word;
   }
   const auto& findings = findings_.Of(message);
@@ -167,15 +165,30 @@ QString MessageTable::StateTextOf(std::size_t message) const {
   return QStringLiteral("%1: %2").arg(word, FromUtf8(SentenceOf(*urgent, workspace_.ui_text)));
 }
 
-QString MessageTable::MarkTextOf(std::size_t message) const {
+QString MessageTable::MarkWordOf(std::size_t message) const {
   const MessageMark& mark = marks_.Of(message);
-  QString remark = FromUtf8(mark.remark);
   if (mark.mark == Mark::kNone) {
-    return remark;
+    return FromUtf8(mark.remark);
   }
   const UiTextId id = mark.mark == Mark::kDone ? UiTextId::kMarkedDone : UiTextId::kNeedsWork;
-  QString word = FromUtf8(workspace_.ui_text[id]);
-  return remark.isEmpty() ? word : QStringLiteral("%1: %2").arg(word, remark);
+  return FromUtf8(workspace_.ui_text[id]);
+}
+
+QString MessageTable::MarkTextOf(std::size_t message) const {
+  const MessageMark& mark = marks_.Of(message);
+  const QString word = MarkWordOf(message);
+  return mark.mark == Mark::kNone || mark.remark.empty()
+             ? word
+             : QStringLiteral("%1: %2").arg(word, FromUtf8(mark.remark));
+}
+
+QString MessageTable::WordOf(std::size_t message, int column) const {
+  if (!workspace_.set.DestinationIsOpen()) {
+    return {};
+  }
+  return column == kState  ? StateWordOf(message)
+         : column == kMark ? MarkWordOf(message)
+                           : TextOf(message, column);
 }
 
 QString MessageTable::FindingsOf(std::size_t message) const {
@@ -199,6 +212,8 @@ QVariant MessageTable::data(const QModelIndex& index, int role) const {
   switch (role) {
     case Qt::DisplayRole:
       return TextOf(message, index.column());
+    case kWordRole:
+      return WordOf(message, index.column());
     case Qt::AccessibleTextRole:
       return SpokenTextOf(message, index.column());
     case Qt::DecorationRole:

@@ -31,17 +31,25 @@ class MessageTable : public QAbstractTableModel {
  public:
   enum Column { kNumber, kOrigin, kDestination, kCells, kState, kMark };
   static constexpr int kColumns = 6;
+  /// The word that a text begins with: the state without what is wrong, the mark without its
+  /// remark.
+  static constexpr int kWordRole = Qt::UserRole;
 
   MessageTable(const Workspace& workspace, const LiveFindings& findings, const DocumentMarks& marks,
                const SecondReference& second, QObject* parent);
 
   /// The document has changed.
   void Mirror();
+  /// The interface language has changed.
+  void MirrorHeadings();
 
   void SetFilter(MessageFilter filter);
   MessageFilter filter() const { return wishes_.filter; }
   /// What is marked in the cells.
   void SetSearch(const TextSearch& search);
+
+  /// What the state of a row can be.
+  static std::array<UiTextId, 4> StateWords();
 
   const std::vector<std::size_t>& messages() const { return messages_; }
   std::size_t MessageOf(const QModelIndex& index) const;
@@ -69,8 +77,11 @@ class MessageTable : public QAbstractTableModel {
   ShownCells Shown(std::size_t message, std::span<const DisplayCode> codes) const;
   QString TextOf(std::size_t message, int column) const;
   QString SpokenTextOf(std::size_t message, int column) const;
+  QString WordOf(std::size_t message, int column) const;
+  QString StateWordOf(std::size_t message) const;
   QString StateTextOf(std::size_t message) const;
   QString FindingsOf(std::size_t message) const;
+  QString MarkWordOf(std::size_t message) const;
   QString MarkTextOf(std::size_t message) const;
 
   const Workspace& workspace_;
