@@ -78,6 +78,36 @@ class DeskSideTest : public DeskTest {
     QVERIFY(dot(2, 7) != lit);
   }
 
+  // The glass goes on below its lowest dots as far as above its highest.
+  void TheGlassShowsAllItsDots() {
+    OpenDesk();
+    QApplication::processEvents();
+    const QImage shown = Part<QWidget>("DeskGlass").grab().toImage();
+    const int middle = shown.width() / 2;
+    const QRgb glass = shown.pixel(middle, 0);
+    const auto is_bare = [&](int y) {
+      for (int x = middle / 2; x < middle + middle / 2; ++x) {
+        if (shown.pixel(x, y) != glass) {
+          return false;
+        }
+      }
+      return true;
+    };
+    int above = 0;
+    while (is_bare(above)) {
+      ++above;
+    }
+    int last = shown.height() - 1;
+    while (shown.pixel(middle, last) != glass) {
+      --last;
+    }
+    int below = 0;
+    while (is_bare(last - below)) {
+      ++below;
+    }
+    QVERIFY2(below >= above, qPrintable(QString::number(below)));
+  }
+
   void TheLightIsChosenAndKept() {
     OpenDesk();
     const QImage green = CopiedGlass();

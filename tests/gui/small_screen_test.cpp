@@ -1,6 +1,10 @@
+#include <QComboBox>
+#include <QLineEdit>
 #include <QMainWindow>
 #include <QScrollArea>
+#include <QSplitter>
 #include <QStyle>
+#include <QTableView>
 
 #include "desktop/desk/preview_dialog.h"
 #include "gui/support/desk_test.h"
@@ -62,6 +66,32 @@ class SmallScreenTest : public DeskTest {
     const auto& area = *desk_->program.desk().findChild<QScrollArea*>(QStringLiteral("DeskSide"));
     QTRY_VERIFY(area.viewport()->width() >= area.widget()->minimumSizeHint().width());
     QCOMPARE(area.widget()->width(), area.viewport()->width());
+  }
+
+  void WhatIsLookedForCanBeRead_data() { AddLanguageRows(); }
+  void WhatIsLookedForCanBeRead() {
+    Speak();
+    desk_->Edit(MesFile());
+    desk_->program.Choose("mnuDesk");
+    desk_->program.desk().resize(kRoom);
+    QApplication::processEvents();
+    const auto& find = desk_->program.GetInDesk<QLineEdit>("DeskFind");
+    QVERIFY(find.width() >=
+            find.fontMetrics().horizontalAdvance(QStringLiteral("Self-diagnostics")));
+    for (const char* name : {"DeskFindTexts", "DeskSecondReference", "DeskFilter"}) {
+      const auto& box = desk_->program.GetInDesk<QComboBox>(name);
+      QVERIFY2(box.width() >= box.sizeHint().width(), name);
+    }
+  }
+
+  void TheTableTakesTheWidthOfWhatIsPushedAside() {
+    desk_->Edit(MesFile());
+    desk_->program.Choose("mnuDesk");
+    desk_->program.desk().resize(kRoom);
+    auto& parts = *desk_->program.desk().findChild<QSplitter*>();
+    parts.setSizes({kRoom.width(), 0});
+    const auto& table = desk_->program.GetInDesk<QTableView>("DeskTable");
+    QCOMPARE(table.width(), parts.width() - parts.handleWidth());
   }
 
   void TheDeskIsNotLargerThanTheScreen() {

@@ -1,7 +1,6 @@
 #include "desktop/desk/find_bar.h"
 
 #include <QGridLayout>
-#include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QSignalBlocker>
 #include <array>
@@ -38,7 +37,8 @@ FindBar::FindBar(QWidget* parent)
       next_(new QToolButton(this)),
       result_(new QLabel(this)),
       replace_by_(new QLineEdit(this)),
-      replace_(new QPushButton(this)) {
+      replace_(new QPushButton(this)),
+      beside_(new QHBoxLayout) {
   find_->setObjectName(QStringLiteral("DeskFind"));
   texts_->setObjectName(QStringLiteral("DeskFindTexts"));
   expression_->setObjectName(QStringLiteral("DeskFindExpression"));
@@ -47,21 +47,9 @@ FindBar::FindBar(QWidget* parent)
   result_->setObjectName(QStringLiteral("DeskFindResult"));
   replace_by_->setObjectName(QStringLiteral("DeskReplaceBy"));
   replace_->setObjectName(QStringLiteral("DeskReplace"));
-  auto* rows = new QGridLayout(this);
-  rows->setContentsMargins(0, 0, 0, 0);
   BuildFindRow();
   BuildReplaceRow();
-  rows->addWidget(find_, 0, 0);
-  rows->addWidget(texts_, 0, 1);
-  auto* steps = new QHBoxLayout;
-  for (QToolButton* button : {expression_, previous_, next_}) {
-    steps->addWidget(button);
-  }
-  steps->addWidget(result_, 1);
-  rows->addLayout(steps, 0, 2);
-  rows->addWidget(replace_by_, 1, 0);
-  rows->addWidget(replace_, 1, 1);
-  rows->setColumnStretch(0, 1);
+  LayOut();
   ShowResult(QString(), false);
 }
 
@@ -92,6 +80,23 @@ void FindBar::BuildFindRow() {
 void FindBar::BuildReplaceRow() {
   replace_by_->installEventFilter(this);
   connect(replace_, &QPushButton::clicked, this, &FindBar::ReplaceWanted);
+}
+
+void FindBar::LayOut() {
+  auto* steps = new QHBoxLayout;
+  for (QToolButton* button : {expression_, previous_, next_}) {
+    steps->addWidget(button);
+  }
+  steps->addWidget(result_, 1);
+  auto* rows = new QGridLayout(this);
+  rows->setContentsMargins(0, 0, 0, 0);
+  rows->addWidget(find_, 0, 0);
+  rows->addWidget(texts_, 0, 1);
+  rows->addLayout(steps, 0, 2);
+  rows->addWidget(replace_by_, 1, 0);
+  rows->addWidget(replace_, 1, 1);
+  rows->addLayout(beside_, 1, 2);
+  rows->setColumnStretch(0, 1);
 }
 
 void FindBar::SetCaptions(const UiText& ui_text) {

@@ -3,6 +3,7 @@
 
 #include <QAction>
 #include <QComboBox>
+#include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
@@ -23,6 +24,9 @@ class FindBar : public QWidget {
 
   /// Captions the controls in the interface language.
   void SetCaptions(const UiText& ui_text);
+
+  /// Puts a box into the room beside the replacement.
+  void AddBeside(QWidget& box) { beside_->addWidget(&box); }
 
   /// What is asked for, in the characters of `alphabet`.
   TextSearch SearchIn(const Alphabet& alphabet) const;
@@ -48,6 +52,7 @@ class FindBar : public QWidget {
  private:
   void BuildFindRow();
   void BuildReplaceRow();
+  void LayOut();
 
   QLineEdit* find_;
   QComboBox* texts_;
@@ -57,6 +62,7 @@ class FindBar : public QWidget {
   QLabel* result_;
   QLineEdit* replace_by_;
   QPushButton* replace_;
+  QHBoxLayout* beside_;
 };
 
 }  // namespace vendlingua

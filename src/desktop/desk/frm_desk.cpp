@@ -78,22 +78,20 @@ void FrmDesk::LayOut() {
   status_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
   filter_->setSizeAdjustPolicy(QComboBox::AdjustToContents);
   LetBeNarrow(*filter_);
-  auto* top = new QHBoxLayout;
-  top->addWidget(find_bar_, 1);
-  top->addWidget(second_box_, 0, Qt::AlignTop);
-  top->addWidget(filter_, 0, Qt::AlignTop);
+  find_bar_->AddBeside(*second_box_);
+  find_bar_->AddBeside(*filter_);
   auto* bottom = new QHBoxLayout;
   bottom->addWidget(status_, 1);
   bottom->addWidget(progress_);
   auto* layout = new QVBoxLayout(this);
-  layout->addLayout(top);
+  layout->addWidget(find_bar_);
   layout->addWidget(parts_, 1);
   layout->addLayout(bottom);
-  // On a low screen what stands beside the table scrolls.
+  // On a low screen what stands beside the table scrolls; on a narrow one it makes room.
   auto* side = new UprightArea(parts_);
   side->setObjectName(QStringLiteral("DeskSide"));
   side->setWidget(side_);
-  parts_->setChildrenCollapsible(false);
+  parts_->setCollapsible(parts_->indexOf(table_), false);
   parts_->setStretchFactor(0, 1);
   table_->setFocus();
 }

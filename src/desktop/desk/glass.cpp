@@ -1,6 +1,7 @@
 #include "desktop/desk/glass.h"
 
 #include <QPainter>
+#include <QtMath>
 #include <algorithm>
 #include <array>
 
@@ -68,8 +69,13 @@ QSize Glass::SizeInDots() const {
 
 QSize Glass::sizeHint() const { return SizeInDots() * kUsualDot; }
 
+// Dots are whole pixels of the screen, so that all are alike.
+int Glass::DotIn(int width) const {
+  return std::max(static_cast<int>(width * devicePixelRatioF()) / SizeInDots().width(), 1);
+}
+
 int Glass::heightForWidth(int width) const {
-  return SizeInDots().height() * std::max(width / SizeInDots().width(), 1);
+  return qCeil(SizeInDots().height() * DotIn(width) / devicePixelRatioF());
 }
 
 QImage Glass::Picture() const {
@@ -79,10 +85,9 @@ QImage Glass::Picture() const {
   return picture;
 }
 
-// Dots are whole pixels of the screen, so that all are alike.
 void Glass::paintEvent(QPaintEvent* /*event*/) {
   const qreal ratio = devicePixelRatioF();
-  const int dot = std::max(static_cast<int>(width() * ratio) / SizeInDots().width(), 1);
+  const int dot = DotIn(width());
   QPainter painter(this);
   painter.scale(1 / ratio, 1 / ratio);
   const int free = static_cast<int>(width() * ratio) - SizeInDots().width() * dot;

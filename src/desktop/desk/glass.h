@@ -41,6 +41,7 @@ class Glass : public QWidget {
   void Draw(QPainter& painter, int dot) const;
   void DrawCell(QPainter& painter, QPoint place, int dot, DisplayCode code) const;
   QSize SizeInDots() const;
+  int DotIn(int width) const;
   void RunDigits();
 
   const Workspace& workspace_;
