@@ -59,7 +59,7 @@ class TreeTest(unittest.TestCase):
             surroundings[variable] = ""
         self.program = subprocess.Popen([PROGRAM, self.file], env=os.environ | surroundings)
         self.addCleanup(self.end)
-        self.window = wait_for(lambda: self.find_window("Vendlingua"))
+        self.window = wait_for(lambda: self.find_window(f"{SAMPLE.name} - Vendlingua"))
         self.choose("Origin", "ITALIANO")
         self.choose("Dest.", "ENGLISH")
 

@@ -46,7 +46,17 @@ class ScreenReaderTest : public DeskTest {
   QString Name(const char* control) { return Said(control, QAccessible::Name); }
   QString Content(const char* control) { return Said(control, QAccessible::Description); }
 
+  QString NameOfTheWindow() {
+    return QAccessible::queryAccessibleInterface(&desk_->program.window())->text(QAccessible::Name);
+  }
+
  private slots:
+  void SaysWhichFileIsOpen() {
+    QCOMPARE(NameOfTheWindow(), QStringLiteral("Vendlingua"));
+    desk_->Edit(MesFile());
+    QCOMPARE(NameOfTheWindow(), QStringLiteral("TEST.MES - Vendlingua"));
+  }
+
   void SaysTheNumberOfTheMessage() {
     desk_->Edit(MesFile());
     desk_->HScroll1().setValue(2);

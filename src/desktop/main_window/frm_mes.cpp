@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <exception>
 #include <memory>
+#include <string>
 #include <utility>
 
 #include "core/operations/exit.h"
@@ -13,6 +14,7 @@
 #include "core/operations/outside_changes.h"
 #include "core/platform/errors.h"
 #include "core/presentation/twips.h"
+#include "core/presentation/view_state.h"
 #include "desktop/icon.h"
 #include "desktop/main_window/file_drop.h"
 #include "desktop/qt_text.h"
@@ -31,6 +33,12 @@ constexpr QLatin1String kMenuBarStyle(
     "QMenuBar::item:selected { background: palette(highlight); color: palette(highlighted-text); }"
     "QMenuBar::item:disabled { color: palette(placeholder-text); }");
 
+// The title is the open file alone; who only hears it has to know whose window it is.
+QString SpokenTitle(const QString& title) {
+  const QString program = FromUtf8(std::string(kApplicationTitle));
+  return title == program ? title : QStringLiteral("%1 - %2").arg(title, program);
+}
+
 }  // namespace
 
 FrmMes::FrmMes(Engine& engine, QtDialogs& dialogs, ProgramStarter& starter)
@@ -45,7 +53,6 @@ FrmMes::FrmMes(Engine& engine, QtDialogs& dialogs, ProgramStarter& starter)
       edit_keeper_(engine, [this] { Mirror(); }),
       dialogs_seen_(dialogs.opened()) {
   setObjectName(QStringLiteral("FrmMes"));
-  setAccessibleName(QStringLiteral("Vendlingua"));
   setWindowIcon(ProgramIcon());
   setContextMenuPolicy(Qt::NoContextMenu);
   menuBar()->setStyleSheet(kMenuBarStyle);
@@ -148,6 +155,9 @@ void FrmMes::Mirror() {
   qt_texts_.Follow(workspace);
   file_watch_.Follow(workspace.set.CurrentFileName);
   setWindowTitle(FromUtf8(view.caption));
+  if (const QString spoken = SpokenTitle(windowTitle()); spoken != accessibleName()) {
+    setAccessibleName(spoken);
+  }
   setFixedSize(PixelsFromTwips(kWindowWidth), HeightOnScreen(PixelsFromTwips(view.height)));
   menus_->Show(MenusOf(workspace));
   menus_->NoteFile(workspace.set);
