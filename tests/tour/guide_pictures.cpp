@@ -92,6 +92,9 @@ class GuidePictures {
     FirstSteps();
     Take();
     SecondReference();
+    Information();
+    Replacement();
+    Conflict();
   }
 
   void Take() {
@@ -124,6 +127,41 @@ class GuidePictures {
     emit box.activated(5);
     Save(program_.desk(), "second-reference");
     program_.desk().close();
+  }
+
+  void Information() {
+    program_.Choose("mnuInf");
+    Save(*program_.info(), "information");
+    program_.info()->close();
+  }
+
+  void Replacement() {
+    Open(folder_ / kOlderFile, 3);
+    program_.Choose("mnuDesk");
+    Part<QLineEdit>("DeskFind").setText(QStringLiteral("e"));
+    Part<QLineEdit>("DeskReplaceBy").setText(QStringLiteral("ee"));
+    SavePreview("replace", "DeskReplace");
+    Part<QLineEdit>("DeskFind").clear();
+    program_.Choose("mnuSave");
+    program_.desk().close();
+  }
+
+  // Another program saves another text of the message that is being edited.
+  void Conflict() {
+    const fs::path file = folder_ / kOlderFile;
+    Open(file, 2);
+    Translate(2, "    Diagnosis");
+    std::string content = Slurp(file);
+    Change(content, "  Diagnostics   ", "Self-diagnostics");
+    folder_.Write(kOlderFile, content);
+    user_.on_dialog = [this](QDialog& dialog) {
+      if (dialog.objectName() == QStringLiteral("ConflictBox")) {
+        Save(dialog, "conflict");
+      }
+    };
+    user_.Click(QStringLiteral("KeepMine"));
+    program_.Choose("mnuSave");
+    user_.on_dialog = nullptr;
   }
 
   void Editor() {
