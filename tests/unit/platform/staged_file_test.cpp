@@ -73,8 +73,7 @@ TEST_F(StagedFileTest, HasATemporaryNameOfItsOwn) {
   const StagedFile staged(target_);
   const std::string name = folder_.Names();
   const StagedFile other(target_);
-  EXPECT_THAT(folder_.Names(),
-              MatchesRegex("\\.vendlingua-\\w+\\.tmp \\.vendlingua-\\w+\\.tmp"));
+  EXPECT_THAT(folder_.Names(), MatchesRegex("\\.vendlingua-\\w+\\.tmp \\.vendlingua-\\w+\\.tmp"));
   EXPECT_THAT(folder_.Names(), HasSubstr(name));
 }
 
