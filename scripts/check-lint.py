@@ -1,14 +1,15 @@
 #!/usr/bin/env python3
 """Runs clang-tidy over src/ and tests/ with the compile commands of a build folder.
 
-Most of its time goes into the headers of libraries, again for every source. So the sources of a
-target are laid one behind the other into a few large files, and every finding is traced back to
-the line that it stands in. Usage: check-lint.py BUILD_FOLDER [TEXT_IN_PATH]
+Most of its time goes into the headers of libraries, again for every source. So the sources are laid
+one behind the other into a few large files, and every finding is traced back to the line that it
+stands in. Usage: check-lint.py BUILD_FOLDER [TEXT_IN_PATH]
 """
 
 from __future__ import annotations
 
 import bisect
+import itertools
 import json
 import os
 import re
@@ -20,7 +21,6 @@ from concurrent.futures import ThreadPoolExecutor
 from pathlib import Path
 
 ROOT = Path(__file__).resolve().parents[1]
-SOURCES_AT_ONCE = 60
 # The paths through the assertions of a test take the analyzer longer than all of src/; its findings
 # there would say that an assertion can fail.
 # Speed and large products do not matter there, and "private slots:" looks redundant.
@@ -28,10 +28,13 @@ NOT_FOR_TESTS = (
     "-clang-analyzer-*,-performance-*,-bugprone-implicit-widening-of-multiplication-result,"
     "-readability-redundant-access-specifiers"
 )
+# How many states of a function the analyzer looks at. It looks into every function all the same, but with
+# three times as many states it takes several times as long over a few large ones.
+ANALYZER = ["-Xclang", "-analyzer-config", "-Xclang", "max-nodes=75000"]
 
 
 class LargeFile:
-    """Several sources of one target in one file."""
+    """Several sources in one file, compiled with all that they need together."""
 
     def __init__(self, path: Path, command: list[str], sources: list[Path]) -> None:
         self.path = path
@@ -43,6 +46,10 @@ class LargeFile:
         for source in sources:
             self.first_lines.append(len(lines) + 1)
             lines += source.read_text(encoding="utf-8").splitlines()
+        # A file has one main(); .clang-tidy knows the others by these names.
+        mains = [k for k, line in enumerate(lines) if line.startswith("int main(")]
+        for number, k in enumerate(mains[1:], start=2):
+            lines[k] = lines[k].replace("main", f"Main{number}", 1)
         path.write_text("\n".join(lines) + "\n", encoding="utf-8")
 
     def origin(self, line: int) -> str:
@@ -67,17 +74,17 @@ def is_ours(source: Path, build: Path) -> bool:
     return build not in source.parents and any(folder in source.parents for folder in below)
 
 
-def arguments(command: str, sources: list[Path]) -> list[str]:
-    """What Clang needs of GCC's command line: where headers are, macros and the language."""
-    kept = ["-Wno-unknown-warning-option"]
-    for folder in sorted({source.parent for source in sources}):
-        kept += ["-iquote", str(folder)]
+def arguments(command: str) -> dict[str, list[str]]:
+    """What Clang needs of a command line: where headers are, macros and the language. A macro, by whose
+    name its argument is known, can have one value only."""
+    kept: dict[str, list[str]] = {}
     words = iter(shlex.split(command))
     for word in words:
         if word in ("-isystem", "-I"):
-            kept += [word, next(words)]
+            folder = next(words)
+            kept[folder] = [word, folder]
         elif word.startswith(("-I", "-D", "-std=")):
-            kept.append(word)
+            kept[word.split("=")[0]] = [word]
     return kept
 
 
@@ -88,21 +95,34 @@ def unity_sources(path: Path) -> list[Path]:
     return [Path(name) for name in re.findall(r'#include "(.*)"', path.read_text("utf-8"))]
 
 
+class Group:
+    """The sources that are laid into one file, with the arguments of all of them."""
+
+    def __init__(self) -> None:
+        self.sources: set[Path] = set()
+        self.arguments: dict[str, list[str]] = {}
+
+    def large_file(self, path: Path) -> LargeFile:
+        sources = sorted(self.sources)
+        command = [*ANALYZER, "-Wno-unknown-warning-option"]
+        command += itertools.chain.from_iterable(self.arguments.values())
+        for folder in sorted({source.parent for source in sources}):
+            command += ["-iquote", str(folder)]
+        return LargeFile(path, command, sources)
+
+
 def large_files(build: Path, wanted: str) -> list[LargeFile]:
-    targets: dict[tuple[str, ...], list[Path]] = defaultdict(list)
+    groups: dict[str, Group] = defaultdict(Group)
     for entry in json.loads((build / "compile_commands.json").read_text(encoding="utf-8")):
         for source in unity_sources(Path(entry["file"])):
             if is_ours(source, build) and wanted in str(source):
-                target = re.search(r"-o (\S+\.dir)/", entry["command"])
-                targets[(target[1] if target else "", entry["command"].split(" -o ")[0])].append(source)
-    (build / "lint").mkdir(exist_ok=True)
-    files = []
-    for (_, command), sources in targets.items():
-        for start in range(0, len(sources), SOURCES_AT_ONCE):
-            some = sorted(sources)[start : start + SOURCES_AT_ONCE]
-            path = build / "lint" / f"{len(files)}.cpp"
-            files.append(LargeFile(path, arguments(command, some), some))
-    return files
+                qt = "windows" if "-DQT_" in entry["command"] else "core"
+                group = groups[f"{source.relative_to(ROOT).parts[0]}-{qt}"]
+                group.sources.add(source)
+                group.arguments.update(arguments(entry["command"]))
+    folder = build / "lint"
+    folder.mkdir(exist_ok=True)
+    return [groups[name].large_file(folder / f"{name}.cpp") for name in sorted(groups)]
 
 
 def main() -> int:

@@ -83,7 +83,7 @@ rc::Gen<std::string> RandomLines() {
   });
 }
 
-std::string Joined(const std::vector<std::string>& parts) {
+std::string Concatenated(const std::vector<std::string>& parts) {
   std::string text;
   for (const std::string& part : parts) {
     text += part;
@@ -101,14 +101,14 @@ rc::Gen<std::string> RandomSourceLines() {
       {{6, rc::gen::elementOf(Lines{" DC.B 'A'", " DC.B \"AB\"", " DC.B '\"", " DC.B 'A''B'"})},
        {2,
         rc::gen::elementOf(Lines{" ORG $6000", " .SECT text", "MNLING:", " .SDATA", "; no text"})},
-       {1, rc::gen::map(rc::gen::resize(4, rc::gen::container<Lines>(words)), Joined)}});
+       {1, rc::gen::map(rc::gen::resize(4, rc::gen::container<Lines>(words)), Concatenated)}});
 }
 
 rc::Gen<std::string> RandomSources() {
   return rc::gen::map(
       rc::gen::container<std::vector<std::string>>(
           rc::gen::map(RandomSourceLines(), [](const std::string& line) { return line + "\n"; })),
-      Joined);
+      Concatenated);
 }
 
 RC_GTEST_PROP(QuotedTextProperty, AnyLineIsReadByTheStepsOrRefused, ()) {

@@ -15,7 +15,7 @@ namespace {
 using Json = nlohmann::ordered_json;
 
 constexpr std::string_view kFormat = "vendlingua-marks";
-constexpr int kVersion = 1;
+constexpr int kFormatVersion = 1;
 constexpr int kIndent = 1;
 
 constexpr std::array<std::pair<Mark, std::string_view>, 3> kMarkWords = {
@@ -30,7 +30,7 @@ Mark MarkOf(std::string_view word) {
   const auto* found =
       std::ranges::find(kMarkWords, word, &std::pair<Mark, std::string_view>::second);
   if (found == kMarkWords.end()) {
-    throw Json::other_error::create(kVersion, "no mark", nullptr);
+    throw Json::other_error::create(kFormatVersion, "no mark", nullptr);
   }
   return found->first;
 }
@@ -60,13 +60,14 @@ std::string MarksText(const KeptMarks& marks) {
                        {"mark", WordOf(kept.mark.mark)},
                        {"remark", kept.mark.remark}});
   }
-  const Json file = {{"format", kFormat}, {"version", kVersion}, {"marks", std::move(entries)}};
+  const Json file = {
+      {"format", kFormat}, {"version", kFormatVersion}, {"marks", std::move(entries)}};
   return file.dump(kIndent, ' ', false, Json::error_handler_t::replace) + "\n";
 }
 
 std::optional<KeptMarks> ParseMarks(std::string_view content) try {
   const Json file = Json::parse(content);
-  if (file.at("format") != kFormat || file.at("version") != kVersion) {
+  if (file.at("format") != kFormat || file.at("version") != kFormatVersion) {
     return std::nullopt;
   }
   KeptMarks marks;

@@ -10,7 +10,7 @@ using ::testing::ElementsAre;
 using ::testing::IsEmpty;
 using ::testing::SizeIs;
 
-const std::string kHeader = "message,origin,text\r\n";
+const std::string kHeadings = "message,origin,text\r\n";
 
 TableReading Read(const std::string& content) { return ReadCsv(content, DetectEncoding(content)); }
 
@@ -39,7 +39,7 @@ TEST(WriteCsv, WritesTheTextsCellByCell) {
 }
 
 TEST(ReadCsv, TakesNumberOriginAndText) {
-  const TableReading reading = Read(kHeader + "7,Pronto, Ready\r\n");
+  const TableReading reading = Read(kHeadings + "7,Pronto, Ready\r\n");
   ASSERT_THAT(reading.table.rows, SizeIs(1));
   const TranslationRow& row = reading.table.rows.front();
   EXPECT_EQ(row.place, 2U);
@@ -70,7 +70,7 @@ TEST(ReadCsv, TakesEveryEncoding) {
   }
   EXPECT_EQ(Only(Read(utf16)), "è");
   EXPECT_EQ(Only(Read(little_endian)), "è");
-  EXPECT_EQ(Only(Read(kHeader + "1,,\xE8\r\n")), "è");
+  EXPECT_EQ(Only(Read(kHeadings + "1,,\xE8\r\n")), "è");
 }
 
 TEST(ReadCsv, RefusesAnotherHeader) {
@@ -82,7 +82,7 @@ TEST(ReadCsv, RefusesAnotherHeader) {
 }
 
 TEST(ReadCsv, RefusesRowsOneByOne) {
-  const TableReading reading = Read(kHeader +
+  const TableReading reading = Read(kHeadings +
                                     "1,,a\r\n"
                                     "2,x\r\n"
                                     "x,,b\r\n"
@@ -99,25 +99,25 @@ TEST(ReadCsv, RefusesRowsOneByOne) {
 
 TEST(ReadCsv, RefusesMalformedQuotesAndNamesTheRow) {
   for (const std::string row : {"1,,\"x", "1,,\"x\"y", "1,,x\"y"}) {
-    const TableReading reading = Read(kHeader + "0,,a\r\n" + row + "\r\n2,,b\r\n");
+    const TableReading reading = Read(kHeadings + "0,,a\r\n" + row + "\r\n2,,b\r\n");
     EXPECT_THAT(KindsOf(reading), ElementsAre(Kind::kBadQuotes)) << row;
     EXPECT_EQ(reading.problems.listed().front().number, 3U) << row;
   }
 }
 
 TEST(ReadCsv, RefusesAFieldThatIsLongerThanAnyMessage) {
-  const TableReading reading = Read(kHeader + "1,," + std::string(4097, 'x') + "\r\n2,,b\r\n");
+  const TableReading reading = Read(kHeadings + "1,," + std::string(4097, 'x') + "\r\n2,,b\r\n");
   EXPECT_THAT(KindsOf(reading), ElementsAre(Kind::kFieldTooLong));
   EXPECT_THAT(reading.table.rows, SizeIs(1));
 }
 
 TEST(ReadCsv, GivesUpAFieldThatTakesInTheRestOfTheFile) {
-  const TableReading reading = Read(kHeader + "1,,\"" + std::string(1U << 20U, 'x') + "\"\r\n");
+  const TableReading reading = Read(kHeadings + "1,,\"" + std::string(1U << 20U, 'x') + "\"\r\n");
   EXPECT_THAT(KindsOf(reading), ElementsAre(Kind::kBadQuotes));
 }
 
 TEST(ReadCsv, ListsSoManyProblemsAndCountsTheRest) {
-  std::string content = kHeader;
+  std::string content = kHeadings;
   for (std::size_t i = 0; i < TableProblems::kMostListed + 7; ++i) {
     content += "x\r\n";
   }
@@ -127,7 +127,7 @@ TEST(ReadCsv, ListsSoManyProblemsAndCountsTheRest) {
 }
 
 TEST(ReadCsv, TakesNoMoreRowsThanThereCanBeMessages) {
-  std::string content = kHeader;
+  std::string content = kHeadings;
   for (int i = 0; i < 70'000; ++i) {
     content += std::to_string(i) + ",,x\r\n";
   }

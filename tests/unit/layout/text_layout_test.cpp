@@ -10,7 +10,7 @@ namespace {
 using test::Codes;
 using test::Text;
 
-constexpr std::size_t kWidth = 16;
+constexpr std::size_t kBoardWidth = 16;
 
 // The board fills cells 9 and 11 to 16.
 const std::vector<CellRange> kBoard = {{8, 1}, {10, 6}};
@@ -18,7 +18,7 @@ const std::vector<CellRange> kBoard = {{8, 1}, {10, 6}};
 LooseText Loose(std::string_view text) { return LooseText(Codes(text)); }
 
 TEST(LayOut, PadsWhatStandsBeforeAPlaceholderToItsColumn) {
-  const Layout layout = LayOut(Loose("Kredit \xFE \xFE\xFE\xFE\xFE\xFE\xFE"), kBoard, kWidth);
+  const Layout layout = LayOut(Loose("Kredit \xFE \xFE\xFE\xFE\xFE\xFE\xFE"), kBoard, kBoardWidth);
   EXPECT_FALSE(layout.overflow);
   EXPECT_EQ(Text(layout.cells), "Kredit  \xFE \xFE\xFE\xFE\xFE\xFE\xFE");
 }
@@ -40,14 +40,15 @@ TEST(LayOut, CountsNoBlanksInFrontOfAPlaceholder) {
 }
 
 TEST(LayOut, RefusesWhatHasNoRoomBeforeAPlaceholder) {
-  const Layout layout = LayOut(Loose("Guthabenx\xFE \xFE\xFE\xFE\xFE\xFE\xFE"), kBoard, kWidth);
+  const Layout layout =
+      LayOut(Loose("Guthabenx\xFE \xFE\xFE\xFE\xFE\xFE\xFE"), kBoard, kBoardWidth);
   ASSERT_TRUE(layout.overflow);
   EXPECT_EQ(Text(layout.overflow->part), "Guthabenx");
   EXPECT_EQ(layout.overflow->room, (CellRange{0, 8}));
 }
 
 TEST(LayOut, RefusesWhatHasNoRoomBetweenPlaceholders) {
-  const Layout layout = LayOut(Loose("\xFE::\xFE\xFE\xFE\xFE\xFE\xFE"), kBoard, kWidth);
+  const Layout layout = LayOut(Loose("\xFE::\xFE\xFE\xFE\xFE\xFE\xFE"), kBoard, kBoardWidth);
   ASSERT_TRUE(layout.overflow);
   EXPECT_EQ(Text(layout.overflow->part), "::");
   EXPECT_EQ(layout.overflow->room, (CellRange{9, 1}));
