@@ -119,11 +119,20 @@ def make_samples(folder: Path) -> None:
 
 
 class MadeSamplesTest(CliTest):
-    """The samples as the script makes them now."""
+    """The samples as the script makes them now, a copy for each test."""
+
+    made: tempfile.TemporaryDirectory[str]
+
+    @classmethod
+    def setUpClass(cls) -> None:
+        super().setUpClass()
+        cls.made = tempfile.TemporaryDirectory(prefix="vendlingua-samples-")
+        cls.addClassCleanup(cls.made.cleanup)
+        make_samples(Path(cls.made.name))
 
     def setUp(self) -> None:
         super().setUp()
-        make_samples(self.folder)
+        shutil.copytree(self.made.name, self.folder, dirs_exist_ok=True)
 
     def test_they_are_sound(self) -> None:
         printed = self.done("verify", *FILES).out
