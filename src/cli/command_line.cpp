@@ -4,6 +4,7 @@
 
 #include <CLI/CLI.hpp>
 #include <algorithm>
+#include <array>
 #include <exception>
 #include <iostream>
 #include <optional>
@@ -18,6 +19,56 @@
 
 namespace vendlingua::cli {
 namespace {
+
+struct CommandEntry {
+  std::string_view name;
+  void (*add)(CLI::App&, Session&);
+};
+
+constexpr std::array<CommandEntry, 19> kCommands = {{{"info", AddInfo},
+                                                     {"texts", AddTexts},
+                                                     {"put", AddPut},
+                                                     {"new-language", AddNewLanguage},
+                                                     {"export", AddExport},
+                                                     {"apply", AddApply},
+                                                     {"import", AddImport},
+                                                     {"compile", AddCompile},
+                                                     {"sections", AddSections},
+                                                     {"proof", AddProof},
+                                                     {"verify", AddVerify},
+                                                     {"check", AddCheck},
+                                                     {"stats", AddStats},
+                                                     {"diff", AddDiff},
+                                                     {"pretranslate", AddPretranslate},
+                                                     {"update", AddUpdate},
+                                                     {"rename", AddRename},
+                                                     {"display-type", AddDisplayType},
+                                                     {"recover", AddRecover}}};
+
+// What stands before and behind any command.
+void AddProgram(CLI::App& app, Session& session) {
+  app.name("vendlingua-cli");
+  app.description(
+      "Edits the display messages of vending machines and compiles them into flash files.");
+  app.set_version_flag("--version", "vendlingua-cli " + std::string(kVersion));
+  app.add_flag("--json", session.json_output, "print JSON for programs");
+  app.require_subcommand(1);
+  app.fallthrough();
+  // "/" begins a path everywhere.
+  app.allow_windows_style_options(false);
+}
+
+// The grammar of a line that begins with a command is that of the command: to set up all of them
+// takes longer than most commands run.
+void AddGrammarOf(CLI::App& app, Session& session, std::string_view first) {
+  const auto* command = std::ranges::find(kCommands, first, &CommandEntry::name);
+  if (command == kCommands.end()) {
+    AddGrammar(app, session);
+    return;
+  }
+  AddProgram(app, session);
+  command->add(app, session);
+}
 
 // What stands where a command is expected.
 std::optional<std::string> UnknownCommand(const CLI::App& app) {
@@ -80,39 +131,15 @@ void ParseOrHelp(CLI::App& app, int argc, const char* const* argv) {
 }  // namespace
 
 void AddGrammar(CLI::App& app, Session& session) {
-  app.name("vendlingua-cli");
-  app.description(
-      "Edits the display messages of vending machines and compiles them into flash files.");
-  app.set_version_flag("--version", "vendlingua-cli " + std::string(kVersion));
-  app.add_flag("--json", session.json_output, "print JSON for programs");
-  app.require_subcommand(1);
-  app.fallthrough();
-  // "/" begins a path everywhere.
-  app.allow_windows_style_options(false);
-  AddInfo(app, session);
-  AddTexts(app, session);
-  AddPut(app, session);
-  AddNewLanguage(app, session);
-  AddExport(app, session);
-  AddApply(app, session);
-  AddImport(app, session);
-  AddCompile(app, session);
-  AddSections(app, session);
-  AddProof(app, session);
-  AddVerify(app, session);
-  AddCheck(app, session);
-  AddStats(app, session);
-  AddDiff(app, session);
-  AddPretranslate(app, session);
-  AddUpdate(app, session);
-  AddRename(app, session);
-  AddDisplayType(app, session);
-  AddRecover(app, session);
+  AddProgram(app, session);
+  for (const CommandEntry& command : kCommands) {
+    command.add(app, session);
+  }
 }
 
 ExitStatus RunCommandLine(Session& session, int argc, const char* const* argv) {
   CLI::App app;
-  AddGrammar(app, session);
+  AddGrammarOf(app, session, argc > 1 ? argv[1] : "");
   // A line that cannot be parsed is refused as JSON, too.
   session.json_output =
       std::any_of(argv, argv + argc, [](std::string_view given) { return given == "--json"; });

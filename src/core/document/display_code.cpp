@@ -39,8 +39,13 @@ std::optional<DisplayCode> ToDisplayCode(char32_t character) {
 
 std::string ToUtf8(std::span<const DisplayCode> codes) {
   std::string text;
+  text.reserve(codes.size());
   for (const DisplayCode code : codes) {
-    utf8::append(ToUnicode(code), text);
+    if (code < kFirstWindowsCode) {
+      text.push_back(static_cast<char>(code));
+    } else {
+      utf8::append(ToUnicode(code), text);
+    }
   }
   return text;
 }

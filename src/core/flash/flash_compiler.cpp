@@ -109,13 +109,11 @@ fs::path FlashCompiler::AskPath(FilePurpose purpose, UiTextId title, const std::
 void FlashCompiler::CheckOutputs(const CompileOutputs& outputs) const {
   std::vector<KeptFile> kept = {
       {FilePlace(workspace_.set.CurrentFileName), UiTextId::kIsMessageFile}};
-  RefuseToReplace(kept, outputs.flash_file);
-  kept.push_back({FilePlace(outputs.flash_file), UiTextId::kIsFlashFile});
+  kept.push_back({RefuseToReplace(kept, outputs.flash_file), UiTextId::kIsFlashFile});
   RequireReplaceable(outputs.flash_file);
   if (outputs.copy) {
-    RefuseToReplace(kept, *outputs.copy);
+    kept.push_back({RefuseToReplace(kept, *outputs.copy), UiTextId::kIsIdentifiedCopy});
     RequireReplaceable(*outputs.copy);
-    kept.push_back({FilePlace(*outputs.copy), UiTextId::kIsIdentifiedCopy});
   }
   if (IsMhxFamily()) {
     for (const fs::path& path : SectionFiles::Paths(SectionBase(outputs.flash_file))) {

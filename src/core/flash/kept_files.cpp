@@ -4,13 +4,14 @@
 
 namespace vendlingua {
 
-void RefuseToReplace(std::span<const KeptFile> kept, const std::filesystem::path& output) {
-  const FilePlace place(output);
+FilePlace RefuseToReplace(std::span<const KeptFile> kept, const std::filesystem::path& output) {
+  FilePlace place(output);
   for (const KeptFile& file : kept) {
     if (place.IsSameAs(file.place)) {
       throw FileError(output, file.refusal);
     }
   }
+  return place;
 }
 
 }  // namespace vendlingua

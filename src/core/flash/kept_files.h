@@ -16,7 +16,8 @@ struct KeptFile {
 };
 
 /// Throws FileError when `output` leads to one of the files, also where neither is made yet.
-void RefuseToReplace(std::span<const KeptFile> kept, const std::filesystem::path& output);
+/// Returns where it leads.
+FilePlace RefuseToReplace(std::span<const KeptFile> kept, const std::filesystem::path& output);
 
 }  // namespace vendlingua
 

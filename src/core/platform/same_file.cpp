@@ -17,13 +17,20 @@ fs::path Destination(const fs::path& file) {
   return error ? path.lexically_normal() : folder / path.filename();
 }
 
+bool IsMade(const fs::path& file) {
+  std::error_code not_there;
+  return fs::exists(file, not_there);
+}
+
 }  // namespace
 
-FilePlace::FilePlace(const fs::path& file) : file_(file), destination_(Destination(file)) {}
+FilePlace::FilePlace(const fs::path& file)
+    : file_(file), destination_(Destination(file)), is_made_(IsMade(file)) {}
 
 bool FilePlace::IsSameAs(const FilePlace& other) const {
   std::error_code not_there;
-  return destination_ == other.destination_ || fs::equivalent(file_, other.file_, not_there);
+  return destination_ == other.destination_ ||
+         (is_made_ && other.is_made_ && fs::equivalent(file_, other.file_, not_there));
 }
 
 }  // namespace vendlingua

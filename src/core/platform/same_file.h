@@ -18,6 +18,7 @@ class FilePlace {
  private:
   std::filesystem::path file_;
   std::filesystem::path destination_;
+  bool is_made_;
 };
 
 inline bool LeadToSameFile(const std::filesystem::path& a, const std::filesystem::path& b) {
