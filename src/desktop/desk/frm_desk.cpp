@@ -4,7 +4,6 @@
 #include <QHBoxLayout>
 #include <QHeaderView>
 #include <QScreen>
-#include <QShortcut>
 #include <QSignalBlocker>
 #include <QVBoxLayout>
 #include <array>
@@ -127,8 +126,7 @@ void FrmDesk::ConnectFinder() {
 
 void FrmDesk::AddShortcuts() {
   const auto add = [this](QKeyCombination key, auto&& command) {
-    auto* shortcut = new QShortcut(QKeySequence(key), this);
-    connect(shortcut, &QShortcut::activated, this, command);
+    addAction(QString(), QKeySequence(key), this, command);
   };
   add(Qt::CTRL | Qt::Key_F, [this] { find_bar_->Begin(); });
   add(Qt::Key_F3, [this] { finder_->GoToNext(); });
