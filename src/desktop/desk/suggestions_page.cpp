@@ -41,7 +41,7 @@ SuggestionsPage::SuggestionsPage(const Workspace& workspace, QWidget* parent)
       nothing_(new QLabel(this)),
       unreadable_(new QLabel(this)),
       pretranslate_(new QPushButton(this)),
-      memory_(new QToolButton(this)),
+      memory_(new QPushButton(this)),
       memory_menu_(new QMenu(this)) {
   list_->setObjectName(QStringLiteral("DeskSuggestions"));
   nothing_->setObjectName(QStringLiteral("DeskNoSuggestions"));
@@ -56,8 +56,6 @@ SuggestionsPage::SuggestionsPage(const Workspace& workspace, QWidget* parent)
   nothing_->setWordWrap(true);
   nothing_->setAlignment(Qt::AlignCenter);
   memory_->setMenu(memory_menu_);
-  memory_->setPopupMode(QToolButton::InstantPopup);
-  memory_->setFocusPolicy(Qt::StrongFocus);
   auto* buttons = new QHBoxLayout;
   buttons->addWidget(pretranslate_);
   buttons->addStretch();

@@ -6,7 +6,6 @@
 #include <QMenu>
 #include <QPushButton>
 #include <QStringList>
-#include <QToolButton>
 #include <QWidget>
 #include <filesystem>
 #include <vector>
@@ -67,7 +66,7 @@ class SuggestionsPage : public QWidget {
   QLabel* nothing_;
   QLabel* unreadable_;
   QPushButton* pretranslate_;
-  QToolButton* memory_;
+  QPushButton* memory_;
   QMenu* memory_menu_;
 };
 
