@@ -90,6 +90,7 @@ VIAddVersionKey "LegalCopyright" "Copyright (c) 2026 The Vendlingua developers"
 
   ; Removes what is installed, and every folder that is empty then.
   Function ${un}RemoveInstalled
+    InitPluginsDir
     CopyFiles /SILENT "$INSTDIR\${LIST}" "$PLUGINSDIR\${LIST}"
     ClearErrors
     FileOpen $0 "$PLUGINSDIR\${LIST}" r
@@ -161,25 +162,35 @@ Function Unpack
   ${EndIf}
 FunctionEnd
 
-; The unpacked files take their places.
+; The unpacked files take their places. One that cannot ends the installation, if the user does not mend it; the
+; list is there first, so that the uninstaller knows what is, too.
 Function PutInPlace
+  Rename "${NEW}\${LIST}" "$INSTDIR\${LIST}"
   ClearErrors
-  FileOpen $0 "${NEW}\${LIST}" r
+  FileOpen $3 "$INSTDIR\${LIST}" r
   ${Do}
-    FileRead $0 $1
+    FileRead $3 $1
     ${If} ${Errors}
       ${ExitDo}
     ${EndIf}
     ${TrimNewLines} $1 $1
     ${If} $1 != "${LIST}"
-      ${GetParent} "$INSTDIR\$1" $2
+      StrCpy $0 "$INSTDIR\$1"
+      ${GetParent} $0 $2
       CreateDirectory $2
-      Rename "${NEW}\$1" "$INSTDIR\$1"
+      retry:
+      Delete $0
+      ClearErrors
+      Rename "${NEW}\$1" $0
+      ${If} ${Errors}
+        MessageBox MB_RETRYCANCEL|MB_ICONSTOP "$(^FileError_NoIgnore)" /SD IDCANCEL IDRETRY retry
+        FileClose $3
+        Abort "$(^FileError_NoIgnore)"
+      ${EndIf}
     ${EndIf}
     ClearErrors
   ${Loop}
-  FileClose $0
-  Rename "${NEW}\${LIST}" "$INSTDIR\${LIST}"
+  FileClose $3
   RMDir /r "${NEW}"
   ; A message file that is edited is to be a copy.
   SetFileAttributes "$INSTDIR\samples\FW0417AB.MES" READONLY
