@@ -228,6 +228,7 @@ FunctionEnd
 
 Section "${PROGRAM}"
   SectionIn RO
+  AddSize ${SIZE}
   StrCpy $0 "vendlingua.exe"
   Call RefuseWhileRunning
   StrCpy $0 "vendlingua-cli.exe"
