@@ -33,13 +33,24 @@ bool MayBeARecord(std::string_view bytes) {
                     [](char byte, char ours) { return byte == ours || byte == '\0'; });
 }
 
+std::uint64_t EndAfter(const ChangedBytes& change) {
+  return change.position + std::uint64_t{change.after.size()};
+}
+
+// Whether the record has all bytes by which the file grows: a few bytes make nobody take room for
+// more than lies on the disk.
+bool HoldsTheGrowth(const ChangeRecord& record) {
+  return record.length_before == record.length_after ||
+         (record.length_before < record.length_after && !record.changes.empty() &&
+          EndAfter(record.changes.back()) == record.length_after);
+}
+
 // Whether every change lies in the files that the record tells of.
-bool IsConsistent(const ChangeRecord& record) {
-  return record.length_before <= record.length_after &&
-         std::all_of(record.changes.begin(), record.changes.end(), [&](const ChangedBytes& change) {
-           return change.position + std::uint64_t{change.before.size()} <= record.length_before &&
-                  change.position + std::uint64_t{change.after.size()} <= record.length_after;
-         });
+bool LiesInItsFiles(const ChangeRecord& record) {
+  return std::all_of(record.changes.begin(), record.changes.end(), [&](const ChangedBytes& change) {
+    return change.position + std::uint64_t{change.before.size()} <= record.length_before &&
+           EndAfter(change) <= record.length_after;
+  });
 }
 
 // Whether `content` has, where the record changes bytes, only such as were there before or after,
@@ -135,7 +146,7 @@ ParsedRecord ParseRecord(std::string_view bytes) {
     return {std::nullopt, true};
   }
   std::optional<ChangeRecord> record = ReadRecord(checked.substr(kFirstLine.size()));
-  const bool usable = record && IsConsistent(*record);
+  const bool usable = record && HoldsTheGrowth(*record) && LiesInItsFiles(*record);
   return {usable ? std::move(record) : std::nullopt, !usable};
 }
 

@@ -117,6 +117,15 @@ TEST(ChangeRecord, IsUnusableWhenItReachesBeyondItsFile) {
   }
 }
 
+// It would have the file grow to as much as a number can say, a gigabyte or more.
+TEST(ChangeRecord, IsUnusableWithoutTheBytesByWhichTheFileGrows) {
+  for (const ChangeRecord& record :
+       {ChangeRecord{3, 0x60000000, 0, {}}, ChangeRecord{0, 0x60000000, 0, {{0, "", "a"}}},
+        ChangeRecord{3, 5, 0, {{3, "", "a"}}}, ChangeRecord{3, 5, 0, {{0, "abc", "xyz"}}}}) {
+    EXPECT_FALSE(ParseRecord(ComposeRecord(record)).record);
+  }
+}
+
 TEST(ChangeState, TellsTheTwoEndsFromWhatLiesBetween) {
   const ChangeRecord record = RecordOf(kBefore, After());
   EXPECT_EQ(StateOf(record, kBefore), ChangeState::kNotBegun);
