@@ -87,9 +87,10 @@ def make_tree(build: Path, tree: Path, version: str) -> None:
         installed = Path(folder)
         run("cmake", "--install", build, "--strip", "--prefix", installed)
         shutil.copytree(installed / "lib/vendlingua", tree)
-        # Without the link to the guide, which lies beside the programs.
+        # The guide lies beside the programs.
         documents, guide = installed / "share/doc/vendlingua", shutil.ignore_patterns("guide")
         shutil.copytree(documents, tree / "documents", ignore=guide)
+        (tree / "documents/docs/guide").symlink_to("../../guide")
     origins = add_qt(tree)
     # Of the programs alone: an RPATH, other than a RUNPATH, holds for what the libraries load, too, so
     # these stay as the distribution built them.

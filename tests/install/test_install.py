@@ -112,8 +112,8 @@ class TreeTest(InstallTest):
 
     def test_the_guide_lies_among_the_documents_too(self) -> None:
         install(self.prefix)
-        link = self.prefix / "share/doc/vendlingua/guide"
-        self.assertEqual(os.readlink(link), "../../../lib/vendlingua/guide")
+        link = self.prefix / "share/doc/vendlingua/docs/guide"
+        self.assertEqual(os.readlink(link), "../../../../lib/vendlingua/guide")
         self.assertTrue((link / "en/index.html").is_file())
 
     def test_the_links_of_the_documents_lead_somewhere(self) -> None:

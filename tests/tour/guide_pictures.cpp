@@ -166,11 +166,9 @@ class GuidePictures {
 
   void Editor() {
     Open(Sample(kFile), 2);
-    Translate(45, "E08 Water tank");
-    Save(program_.window(), "window");
     program_.Get<QPushButton>("Command1").click();
     Translate(43, "E12 Coffee<60 \u00B0C");
-    Save(program_.window(), "editor");
+    Save(program_.window(), "window");
     program_.Get<QPushButton>("Command1").click();
     program_.Choose("mnuSave");
   }

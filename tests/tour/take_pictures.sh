@@ -1,5 +1,5 @@
 #!/bin/sh
-# Takes the pictures of the user's guide and of the README anew, twice as large as on the screen, under a
+# Takes the pictures of the user's guide anew, twice as large as on the screen, under a
 # display of its own. BUILD is a build folder with the tour.
 # Usage: take_pictures.sh BUILD
 set -eu
@@ -9,8 +9,6 @@ pictures=$(mktemp -d)
 trap 'rm -rf "$pictures"' EXIT
 QT_QPA_PLATFORM=xcb QT_SCALE_FACTOR=2 xvfb-run --auto-servernum --server-args="-screen 0 2400x2000x24" \
   "$build/tests/guide_pictures" data/samples "$build/bin/vendlingua-cli" "$pictures"
-cp "$pictures"/en/editor.png "$pictures"/en/desk.png "$pictures"/en/compiler.png docs/images
-rm "$pictures"/*/editor.png
 for language in en it; do
   mkdir -p docs/guide/images/$language
   cp "$pictures/$language"/*.png docs/guide/images/$language
