@@ -228,13 +228,7 @@ class DeskTableTest : public DeskTest {
     QCOMPARE(Table().model()->headerData(4, Qt::Horizontal).toString(), QStringLiteral("State"));
   }
 
-  void StatesStandWholeInEveryLanguage_data() {
-    QTest::addColumn<QByteArray>("entry");
-    for (int language = 0; language < 9; ++language) {
-      const QByteArray entry = "smnuLingue(" + QByteArray::number(language) + ")";
-      QTest::newRow(entry.constData()) << entry;
-    }
-  }
+  void StatesStandWholeInEveryLanguage_data() { AddEntriesOfLanguages(); }
   void StatesStandWholeInEveryLanguage() {
     QFETCH(QByteArray, entry);
     OpenDesk();

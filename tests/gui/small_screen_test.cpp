@@ -24,14 +24,6 @@ class SmallScreenTest : public DeskTest {
   Q_OBJECT
 
  private:
-  static void AddLanguageRows() {
-    QTest::addColumn<QByteArray>("entry");
-    for (int language = 0; language < 9; ++language) {
-      const QByteArray entry = "smnuLingue(" + QByteArray::number(language) + ")";
-      QTest::newRow(entry.constData()) << entry;
-    }
-  }
-
   void Speak() {
     QFETCH(QByteArray, entry);
     desk_->program.Choose(entry.constData());
@@ -48,7 +40,7 @@ class SmallScreenTest : public DeskTest {
   }
 
  private slots:
-  void TheDesk_data() { AddLanguageRows(); }
+  void TheDesk_data() { AddEntriesOfLanguages(); }
   void TheDesk() {
     Speak();
     desk_->Edit(MesFile());
@@ -57,7 +49,7 @@ class SmallScreenTest : public DeskTest {
   }
 
   // It scrolls up and down alone.
-  void WhatStandsBesideTheTableIsAsWideAsItNeeds_data() { AddLanguageRows(); }
+  void WhatStandsBesideTheTableIsAsWideAsItNeeds_data() { AddEntriesOfLanguages(); }
   void WhatStandsBesideTheTableIsAsWideAsItNeeds() {
     Speak();
     desk_->Edit(MesFile());
@@ -68,7 +60,7 @@ class SmallScreenTest : public DeskTest {
     QCOMPARE(area.widget()->width(), area.viewport()->width());
   }
 
-  void WhatIsLookedForCanBeRead_data() { AddLanguageRows(); }
+  void WhatIsLookedForCanBeRead_data() { AddEntriesOfLanguages(); }
   void WhatIsLookedForCanBeRead() {
     Speak();
     desk_->Edit(MesFile());
@@ -100,14 +92,14 @@ class SmallScreenTest : public DeskTest {
     QCOMPARE(desk_->program.desk().size().boundedTo(room), desk_->program.desk().size());
   }
 
-  void ThePreview_data() { AddLanguageRows(); }
+  void ThePreview_data() { AddEntriesOfLanguages(); }
   void ThePreview() {
     Speak();
     const PreviewDialog dialog(desk_->program.workspace(), Preview(), nullptr);
     CheckThatItFits(dialog);
   }
 
-  void TheCompiler_data() { AddLanguageRows(); }
+  void TheCompiler_data() { AddEntriesOfLanguages(); }
   void TheCompiler() {
     Speak();
     desk_->Edit(MesFile());
@@ -115,7 +107,7 @@ class SmallScreenTest : public DeskTest {
     CheckThatItFits(*desk_->program.compiler());
   }
 
-  void TheInformation_data() { AddLanguageRows(); }
+  void TheInformation_data() { AddEntriesOfLanguages(); }
   void TheInformation() {
     Speak();
     desk_->program.Choose("mnuInf");

@@ -1,5 +1,6 @@
 #include "gui/support/desk_test.h"
 
+#include <QByteArray>
 #include <QLabel>
 #include <QTest>
 
@@ -27,6 +28,14 @@ QString DeskTest::Say(const UiSentence& sentence) const {
 }
 
 QString DeskTest::Status() const { return desk_->program.Get<QLabel>("Status").toolTip(); }
+
+void DeskTest::AddEntriesOfLanguages() {
+  QTest::addColumn<QByteArray>("entry");
+  for (int language = 0; language < 9; ++language) {
+    const QByteArray entry = "smnuLingue(" + QByteArray::number(language) + ")";
+    QTest::newRow(entry.constData()) << entry;
+  }
+}
 
 void DeskTest::init() { desk_ = std::make_unique<Desk>(); }
 

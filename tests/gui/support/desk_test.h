@@ -46,6 +46,9 @@ class DeskTest : public QObject {
   /// How the last command ended, as the status line says it in full.
   QString Status() const;
 
+  /// Rows for a test in every interface language: "entry" is the name of its menu entry.
+  static void AddEntriesOfLanguages();
+
   std::unique_ptr<Desk> desk_;
 
  private slots:
