@@ -1,5 +1,5 @@
 ; The installer: for one user, without an administrator. installer.py defines VERSION, SIZE (KiB), ICON, OUT, LISTS
-; (a folder with what it made of the program's folder and of the file types) and, to sign it, SIGN.
+; (a folder with what it made of the program's folder and of the file types, and the picture) and, to sign it, SIGN.
 ;
 ; Everything that can fail is done before a file of the version that is there is touched: the new files are
 ; unpacked beside the old ones, and only then take their places. What is installed is listed in installed.txt,
@@ -43,6 +43,7 @@ VIAddVersionKey "LegalCopyright" "Copyright (c) 2026 The Vendlingua developers"
 
 !define MUI_ICON "${ICON}"
 !define MUI_UNICON "${ICON}"
+!define MUI_WELCOMEFINISHPAGE_BITMAP "${LISTS}/picture.bmp"
 !define MUI_ABORTWARNING
 !define MUI_COMPONENTSPAGE_NODESC
 !define MUI_FINISHPAGE_RUN "$INSTDIR\vendlingua.exe"
@@ -130,6 +131,21 @@ Function .onInit
   ${EndIf}
 FunctionEnd
 
+Function RefuseToWrite
+  MessageBox MB_OK|MB_ICONSTOP "$(CannotWrite)" /SD IDOK
+  Abort "$(CannotWrite)"
+FunctionEnd
+
+; Where nobody may write, no program can be asked whether it runs.
+Function RefuseWithoutPermission
+  RMDir /r "${NEW}"
+  ClearErrors
+  CreateDirectory "${NEW}"
+  ${If} ${Errors}
+    Call RefuseToWrite
+  ${EndIf}
+FunctionEnd
+
 ; The new files need room beside the old ones.
 Function RefuseWithoutSpace
   ${GetRoot} $INSTDIR $0
@@ -150,15 +166,13 @@ Function .onInstFailed
 FunctionEnd
 
 Function Unpack
-  RMDir /r "${NEW}"
   ClearErrors
   SetOverwrite try
   SetOutPath "${NEW}"
   !include "${LISTS}/unpack.nsh"
   SetOutPath $TEMP
   ${If} ${Errors}
-    MessageBox MB_OK|MB_ICONSTOP "$(CannotWrite)" /SD IDOK
-    Abort "$(CannotWrite)"
+    Call RefuseToWrite
   ${EndIf}
 FunctionEnd
 
@@ -229,6 +243,7 @@ FunctionEnd
 Section "${PROGRAM}"
   SectionIn RO
   AddSize ${SIZE}
+  Call RefuseWithoutPermission
   StrCpy $0 "vendlingua.exe"
   Call RefuseWhileRunning
   StrCpy $0 "vendlingua-cli.exe"

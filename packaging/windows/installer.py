@@ -10,7 +10,8 @@ from pathlib import Path, PureWindowsPath
 from signing import is_asked_for
 
 HERE = Path(__file__).resolve().parent
-FILE_TYPES = HERE.parents[1] / "data/linux/vendlingua-mime.xml"
+DATA = HERE.parents[1] / "data"
+FILE_TYPES = DATA / "linux/vendlingua-mime.xml"
 MIME = "{http://www.freedesktop.org/standards/shared-mime-info}"
 # Where no language is named, it is English.
 LANGUAGES = {
@@ -47,6 +48,15 @@ def type_names() -> str:
     return "\n".join(lines) + "\n"
 
 
+def draw_picture(picture: Path) -> None:
+    """Draws what stands on the installer's last page, in the one format that NSIS takes."""
+    drawing = ["rsvg-convert", DATA / "windows/installer.svg"], ["pngtopam"], ["ppmtobmp", "-quiet", "-windows", "-bpp=24"]
+    drawn = b""
+    for step in drawing:
+        drawn = subprocess.run(step, input=drawn, check=True, stdout=subprocess.PIPE).stdout
+    picture.write_bytes(drawn)
+
+
 def make_installer(tree: Path, icon: Path, version: str, installer: Path) -> None:
     files = sorted(path.relative_to(tree) for path in tree.rglob("*") if path.is_file())
     listed = [*files, Path(LIST)]
@@ -56,6 +66,7 @@ def make_installer(tree: Path, icon: Path, version: str, installer: Path) -> Non
         (tree / LIST).write_text("".join(windows(file) + "\r\n" for file in listed), newline="")
         (lists / "unpack.nsh").write_text(unpacking(tree, listed), encoding="utf-8")
         (lists / "types.nsh").write_text(type_names(), encoding="utf-8")
+        draw_picture(lists / "picture.bmp")
         partial = installer.with_name(installer.name + ".part")
         command = ["makensis", "-V2", "-WX", "-INPUTCHARSET", "UTF8", "-NOCD"]
         defined = {"VERSION": version, "SIZE": kib, "ICON": icon.resolve(), "LISTS": lists, "OUT": partial.resolve()}
