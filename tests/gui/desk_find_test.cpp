@@ -152,6 +152,21 @@ class DeskFindTest : public DeskTest {
     QVERIFY(!desk_->program.Entry("mnuUndo").isEnabled());
   }
 
+  void ThePreviewShowsTheCellsOfTheBoard() {
+    MesFile mes;
+    mes.names = {"Default", "ITALIANO", "ENGLISH"};
+    std::string content = mes.Bytes();
+    for (const std::size_t language : {1U, 2U}) {
+      const std::string text = mes.Message(language, 2);
+      content.replace(content.find(text), text.size(), text.substr(0, 3) + "\xFE");
+    }
+    OpenAtDesk(content);
+    LookIn(SearchedTexts::kDestination);
+    Find().setText(QStringLiteral("2"));
+    Replace("X", QDialogButtonBox::RejectRole);
+    QCOMPARE(preview_.value(2), QStringLiteral("2 222\u00FE>XXX\u00FE"));
+  }
+
   void RefusesWhatWouldNotFit() {
     OpenDesk();
     desk_->Type("2 ");

@@ -5,6 +5,7 @@
 #include <QLabel>
 #include <QScreen>
 #include <QVBoxLayout>
+#include <algorithm>
 
 #include "desktop/fonts/display_font.h"
 #include "desktop/fonts/widget_text.h"
@@ -17,10 +18,23 @@ constexpr QSize kPreviewSize(640, 420);
 
 enum PreviewColumn { kMessageColumn, kBeforeColumn, kAfterColumn, kRemarkColumn };
 
+// `text` as the display will show it: texts to be put in may have blanks where the board fills
+// cells.
+QString Displayed(const MessageSet& set, std::size_t message, DisplayCodes text) {
+  for (std::size_t cell = 0; cell < set.Width(); ++cell) {
+    if (set.BoardFills(message, cell)) {
+      text.resize(std::max(text.size(), cell + 1), kBlank);
+      text[cell] = kPlaceholder;
+    }
+  }
+  return ToWidgetText(text);
+}
+
 }  // namespace
 
 PreviewDialog::PreviewDialog(const Workspace& workspace, const Preview& preview, QWidget* parent)
     : QDialog(parent),
+      set_(workspace.set),
       ui_text_(workspace.ui_text),
       rows_(preview.rows),
       table_(new QTableWidget(this)) {
@@ -36,7 +50,7 @@ PreviewDialog::PreviewDialog(const Workspace& workspace, const Preview& preview,
   layout->addWidget(new QLabel(preview.summary, this));
   layout->addWidget(table_, 1);
   layout->addWidget(buttons);
-  Fill(preview, SpacedLikeCells(DisplayFont(workspace.set.DisplayType)));
+  Fill(preview, SpacedLikeCells(DisplayFont(set_.DisplayType)));
   accept_->setEnabled(!Texts().empty());
   connect(table_, &QTableWidget::itemChanged, this,
           [this] { accept_->setEnabled(!Texts().empty()); });
@@ -68,8 +82,8 @@ void PreviewDialog::Fill(const Preview& preview, const QFont& display_font) {
 
 void PreviewDialog::FillRow(int row, const PreviewRow& text, const QFont& display_font) {
   auto* number = new QTableWidgetItem(QString::number(text.message));
-  auto* before = new QTableWidgetItem(ToWidgetText(text.before));
-  auto* after = new QTableWidgetItem(text.after ? ToWidgetText(*text.after)
+  auto* before = new QTableWidgetItem(Displayed(set_, text.message, text.before));
+  auto* after = new QTableWidgetItem(text.after ? Displayed(set_, text.message, *text.after)
                                                 : FromUtf8(ui_text_[UiTextId::kDoesNotFit]));
   before->setFont(display_font);
   if (text.after) {

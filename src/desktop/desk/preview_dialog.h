@@ -46,6 +46,7 @@ class PreviewDialog : public QDialog {
   void Fill(const Preview& preview, const QFont& display_font);
   void FillRow(int row, const PreviewRow& text, const QFont& display_font);
 
+  const MessageSet& set_;
   const UiText& ui_text_;
   std::vector<PreviewRow> rows_;
   QTableWidget* table_;
