@@ -1,6 +1,8 @@
 #include "core/platform/files.h"
 
+#include <chrono>
 #include <system_error>
+#include <thread>
 
 #include "core/platform/errors.h"
 #include "core/platform/file_errors.h"
@@ -19,6 +21,29 @@ UiTextId ActionOf(Access access) {
 
 UiTextId NoFileFor(Access access) {
   return access == Access::kRead ? UiTextId::kNoReadableFile : UiTextId::kNoWritableFile;
+}
+
+// Windows takes the name of a file away for a moment while it is replaced.
+#ifdef _WIN32
+constexpr int kMostTries = 5;
+#else
+constexpr int kMostTries = 1;
+#endif
+constexpr std::chrono::milliseconds kMoment(2);
+
+std::error_code TryToOpen(FileHandle& file, const fs::path& path, Access access) {
+  std::error_code error;
+  const fs::file_status status = fs::status(path, error);
+  if (!fs::exists(status)) {
+    return error ? error : std::make_error_code(std::errc::no_such_file_or_directory);
+  }
+  if (access == Access::kChange && fs::is_directory(status)) {
+    return std::make_error_code(std::errc::is_a_directory);
+  }
+  if (!fs::is_regular_file(status)) {
+    throw FileError(path, NoFileFor(access));
+  }
+  return file.Open(path, access);
 }
 
 }  // namespace
@@ -41,19 +66,13 @@ std::string ReadWhole(FileHandle& file, const fs::path& path, std::uint64_t limi
 }
 
 void OpenRegularFile(FileHandle& file, const fs::path& path, Access access) {
-  std::error_code error;
-  const fs::file_status status = fs::status(path, error);
-  if (!fs::exists(status)) {
-    ThrowFileError(path, ActionOf(access),
-                   error ? error : std::make_error_code(std::errc::no_such_file_or_directory));
+  std::error_code error = TryToOpen(file, path, access);
+  for (int tries = 1; tries < kMostTries && error == std::errc::no_such_file_or_directory;
+       ++tries) {
+    std::this_thread::sleep_for(kMoment);
+    error = TryToOpen(file, path, access);
   }
-  if (access == Access::kChange && fs::is_directory(status)) {
-    ThrowFileError(path, ActionOf(access), std::make_error_code(std::errc::is_a_directory));
-  }
-  if (!fs::is_regular_file(status)) {
-    throw FileError(path, NoFileFor(access));
-  }
-  RequireDone(path, ActionOf(access), file.Open(path, access));
+  RequireDone(path, ActionOf(access), error);
   // Something else may have taken its place meanwhile.
   if (!file.IsRegularFile()) {
     throw FileError(path, NoFileFor(access));
