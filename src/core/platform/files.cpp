@@ -25,9 +25,9 @@ UiTextId NoFileFor(Access access) {
 
 // Windows takes the name of a file away for a moment while it is replaced.
 #ifdef _WIN32
-constexpr int kMostTries = 5;
+constexpr int kOpenTries = 5;
 #else
-constexpr int kMostTries = 1;
+constexpr int kOpenTries = 1;
 #endif
 constexpr std::chrono::milliseconds kMoment(2);
 
@@ -67,7 +67,7 @@ std::string ReadWhole(FileHandle& file, const fs::path& path, std::uint64_t limi
 
 void OpenRegularFile(FileHandle& file, const fs::path& path, Access access) {
   std::error_code error = TryToOpen(file, path, access);
-  for (int tries = 1; tries < kMostTries && error == std::errc::no_such_file_or_directory;
+  for (int tries = 1; tries < kOpenTries && error == std::errc::no_such_file_or_directory;
        ++tries) {
     std::this_thread::sleep_for(kMoment);
     error = TryToOpen(file, path, access);
