@@ -13,8 +13,8 @@ endif()
 # MinSizeRel is for packages of distributions: small, and with the libraries of the distribution. Where the small
 # functions of the standard library are not part of their callers, the rules of "check" take half as long again.
 if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
-  set(CMAKE_CXX_FLAGS_MINSIZEREL
-    "-Os -DNDEBUG --param=max-inline-insns-size=20 --param=early-inlining-insns=10")
+  string(APPEND CMAKE_CXX_FLAGS_MINSIZEREL
+    " --param=max-inline-insns-size=20 --param=early-inlining-insns=10")
 endif()
 
 # What every target of ours is compiled with.
